@@ -1,0 +1,19 @@
+# shellcheck shell=bash disable=SC2034
+# How the appliance's launcher ends when it cannot do what it was asked for: one sentence and a status
+# that says which kind it was. COMMAND's own exit status stays below 64 by custom.
+
+STATUS_USAGE=64         # what was asked for is not understood
+STATUS_PORT=65          # the port to publish at is taken
+STATUS_SECOND_START=66  # the state folder is in use
+STATUS_STATE=67         # a folder cannot be written
+STATUS_KERNEL=68        # the kernel lacks something
+STATUS_NO_NAMESPACES=69 # the machine allows no namespaces
+STATUS_SERVICE=70       # a service of the appliance did not start, or ended
+STATUS_PREPARE=71       # not installed or not built
+
+fail() {
+  local status=$1
+  shift
+  echo "$*" >&2
+  exit "$status"
+}

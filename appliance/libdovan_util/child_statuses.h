@@ -1,0 +1,11 @@
+// Keeps the statuses of children while commands run. The kernel throws them away in a process that
+// ignores SIGCHLD, as one does whose parent ignored it; so long as one of these exists, it does not.
+#pragma once
+
+class ChildStatuses {
+ public:
+  ChildStatuses();
+  ~ChildStatuses();
+  ChildStatuses(const ChildStatuses&) = delete;
+  ChildStatuses& operator=(const ChildStatuses&) = delete;
+};

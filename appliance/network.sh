@@ -1,0 +1,57 @@
+# shellcheck shell=bash
+# The appliance's network and the small LAN beside it, each a network namespace. To be sourced by bash.
+#
+#   network_create FOLDER
+#       Makes FOLDER/appliance.net (eth0, eth2) and FOLDER/lan.net (lan0, the other end of eth0, and lan2,
+#       that of eth2), to be entered with `nsenter --net=FILE`. Both go with the caller's mount namespace.
+#   network_start_lan FOLDER CONFIGURATION
+#       Starts the LAN's services in the background; they are ready when this returns. Their log is
+#       FOLDER/lan.log.
+#
+# Each returns 1 after one sentence on standard error when the kernel or the program refuses.
+
+LAN_ADDRESSES=('10.20.0.1/24' '2001:db8:20::1/64 nodad')
+
+network_create() {
+  local folder=$1 name error
+  for name in appliance lan; do
+    : >"$folder/$name.net"
+    error=$(unshare --net mount --bind /proc/self/ns/net "$folder/$name.net" 2>&1) ||
+      { echo "The kernel allows no network namespace: $error" >&2; return 1; }
+  done
+  error=$(_network_connect "$folder" 2>&1) ||
+    { echo "The kernel allows no virtual Ethernet: $error" >&2; return 1; }
+}
+
+_network_connect() {
+  local folder=$1 address
+  _network_in appliance ip link set lo up && _network_in lan ip link set lo up &&
+    _network_link eth0 lan0 00 && _network_link eth2 lan2 02 || return
+  for address in "${LAN_ADDRESSES[@]}"; do
+    # shellcheck disable=SC2086 # an address and its flags
+    _network_in lan ip address add dev lan0 $address || return
+  done
+}
+
+network_start_lan() {
+  local folder=$1 configuration=$2
+  # No change of user or group: in a user namespace there is no other.
+  nsenter --net="$folder/lan.net" dnsmasq --conf-file="$configuration" --user=root --group= --pid-file= \
+    --dhcp-leasefile="$folder/lan.leases" --log-facility="$folder/lan.log" </dev/null
+}
+
+_network_in() {
+  local name=$1
+  shift
+  nsenter --net="$folder/$name.net" "$@"
+}
+
+# The hardware addresses are the same at every start, as a real device's: leases and addresses that are
+# derived from them come back. IPv6 stays off on the appliance's side until its settings switch it on.
+_network_link() {
+  local near=$1 far=$2 number=$3
+  _network_in appliance ip link add "$near" address "02:00:0a:14:$number:07" type veth \
+    peer name "$far" address "02:00:0a:14:$number:01" netns "$folder/lan.net" &&
+    _network_in appliance sh -c "echo 1 >/proc/sys/net/ipv6/conf/$near/disable_ipv6" &&
+    _network_in appliance ip link set "$near" up && _network_in lan ip link set "$far" up
+}

@@ -1,0 +1,119 @@
+#!/bin/sh
+# Brings the web service into the SSL mode of the management database. A running web server starts anew in
+# that mode when the answers under way have gone out.
+# shellcheck disable=SC2016 # the variables are the web server's
+# shellcheck source=SCRIPTDIR/device.sh
+. "${0%/*}/device.sh"
+# shellcheck source=SCRIPTDIR/management.sh
+. "$BIN/management.sh"
+
+CONFIGURATION=$LIBRARY/HTTPService/lighttpd/conf
+SOCKETS=$CONFIGURATION/sockets # "http ADDRESS:PORT" and "https ...", and "published HTTP:HTTPS", the ports outside
+MODE=$CONFIGURATION/mode.conf
+KEY=$CONFIGURATION/key.pem
+CERTIFICATE=$CONFIGURATION/certificate.pem
+CERTIFICATE_NAMES=$CONFIGURATION/certificate.names
+WEB_SERVER_PROCESS=/run/lighttpd/lighttpd.pid
+DAYS_VALID=825
+RENEWED_BEFORE=2592000 # seconds before its end
+
+# The names and addresses that the certificate is for, in openssl's notation.
+certificate_names() {
+  read -r host </proc/sys/kernel/hostname
+  printf 'DNS:%s,DNS:localhost,IP:127.0.0.1' "$host"
+  ip -oneline address show scope global | while read -r _ _ _ address _; do
+    printf ',IP:%s' "${address%/*}"
+  done
+}
+
+# The key is made once; the certificate again when the appliance has got another name or address, or when
+# it is about to end.
+require_certificate() {
+  names=$(certificate_names)
+  read_line "$CERTIFICATE_NAMES"
+  if [ "$line" != "$names" ] || [ ! -s "$KEY" ] ||
+    ! openssl x509 -checkend "$RENEWED_BEFORE" -noout -in "$CERTIFICATE" >/dev/null 2>&1; then
+    (umask 077 && make_certificate "$names") 2>"$RUN/certificate.log" ||
+      fail "no certificate can be made: $(tail -n 1 "$RUN/certificate.log")"
+  fi
+}
+
+make_certificate() {
+  if [ ! -s "$KEY" ]; then
+    openssl genrsa -out "$KEY.new" 3072 && mv "$KEY.new" "$KEY" || return
+  fi
+  common_name=${1#DNS:}
+  openssl req -new -x509 -sha256 -key "$KEY" -days "$DAYS_VALID" -subj "/CN=${common_name%%,*}" \
+    -addext "subjectAltName=$1" -out "$CERTIFICATE.new" &&
+    mv "$CERTIFICATE.new" "$CERTIFICATE" && printf '%s\n' "$1" >"$CERTIFICATE_NAMES"
+}
+
+# The first address is the server's own, in the terms of its configuration; the others are further ones.
+listen_to_http() {
+  while read -r kind socket; do
+    [ "$kind" = http ] || continue
+    if [ -n "${own-}" ]; then
+      printf '$SERVER["socket"] == "%s" { }\n' "$socket"
+    else
+      own=${socket%:*}
+      printf 'server.bind = "%s"\nserver.port = %s\n' "$own" "${socket##*:}"
+    fi
+  done <"$SOCKETS"
+}
+
+listen_to_https() {
+  printf '%s\n' 'server.modules += ( "mod_access", "mod_openssl" )' "ssl.privkey = \"$KEY\"" "ssl.pemfile = \"$CERTIFICATE\"" \
+    'ssl.openssl.ssl-conf-cmd = ( "MinProtocol" => "TLSv1.2" )'
+  while read -r kind socket; do
+    [ "$kind" != https ] || printf '$SERVER["socket"] == "%s" { ssl.engine = "enable" }\n' "$socket"
+  done <"$SOCKETS"
+}
+
+# redirect HOST-EXPRESSION PORT: what is asked for by HTTP is to be asked for again.
+redirect() {
+  printf '  $HTTP["host"] =~ "%s" { url.redirect = ( "" => "https://%%1%s${url.path}${qsa}" ) }\n' "$1" "$2"
+}
+
+redirect_http() {
+  # Not for good: the mode can be switched off again.
+  printf '%s\n' '$HTTP["scheme"] == "http" {' '  url.redirect-code = 307'
+  ports=$(sed -n 's/^published //p' "$SOCKETS")
+  if [ -n "$ports" ]; then
+    redirect "^(.+):${ports%:*}\$" ":${ports#*:}"
+    printf '  else '
+  fi
+  redirect '^(.+?)(:80)?$' ''
+  # Who does not say for which host gets nothing.
+  printf '%s\n' '  else { url.access-deny = ( "" ) }' '}'
+}
+
+store_mode() {
+  {
+    listen_to_http
+    if [ "$1" = 1 ]; then
+      listen_to_https
+      redirect_http
+    fi
+  } >"$MODE.new" && mv "$MODE.new" "$MODE"
+}
+
+# Starting anew by itself, the server takes new connections all the while; but only webServer.sh, its parent, can have
+# it give up the sockets of HTTPS.
+restart_web_server() {
+  [ -s "$WEB_SERVER_PROCESS" ] || return 0
+  read -r process <"$WEB_SERVER_PROCESS"
+  signal=USR1
+  if [ "$1" = 0 ]; then
+    read -r _ _ _ process _ <"/proc/$process/stat"
+    signal=HUP
+  fi 2>/dev/null
+  kill -s "$signal" "$process" 2>/dev/null || complain "the web server is not running"
+}
+
+[ $# = 0 ] || refuse_call 'none' "$@"
+mkdir -p "$RUN"
+exec 9>"$RUN/web_mode.lock" && flock 9
+enabled=$(query 'SELECT ssl_enabled FROM settings') || fail 'the SSL mode cannot be read'
+[ "$enabled" = 0 ] || require_certificate
+store_mode "$enabled" || fail "$MODE cannot be written"
+restart_web_server "$enabled"

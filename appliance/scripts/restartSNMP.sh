@@ -1,0 +1,12 @@
+#!/bin/sh
+# Starts the SNMP agent anew with the settings of the management database. Exit status 0 only when the
+# agent answers.
+# shellcheck source=SCRIPTDIR/device.sh
+. "${0%/*}/device.sh"
+# shellcheck source=SCRIPTDIR/management.sh
+. "$BIN/management.sh"
+# shellcheck source=SCRIPTDIR/snmp.sh
+. "$BIN/snmp.sh"
+
+[ $# = 0 ] || refuse_call 'none' "$@"
+restart_agent

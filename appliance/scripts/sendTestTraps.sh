@@ -1,0 +1,21 @@
+#!/bin/sh
+# Starts the SNMP agent anew, then sends a test trap to every registered receiver in each version of traps
+# that is on. Exit status 0 only when all could be sent.
+# shellcheck source=SCRIPTDIR/device.sh
+. "${0%/*}/device.sh"
+# shellcheck source=SCRIPTDIR/management.sh
+. "$BIN/management.sh"
+# shellcheck source=SCRIPTDIR/snmp.sh
+. "$BIN/snmp.sh"
+
+[ $# = 0 ] || refuse_call 'none' "$@"
+restart_agent
+[ -n "$receivers" ] || exit 0
+[ "$trap1$trap2" != 00 ] || fail 'no version of traps is on: nothing can be sent to the registered receivers'
+unsent=$(
+  for receiver in $receivers; do
+    [ "$trap1" = 0 ] || send_test_trap 1 "$receiver" 2>&1
+    [ "$trap2" = 0 ] || send_test_trap 2c "$receiver" 2>&1
+  done
+)
+[ -z "$unsent" ] || fail "$unsent"

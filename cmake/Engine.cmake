@@ -1,0 +1,56 @@
+# The interpreter that the module is built for: the target "engine" carries its headers. No distribution
+# carries the appliance's engine any more: without a php-config, its interface is the one declared here.
+
+if(CMAKE_CROSSCOMPILING)
+  set(default_php_config "")
+else()
+  set(default_php_config "php-config")
+endif()
+set(PHP_CONFIG "${default_php_config}" CACHE STRING "php-config of the engine to build for; empty for the \
+appliance's engine as it is declared under engine/")
+
+function(ask_php_config option variable)
+  execute_process(COMMAND ${PHP_CONFIG} ${option} OUTPUT_VARIABLE answer OUTPUT_STRIP_TRAILING_WHITESPACE
+                  RESULT_VARIABLE status)
+  if(NOT status EQUAL 0)
+    message(FATAL_ERROR "'${PHP_CONFIG} ${option}' failed (${status}). Install the engine's development "
+                        "package (php-dev) or name its php-config with -DPHP_CONFIG=/path/to/php-config.")
+  endif()
+  set(${variable} "${answer}" PARENT_SCOPE)
+endfunction()
+
+if(PHP_CONFIG)
+  ask_php_config(--includes include_options)
+  string(REGEX REPLACE "(^| )-I" ";" include_directories "${include_options}")
+  list(REMOVE_ITEM include_directories "")
+else()
+  set(include_directories ${CMAKE_CURRENT_SOURCE_DIR}/engine/20020429/include)
+endif()
+
+add_library(engine INTERFACE)
+target_include_directories(engine SYSTEM INTERFACE ${include_directories})
+
+# The module's record says "no debug build, not thread-safe"; the engine refuses a record that differs
+# from itself, so say it here, where it can still be mended.
+function(require_engine_without macro what remedy)
+  file(WRITE ${CMAKE_BINARY_DIR}/engine_check.cc
+       "#include <php.h>\n#if ${macro}\n#error refused\n#endif\nint main() { return 0; }\n")
+  list(TRANSFORM include_directories PREPEND "-I" OUTPUT_VARIABLE options)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -w -fsyntax-only ${options} ${CMAKE_BINARY_DIR}/engine_check.cc
+                  RESULT_VARIABLE status ERROR_VARIABLE messages)
+  if(status EQUAL 0)
+    return()
+  endif()
+  if(messages MATCHES "error refused")
+    message(FATAL_ERROR "The engine of '${PHP_CONFIG}' is ${what}, and this module is for engines that are "
+                        "not: ${remedy}")
+  endif()
+  message(FATAL_ERROR "The headers of the engine of '${PHP_CONFIG}' do not compile:\n${messages}")
+endfunction()
+
+require_engine_without(
+  "defined(ZTS)" "thread-safe" "its module record carries the thread-safe flag 0 and it keeps no per-thread \
+engine context. Name the php-config of a build without thread safety.")
+require_engine_without(
+  "ZEND_DEBUG" "a debug build" "its module record carries the debug flag 0 and it calls the engine's \
+non-debug memory functions. Name the php-config of a build without --enable-debug.")

@@ -1,0 +1,251 @@
+// SNMP: settings of the agent, trap receivers, restart and test of the traps.
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <iterator>
+
+#include "command_lines.h"
+#include "handlers.h"
+#include "management_access.h"
+#include "platform/List.h"
+#include "platform/MemoryMgmt.h"
+#include "script_values.h"
+#include "trace_log.h"
+#include "utility/platform_texts.h"
+
+using TarnAbstract::GUID;
+using TarnAbstract::Result;
+using TarnAbstract::sp;
+using TarnAbstract::String;
+using TarnAbstract::TarnMemoryMgmt::getSystemTransientObjHeap;
+using Velm::IMgmtAppConfig;
+using Velm::TrapRegistration;
+using Velm::Library::IStorageLibrary;
+
+namespace {
+
+using VersionList = TarnAbstract::List<Velm::eSNMPVersion, 4>;
+using TrapRegistrationList = TarnAbstract::List<TrapRegistration, 4>;
+
+// The management library sees the same memory: on the appliance these are its sizes.
+template <class T>
+constexpr bool hasSizeOnTheAppliance(std::size_t size) {
+  return sizeof(void*) != 4 || sizeof(T) == size;
+}
+static_assert(hasSizeOnTheAppliance<TarnAbstract::ListElementPage<Velm::eSNMPVersion, 4>>(20));
+static_assert(hasSizeOnTheAppliance<VersionList>(40));
+static_assert(hasSizeOnTheAppliance<String>(8));
+static_assert(hasSizeOnTheAppliance<GUID>(12));
+static_assert(hasSizeOnTheAppliance<TrapRegistration>(32));
+static_assert(hasSizeOnTheAppliance<TarnAbstract::ListElementPage<TrapRegistration, 4>>(132));
+
+// A truth value's width is the compiler's that built the services: they may write one byte or a word.
+class FlagWord {
+ public:
+  bool& asFlag() { return reinterpret_cast<bool&>(bytes_); }
+  bool isSet() const {
+    return std::any_of(std::begin(bytes_), std::end(bytes_), [](unsigned char byte) { return byte != 0; });
+  }
+
+ private:
+  alignas(std::uint32_t) unsigned char bytes_[sizeof(std::uint32_t)] = {};
+};
+
+// By number, which of the versions 1 to 5 the agent reports.
+struct ReportedVersions {
+  bool has[Velm::SNMP_TRAP_VERSION_2 + 1] = {};
+};
+
+ReportedVersions readVersions(const sp<IMgmtAppConfig>& config) {
+  VersionList list(getSystemTransientObjHeap());
+  ask(config, &IMgmtAppConfig::getSNMPVersions, list);
+  trace("Found # of versions:", static_cast<int>(list.Size()));
+  ReportedVersions versions;
+  for (unsigned int index = 0; index < list.Size(); ++index) {
+    Velm::eSNMPVersion version = {};
+    list.Item(index, version);
+    if (version >= Velm::SNMP_VERSION_1 && version <= Velm::SNMP_TRAP_VERSION_2) versions.has[version] = true;
+    trace("Found version:", static_cast<int>(version));
+  }
+  // A page always shows at least one version of traps on.
+  if (!versions.has[Velm::SNMP_TRAP_VERSION_2]) versions.has[Velm::SNMP_TRAP_VERSION_1] = true;
+  return versions;
+}
+
+// Version 3 always; 2 goes with 1.
+void appendWantedVersions(VersionList& list, zval* settings) {
+  list.Append(Velm::SNMP_VERSION_3);
+  if (flagProperty(settings, "version1")) {
+    trace("Enabling SNMP");
+    list.Append(Velm::SNMP_VERSION_1);
+    list.Append(Velm::SNMP_VERSION_2);
+  } else {
+    trace("Disabling SNMP");
+  }
+  if (flagProperty(settings, "trap1")) {
+    trace("Enabling Trap1");
+    list.Append(Velm::SNMP_TRAP_VERSION_1);
+  }
+  if (flagProperty(settings, "trap2")) {
+    trace("Enabling Trap2");
+    list.Append(Velm::SNMP_TRAP_VERSION_2);
+  }
+}
+
+// The restart comes last, so that the agent starts with all three settings in place.
+void changeAgent(const sp<IMgmtAppConfig>& config, zval* settings) {
+  VersionList versions(getSystemTransientObjHeap());
+  appendWantedVersions(versions, settings);
+  reportResult(ask(config, &IMgmtAppConfig::setSNMPVersions, versions), "Could not set SNMP versions");
+
+  const std::string name = textProperty(settings, "community_name");
+  const bool authTraps = flagProperty(settings, "auth_traps_enabled");
+  trace("setting community name:", name);
+  trace("setting authTrapsEnabled:", static_cast<int>(authTraps));
+  reportResult(ask(config, &IMgmtAppConfig::setAuthTrapsEnabled, authTraps),
+               "Could not set auth traps enabled");
+  String community(name.c_str(), getSystemTransientObjHeap());
+  reportResult(ask(config, &IMgmtAppConfig::setReadCommunity, community), "Could not set the community");
+  reportResult(ask(config, &IMgmtAppConfig::restartSNMP), "Could not restart SNMP");
+}
+
+void appendRegistration(zval* array, const TrapRegistration& registration) {
+  zval* const object = appendObject(array);
+  std::fprintf(stderr, "%d - %s - %d - %s\n", static_cast<int>(registration.getTransport()),
+               tarnStringToCString(registration.getIPAddress()), static_cast<int>(registration.getPort()),
+               guidToCString(registration.getTrapID()));
+  addInteger(object, "transport", registration.getTransport());
+  addString(object, "ip", tarnStringToCString(registration.getIPAddress()));
+  addInteger(object, "port", registration.getPort());
+  addString(object, "id", guidToCString(registration.getTrapID()));
+}
+
+}  // namespace
+
+HANDLER(get_snmp_settings) {
+  trace("Entering get_snmp_settings");
+  zval* session = nullptr;
+  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  const ManagementAccess access;
+  trace("Before slp->getAppMgmtConfigInterface()");
+  const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
+  const ReportedVersions versions = readVersions(config);
+
+  FlagWord authTraps;
+  reportResult(ask(config, &IMgmtAppConfig::getAuthTrapsEnabled, authTraps.asFlag()),
+               "Could not get SNMP traps enabled");
+  trace("SNMP auth traps are enabled:", static_cast<int>(authTraps.isSet()));
+  String community("", getSystemTransientObjHeap());
+  reportResult(ask(config, &IMgmtAppConfig::getReadCommunity, community),
+               "Could not get SNMP read community");
+  trace("SNMP community:", tarnStringToCString(community));
+
+  makeObject(return_value);
+  addBoolean(return_value, "version1", versions.has[Velm::SNMP_VERSION_1]);
+  addBoolean(return_value, "version2", versions.has[Velm::SNMP_VERSION_2]);
+  addBoolean(return_value, "version3", versions.has[Velm::SNMP_VERSION_3]);
+  addBoolean(return_value, "trap1", versions.has[Velm::SNMP_TRAP_VERSION_1]);
+  addBoolean(return_value, "trap2", versions.has[Velm::SNMP_TRAP_VERSION_2]);
+  addString(return_value, "algorithm", "MD5");
+  addBoolean(return_value, "encryption", false);
+  addInteger(return_value, "port", 161);
+  addBoolean(return_value, "auth_traps_enabled", authTraps.isSet());
+  addString(return_value, "community_name", tarnStringToCString(community));
+  trace("Exiting get_snmp_settings");
+}
+
+HANDLER(set_snmp_settings) {
+  trace("Entering set_snmp_settings");
+  zval* session = nullptr;
+  zval* settings = nullptr;
+  if (!parseArguments(ZEND_NUM_ARGS(), "oo", &session, &settings)) return;
+  const ManagementAccess access;
+  const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
+  if (settings != nullptr) changeAgent(config, settings);
+  trace("Exiting set_snmp_settings");
+}
+
+HANDLER(get_snmp_trap_regs) {
+  trace("entering get_snmp_trap_regs");
+  zval* session = nullptr;
+  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  const ManagementAccess access;
+  access->setSession(session);
+  trace("Before slp->getAppMgmtConfigInterface()");
+  const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
+  TrapRegistrationList list(getSystemTransientObjHeap());
+  ask(config, &IMgmtAppConfig::getTrapRegistrations, list);
+  trace("Number of trap registratrations:", static_cast<int>(list.Size()));
+  makeArray(return_value);
+  for (unsigned int index = 0; index < list.Size(); ++index) {
+    TrapRegistration registration;
+    list.Item(index, registration);
+    appendRegistration(return_value, registration);
+  }
+  trace("Exiting get_snmp_trap_regs");
+}
+
+HANDLER(create_snmp_trap_reg) {
+  trace("entering create_snmp_trap_reg");
+  zval* session = nullptr;
+  ScriptInteger transport = 0;
+  ScriptText ip;
+  ScriptText port;
+  if (!parseArguments(ZEND_NUM_ARGS(), "olss", &session, &transport, &ip.characters, &ip.length,
+                      &port.characters, &port.length)) {
+    return;
+  }
+  const ManagementAccess access;
+  access->setSession(session);
+  const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
+  sp<IStorageLibrary> library = access->getStorageLibraryInterface();
+
+  TrapRegistration registration;
+  String address(ip.characters, getSystemTransientObjHeap());
+  trace("New transport was", asInt(transport));
+  trace("New Trap IP was", tarnStringToCString(address));
+  // Taken as the C library takes it: a text that is no number is 0.
+  const int portNumber = std::atoi(port.characters);  // NOLINT(cert-err34-c)
+  trace("New Trap Port was", portNumber);
+  registration.setTransport(static_cast<Velm::eTransportType>(asInt(transport)));
+  registration.setIPAddress(address);
+  registration.setPort(static_cast<unsigned int>(portNumber));
+
+  if (!Result::IsSucceeded(ask(library, &IStorageLibrary::checkAddressConflict, address))) {
+    library.ReleaseReference();
+    reportResult(FailureCode::InternalAddressConflict, "Internal Address Conflict");
+  }
+  // Also after a conflict: it is the report that tells the page, not a missing registration.
+  reportResult(ask(config, &IMgmtAppConfig::createTrapRegistration, registration),
+               "Could not create trap registration");
+  trace("exiting create_snmp_trap_reg");
+}
+
+HANDLER(delete_snmp_trap_reg) {
+  trace("entering delete_snmp_trap_reg");
+  zval* session = nullptr;
+  ScriptText id;
+  if (!parseArguments(ZEND_NUM_ARGS(), "os", &session, &id.characters, &id.length)) return;
+  const ManagementAccess access;
+  access->setSession(session);
+  const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
+  GUID trapID = cStringToGUID(id.characters);
+  ask(config, &IMgmtAppConfig::deleteTrapRegistration, trapID);  // an unknown one is no failure to the page
+  trace("exiting delete_snmp_trap_reg");
+}
+
+HANDLER(restart_snmp) {
+  trace("entering restart_snmp");
+  zval* session = nullptr;
+  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  const ManagementAccess access;
+  access->setSession(session);
+  if (std::system(CommandLine::TestTrapRegistrations) != 0) {
+    std::fprintf(stderr, "System call to testTrapRegistration.sh returned %d\n", errno);
+    reportFailure("Failed to restart/test trap registration");
+  }
+  trace("exiting restart_snmp");
+}

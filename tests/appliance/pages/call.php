@@ -1,0 +1,1 @@
+../check/pages/call.php

@@ -1,0 +1,12 @@
+<?php
+/* An answer that takes its time: tells by a file that it has begun, and ends when another file is there. */
+
+header('Content-Type: text/plain');
+echo str_repeat("The beginning.\n", 1000);
+flush();
+touch('/run/slow.begun');
+for ($tries = 0; $tries < 1000 && !file_exists('/run/slow.end'); $tries++) {
+    usleep(10000);
+    clearstatcache();
+}
+echo "The end.\n";

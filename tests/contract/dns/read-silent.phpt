@@ -1,0 +1,16 @@
+--TEST--
+No output means no server, and nothing is reported.
+--FILE--
+<?php
+include 'world.inc';
+answer(IPV6 . '-g dns', exits(0), '');
+show(get_network_dns(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {dnsPrimary: "", dnsSecondary: ""}
+TRACE[time]:Entering get_network_dns:<>
+thread handle taken
+session of "admin"
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv6Manager.sh -g dns
+TRACE[time]:Exiting get_network_dns:<>
+thread handle released

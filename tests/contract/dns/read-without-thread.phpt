@@ -1,0 +1,16 @@
+--TEST--
+A thread without a handle of its own reads the servers all the same.
+--FILE--
+<?php
+include 'world.inc';
+answer('thread', 'empty');
+answer(IPV6 . '-g dns', exits(0), '10.1.1.1 10.1.1.2');
+show(get_network_dns(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {dnsPrimary: "10.1.1.1", dnsSecondary: "10.1.1.2"}
+TRACE[time]:Entering get_network_dns:<>
+thread handle taken, empty
+session of "admin"
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv6Manager.sh -g dns
+TRACE[time]:Exiting get_network_dns:<>

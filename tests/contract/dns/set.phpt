@@ -1,0 +1,24 @@
+--TEST--
+Both servers are one quoted word of the command. The connectivity service is held but not asked, and released before the thread's handle.
+--FILE--
+<?php
+include 'world.inc';
+class Servers {
+  var $dnsPrimary = '10.1.1.1';
+  var $dnsSecondary = '10.1.1.2';
+}
+answer(IPV6 . '-D "10.1.1.1 10.1.1.2"', exits(0), 'done');
+show(set_network_dns(new Session(), new Servers()));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:Entering set_network_dns:<>
+thread handle taken
+session of "admin"
+IConnectivity handle taken
+TRACE[time]:DNS IPvAddresses = :<"10.1.1.1 10.1.1.2">
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv6Manager.sh -D [10.1.1.1 10.1.1.2]
+TRACE[time]:Output = :<done>
+TRACE[time]:Exiting set_network_dns:<>
+IConnectivity handle released
+thread handle released

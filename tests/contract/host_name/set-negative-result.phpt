@@ -1,0 +1,23 @@
+--TEST--
+Any result of the script but zero is a failure, also a negative one.
+--FILE--
+<?php
+include 'world.inc';
+answer('gethostname', 'library');
+answer(IPV4 . '-n library-8', -1);
+answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
+show(set_network_hostname(new Session(), 'library-8'));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:Entering set_network_hostname:<>
+thread handle taken
+session of "admin"
+gethostname: into 64 bytes
+run: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -n library-8
+IMgmtAppConfig handle taken
+IMgmtAppConfig.getSSLEnabled() -> Succeeded 0
+IMgmtAppConfig handle released
+report: Failed "Could not set library hostname" http/src/network
+TRACE[time]:Exiting set_network_hostname:<>
+thread handle released

@@ -1,0 +1,20 @@
+--TEST--
+When the configuration service is not there, the name is set and SSL counts as off.
+--FILE--
+<?php
+include 'world.inc';
+answer('gethostname', 'library');
+answer(IPV4 . '-n library-8', exits(0));
+answer('IMgmtAppConfig', 'empty');
+show(set_network_hostname(new Session(), 'library-8'));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:Entering set_network_hostname:<>
+thread handle taken
+session of "admin"
+gethostname: into 64 bytes
+run: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -n library-8
+IMgmtAppConfig handle taken, empty
+TRACE[time]:Exiting set_network_hostname:<>
+thread handle released

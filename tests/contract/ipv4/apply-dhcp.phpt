@@ -1,0 +1,27 @@
+--TEST--
+With a text in "dhcpEnabled", DHCP is switched on and the static settings are not looked at.
+--FILE--
+<?php
+include 'world.inc';
+$settings = new Ipv4Settings();
+$settings->dhcpEnabled = '1';
+answer('gethostname', 'library');
+answer(IPV4 . '-c -d on', exits(0));
+show(set_network_configuration_ipv4(new Session(), $settings));
+run_thread();
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:Entering set_network_configuration_ipv4:<>
+thread handle taken
+session of "admin"
+TRACE[time]:Firing off the thread to Set Network settings:<>
+thread set_network_ipv4: created
+thread detached
+TRACE[time]:Exiting set_network_configuration_ipv4:<>
+thread handle released
+TRACE[time]:Entering set_network_ipv4:<>
+usleep: 3000000
+gethostname: into 64 bytes
+run: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -c -d on
+TRACE[time]:Leaving set_network_ipv4:<>

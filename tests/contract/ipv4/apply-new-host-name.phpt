@@ -1,0 +1,25 @@
+--TEST--
+A new host name is set before the addressing; SSL, which is off, is left alone. The worker takes no thread handle and attaches no session.
+--FILE--
+<?php
+include 'world.inc';
+$settings = new Ipv4Settings();
+$settings->hostname = 'library-8';
+answer('gethostname', 'library');
+answer(IPV4 . '-n library-8', exits(0));
+answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
+answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(0));
+set_network_configuration_ipv4(new Session(), $settings);
+forget_transcript();
+run_thread();
+show_transcript();
+--EXPECT--
+TRACE[time]:Entering set_network_ipv4:<>
+usleep: 3000000
+gethostname: into 64 bytes
+run: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -n library-8
+IMgmtAppConfig handle taken
+IMgmtAppConfig.getSSLEnabled() -> Succeeded 0
+IMgmtAppConfig handle released
+run: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -c -s 10.0.0.5?255.0.0.0?10.0.0.1
+TRACE[time]:Leaving set_network_ipv4:<>

@@ -1,0 +1,19 @@
+--TEST--
+When neither the system nor the settings have a host name, there is no new one to set.
+--FILE--
+<?php
+include 'world.inc';
+$settings = new Ipv4Settings();
+unset($settings->hostname);
+answer('gethostname', '');
+answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(0));
+set_network_configuration_ipv4(new Session(), $settings);
+forget_transcript();
+run_thread();
+show_transcript();
+--EXPECT--
+TRACE[time]:Entering set_network_ipv4:<>
+usleep: 3000000
+gethostname: into 64 bytes
+run: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -c -s 10.0.0.5?255.0.0.0?10.0.0.1
+TRACE[time]:Leaving set_network_ipv4:<>

@@ -1,0 +1,20 @@
+--TEST--
+Each text, like its trace, ends at its first NUL; the fields are parted before.
+--FILE--
+<?php
+include 'world.inc';
+answer(IPV4 . '-d status', exits(0), "10.1.1.9\0x?255.255.255.0?10.1.1.1\0");
+answer(IPV4 . '-g host', exits(0), "library-7\0hidden");
+show(get_network_configuration_ipv4(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {hostname: "library-7", dhcpEnabled: true, ip: "10.1.1.9", gateway: "10.1.1.1", netmask: "255.255.255.0"}
+TRACE[time]:Entering get_network_configuration_ipv4:<>
+thread handle taken
+session of "admin"
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -d status
+TRACE[time]:Output1 = :<10.1.1.9>
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -g host
+TRACE[time]:Output3 = :<library-7>
+TRACE[time]:Exiting get_network_configuration_ipv4:<>
+thread handle released

@@ -1,0 +1,21 @@
+--TEST--
+The host name is the whole output of its command, never split.
+--FILE--
+<?php
+include 'world.inc';
+answer(IPV4 . '-d status', exits(0), '10.1.1.9?255.255.255.0?10.1.1.1');
+answer(IPV4 . '-g host', exits(0), "a?b?c d\ne");
+show(get_network_configuration_ipv4(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {hostname: "a?b?c d\ne", dhcpEnabled: true, ip: "10.1.1.9", gateway: "10.1.1.1", netmask: "255.255.255.0"}
+TRACE[time]:Entering get_network_configuration_ipv4:<>
+thread handle taken
+session of "admin"
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -d status
+TRACE[time]:Output1 = :<10.1.1.9?255.255.255.0?10.1.1.1>
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -g host
+TRACE[time]:Output3 = :<a?b?c d
+e>
+TRACE[time]:Exiting get_network_configuration_ipv4:<>
+thread handle released

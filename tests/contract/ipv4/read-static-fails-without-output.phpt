@@ -1,0 +1,25 @@
+--TEST--
+A command for the static settings that fails and prints nothing gives zeros: the two question marks of the DHCP status are gone.
+--FILE--
+<?php
+include 'world.inc';
+answer(IPV4 . '-d status', exits(0), '??');
+answer(IPV4 . '-g static', killed_by(15), '');
+answer(IPV4 . '-g host', exits(0), 'library-7');
+show(get_network_configuration_ipv4(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {hostname: "library-7", dhcpEnabled: false, ip: "0.0.0.0", gateway: "0.0.0.0", netmask: "0.0.0.0"}
+TRACE[time]:Entering get_network_configuration_ipv4:<>
+thread handle taken
+session of "admin"
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -d status
+TRACE[time]:Output1 = :<??>
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -g static
+report: 0x00050005 "Could not get IPv4 network information" http/src/network
+TRACE[time]:Output2 = :<>
+TRACE[time]:Could not get IPv4 network information, lets return zero's for IP settings.:<>
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -g host
+TRACE[time]:Output3 = :<library-7>
+TRACE[time]:Exiting get_network_configuration_ipv4:<>
+thread handle released

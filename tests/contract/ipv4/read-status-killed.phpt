@@ -1,0 +1,22 @@
+--TEST--
+A DHCP status command that a signal ended is a failure like any other.
+--FILE--
+<?php
+include 'world.inc';
+answer(IPV4 . '-d status', killed_by(9), '10.1.1.9?255');
+answer(IPV4 . '-g host', exits(0), 'library-7');
+show(get_network_configuration_ipv4(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {hostname: "library-7", dhcpEnabled: true, ip: "10.1.1.9", gateway: "0.0.0.0", netmask: "255"}
+TRACE[time]:Entering get_network_configuration_ipv4:<>
+thread handle taken
+session of "admin"
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -d status
+report: Failed "Could not get IPv4 network information" http/src/network
+TRACE[time]:Output1 = :<10.1.1.9?255>
+TRACE[time]:Could not get IPv4 network information, lets return zero's for IP settings.:<>
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -g host
+TRACE[time]:Output3 = :<library-7>
+TRACE[time]:Exiting get_network_configuration_ipv4:<>
+thread handle released

@@ -1,0 +1,13 @@
+--TEST--
+No output gives an empty array.
+--FILE--
+<?php
+include 'world.inc';
+answer(IPV6 . '-g all', exits(0), '');
+show(get_all_ipv6_addresses());
+show_transcript();
+--EXPECT--
+array()
+TRACE[time]:Entering get_all_ipv6_addresses:<>
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv6Manager.sh -g all
+TRACE[time]:Exiting get_all_ipv6_addresses:<>

@@ -1,0 +1,21 @@
+--TEST--
+No output means that static addressing is off: zero groups, and 64 for the prefix.
+--FILE--
+<?php
+include 'world.inc';
+answer(IPV6 . '-g static', exits(0), '');
+show(get_network_configuration_ipv6(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {staticEnabled: false, ipStatic: "0:0:0:0:0:0:0:0", gateway: "0:0:0:0:0:0:0:0", prefix: "64"}
+TRACE[time]:Entering get_network_configuration_ipv6:<>
+thread handle taken
+session of "admin"
+read: /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv6Manager.sh -g static
+TRACE[time]:Output = :<>
+TRACE[time]:Static addressing is disabled:<>
+TRACE[time]:getIPv6StaticIP() is returning: Enabled:FALSE IP: 0:0:0:0:0:0:0:0, GW: 0:0:0:0:0:0:0:0, prefix: 64
+
+:<>
+TRACE[time]:Exiting get_network_configuration_ipv6:<>
+thread handle released

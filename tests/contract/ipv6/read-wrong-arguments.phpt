@@ -1,0 +1,27 @@
+--TEST--
+A wrong argument is refused before anything else is done: the entry trace only, and null.
+--FILE--
+<?php
+include 'world.inc';
+show(get_network_configuration_ipv6());
+show(get_network_configuration_ipv6(new Session(), new Session()));
+show(get_network_configuration_ipv6('admin'));
+show(get_network_configuration_ipv6(null));
+show(get_network_configuration_ipv6(array('user' => 'admin')));
+show_refusals();
+--EXPECT--
+null
+null
+null
+null
+null
+TRACE[time]:Entering get_network_configuration_ipv6:<>
+Warning: get_network_configuration_ipv6() ...
+TRACE[time]:Entering get_network_configuration_ipv6:<>
+Warning: get_network_configuration_ipv6() ...
+TRACE[time]:Entering get_network_configuration_ipv6:<>
+Warning: get_network_configuration_ipv6() ...
+TRACE[time]:Entering get_network_configuration_ipv6:<>
+Warning: get_network_configuration_ipv6() ...
+TRACE[time]:Entering get_network_configuration_ipv6:<>
+Warning: get_network_configuration_ipv6() ...

@@ -1,0 +1,12 @@
+--TEST--
+The module exports its entry point and those of its two workers, and nothing else.
+--FILE--
+<?php
+include 'world.inc';
+foreach (explode("\n", trim(shell_exec('nm --dynamic --defined-only ' . getenv('WORLD_MODULE')))) as $line) {
+  echo preg_replace('/^[0-9a-f]+ /', '', $line), "\n";
+}
+--EXPECT--
+T get_module
+T set_network_ipv4
+T set_network_ipv6

@@ -1,0 +1,11 @@
+--TEST--
+Arguments can be passed by the names in the stub.
+--FILE--
+<?php
+include 'world.inc';
+answer('gethostname', 'library');
+show(set_network_hostname(name: 'library', session: new Session()));
+echo preg_match('/Exiting set_network_hostname/', transcript()), "\n";
+--EXPECT--
+null
+1

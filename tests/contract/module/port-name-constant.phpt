@@ -1,0 +1,11 @@
+--TEST--
+The name of the primary port is a platform text that is built when the module is loaded and goes when the process does.
+--FILE--
+<?php
+include 'world.inc';
+echo shell_exec('WORLD_SHOWS_TEXTS=1 LD_PRELOAD=' . dirname(getenv('WORLD_MODULE')) . '/libdovan_util.so ' .
+                getenv('WORLD_PHP') . ' -n -d extension=' . getenv('WORLD_MODULE') . ' -r "echo \'page\', PHP_EOL;" 2>&1');
+--EXPECT--
+text "Primary Ethernet Connector" built
+page
+text "Primary Ethernet Connector" gone

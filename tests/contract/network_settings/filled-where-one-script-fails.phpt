@@ -1,0 +1,72 @@
+--TEST--
+A source that cannot be read is reported alone, and its properties have their "off" values, whatever it printed.
+--PLATFORM--
+development
+--FILE--
+<?php
+include 'world.inc';
+$ipv4 = array('-g host' => 'library-7', '-d status' => '10.20.0.105?255.255.255.0?10.20.0.1',
+              '-g static' => '10.20.0.42?255.255.0.0?10.20.0.2', '-g port' => 'on?10?full');
+$ipv6 = array('-l' => '1', '-g static' => '2001:db8:20::10/48?fe80::1', '-g dns' => '10.20.0.1 2001:db8:20::1',
+              '-g all' => '2001:db8:20::10?2001:db8:20::100');
+append_to(IPV6_ENABLED_FILE, '');
+append_to(IPV6_DHCP_FILE, '');
+answer_by_script(IPV4_SCRIPT, $ipv4);
+answer_by_script(IPV6_SCRIPT, $ipv6);
+set_ssl_settings(new Session(), true);
+$on = get_object_vars(get_fw_settings(new Session()));
+
+// What differs from that, and what is reported, when a script fails to answer a question.
+function show_unreadable($path, $answers, $question) {
+  global $on;
+  forget_transcript();
+  answer_by_script($path, $answers, $question);
+  echo "$question\n";
+  foreach (get_object_vars(get_fw_settings(new Session())) as $name => $value) {
+    if (text_of($value) != text_of($on[$name])) echo "  $name: ", text_of($value), "\n";
+  }
+  show_lines('/^Warning/');
+  answer_by_script($path, $answers);
+}
+
+foreach (array('-g host', '-d status', '-g port') as $question) show_unreadable(IPV4_SCRIPT, $ipv4, $question);
+foreach (array_keys($ipv6) as $question) show_unreadable(IPV6_SCRIPT, $ipv6, $question);
+$ipv4['-d status'] = '??';
+show_unreadable(IPV4_SCRIPT, $ipv4, '-g static');
+--EXPECT--
+-g host
+  hostname: ""
+Warning: get_fw_settings(): Could not get hostname information (code 0x00000001, utility/getNetworkSettings)
+-d status
+  dhcpEnabled: false
+  ip: "0.0.0.0"
+  netmask: "0.0.0.0"
+  gateway: "0.0.0.0"
+Warning: get_fw_settings(): Could not get IPv4 network information (code 0x00000001, utility/getNetworkSettings)
+-g port
+  AutoNegotiate: integer 0
+  Speed: integer 100
+  Duplex: integer -1
+Warning: get_fw_settings(): Could not get port settings (code 0x00000001, utility/getNetworkSettings)
+-l
+  statelessEnabled: false
+Warning: get_fw_settings(): Could not get stateless settings (code 0x00000001, utility/getNetworkSettings)
+-g static
+  staticEnabled: false
+  ipStatic: "0:0:0:0:0:0:0:0"
+  prefix: "64"
+  ipv6Gateway: "0:0:0:0:0:0:0:0"
+Warning: get_fw_settings(): Could not get static IPv6 settings (code 0x00000001, utility/getNetworkSettings)
+-g dns
+  dnsPrimary: ""
+  dnsSecondary: ""
+Warning: get_fw_settings(): Could not get DNS addresses (code 0x00000001, utility/getNetworkSettings)
+-g all
+  ipv6Addresses: array()
+Warning: get_fw_settings(): Could not get IPv6 addresses (code 0x00000001, utility/getNetworkSettings)
+-g static
+  dhcpEnabled: false
+  ip: "0.0.0.0"
+  netmask: "0.0.0.0"
+  gateway: "0.0.0.0"
+Warning: get_fw_settings(): Could not get static IPv4 settings (code 0x00000001, utility/getNetworkSettings)

@@ -1,0 +1,21 @@
+--TEST--
+A script that a signal ends is reported, and what it printed until then counts.
+--PLATFORM--
+development
+--FILE--
+<?php
+include 'world.inc';
+write_script(IPV4_SCRIPT, 'echo library-7; kill -KILL $$; echo not reached');
+show(get_network_hostname());
+show(set_network_hostname(new Session(), 'library-8'));
+show_lines('/^(TRACE|Warning)/');
+--EXPECT--
+"library-7"
+null
+TRACE[time]:Entering get_network_hostname:<>
+Warning: get_network_hostname(): Could not get hostname information (code 0x00050006, http/src/network)
+TRACE[time]:Output = :<library-7>
+TRACE[time]:Exiting get_network_hostname:<>
+TRACE[time]:Entering set_network_hostname:<>
+Warning: set_network_hostname(): Could not set library hostname (code 0x00000001, http/src/network)
+TRACE[time]:Exiting set_network_hostname:<>

@@ -1,0 +1,20 @@
+--TEST--
+A missing script is reported, and reading gives the empty text.
+--PLATFORM--
+development
+--FILE--
+<?php
+include 'world.inc';
+show(get_network_hostname());
+show(set_network_hostname(new Session(), 'library-8'));
+show_lines('/^(TRACE|Warning)/');
+--EXPECT--
+""
+null
+TRACE[time]:Entering get_network_hostname:<>
+Warning: get_network_hostname(): Could not get hostname information (code 0x00050006, http/src/network)
+TRACE[time]:Output = :<>
+TRACE[time]:Exiting get_network_hostname:<>
+TRACE[time]:Entering set_network_hostname:<>
+Warning: set_network_hostname(): Could not set library hostname (code 0x00000001, http/src/network)
+TRACE[time]:Exiting set_network_hostname:<>

@@ -1,0 +1,28 @@
+--TEST--
+Authentication traps are what the services have written, also when they then say that they failed.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3, 4);
+answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Failed', 1);
+answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');
+show(get_snmp_settings(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {version1: false, version2: false, version3: true, trap1: true, trap2: false, algorithm: "MD5", encryption: false, port: integer 161, auth_traps_enabled: true, community_name: "public"}
+TRACE[time]:Entering get_snmp_settings:<>
+thread handle taken
+TRACE[time]:Before slp->getAppMgmtConfigInterface():<>
+IMgmtAppConfig handle taken
+IMgmtAppConfig.getSNMPVersions() -> Succeeded 3 4
+TRACE[time]:Found # of versions::<2>
+TRACE[time]:Found version::<3>
+TRACE[time]:Found version::<4>
+IMgmtAppConfig.getAuthTrapsEnabled() -> Failed 1
+report: Failed "Could not get SNMP traps enabled" http/src/network
+TRACE[time]:SNMP auth traps are enabled::<1>
+IMgmtAppConfig.getReadCommunity() -> Succeeded public
+TRACE[time]:SNMP community::<public>
+TRACE[time]:Exiting get_snmp_settings:<>
+IMgmtAppConfig handle released
+thread handle released

@@ -1,0 +1,34 @@
+--TEST--
+Versions that are reported again and again, over three pages of the list, are each logged and change nothing more.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3, 3, 3, 3, 1, 1, 1, 5, 3);
+answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
+answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');
+show(get_snmp_settings(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {version1: true, version2: false, version3: true, trap1: false, trap2: true, algorithm: "MD5", encryption: false, port: integer 161, auth_traps_enabled: true, community_name: "public"}
+TRACE[time]:Entering get_snmp_settings:<>
+thread handle taken
+TRACE[time]:Before slp->getAppMgmtConfigInterface():<>
+IMgmtAppConfig handle taken
+IMgmtAppConfig.getSNMPVersions() -> Succeeded 3 3 3 3 1 1 1 5 3
+TRACE[time]:Found # of versions::<9>
+TRACE[time]:Found version::<3>
+TRACE[time]:Found version::<3>
+TRACE[time]:Found version::<3>
+TRACE[time]:Found version::<3>
+TRACE[time]:Found version::<1>
+TRACE[time]:Found version::<1>
+TRACE[time]:Found version::<1>
+TRACE[time]:Found version::<5>
+TRACE[time]:Found version::<3>
+IMgmtAppConfig.getAuthTrapsEnabled() -> Succeeded 1
+TRACE[time]:SNMP auth traps are enabled::<1>
+IMgmtAppConfig.getReadCommunity() -> Succeeded public
+TRACE[time]:SNMP community::<public>
+TRACE[time]:Exiting get_snmp_settings:<>
+IMgmtAppConfig handle released
+thread handle released

@@ -1,0 +1,31 @@
+--TEST--
+Unknown version numbers do not hide the known ones around them.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 6, 2, 0, 5, '0xFFFFFFFF', 1);
+answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
+answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');
+show(get_snmp_settings(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {version1: true, version2: true, version3: false, trap1: false, trap2: true, algorithm: "MD5", encryption: false, port: integer 161, auth_traps_enabled: true, community_name: "public"}
+TRACE[time]:Entering get_snmp_settings:<>
+thread handle taken
+TRACE[time]:Before slp->getAppMgmtConfigInterface():<>
+IMgmtAppConfig handle taken
+IMgmtAppConfig.getSNMPVersions() -> Succeeded 6 2 0 5 0xFFFFFFFF 1
+TRACE[time]:Found # of versions::<6>
+TRACE[time]:Found version::<6>
+TRACE[time]:Found version::<2>
+TRACE[time]:Found version::<0>
+TRACE[time]:Found version::<5>
+TRACE[time]:Found version::<-1>
+TRACE[time]:Found version::<1>
+IMgmtAppConfig.getAuthTrapsEnabled() -> Succeeded 1
+TRACE[time]:SNMP auth traps are enabled::<1>
+IMgmtAppConfig.getReadCommunity() -> Succeeded public
+TRACE[time]:SNMP community::<public>
+TRACE[time]:Exiting get_snmp_settings:<>
+IMgmtAppConfig handle released
+thread handle released

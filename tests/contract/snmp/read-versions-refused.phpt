@@ -1,0 +1,25 @@
+--TEST--
+Versions that the services refuse to give are not reported as a failure: none is on but version 1 traps.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.getSNMPVersions', 'Failed');
+answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
+answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');
+show(get_snmp_settings(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {version1: false, version2: false, version3: false, trap1: true, trap2: false, algorithm: "MD5", encryption: false, port: integer 161, auth_traps_enabled: true, community_name: "public"}
+TRACE[time]:Entering get_snmp_settings:<>
+thread handle taken
+TRACE[time]:Before slp->getAppMgmtConfigInterface():<>
+IMgmtAppConfig handle taken
+IMgmtAppConfig.getSNMPVersions() -> Failed
+TRACE[time]:Found # of versions::<0>
+IMgmtAppConfig.getAuthTrapsEnabled() -> Succeeded 1
+TRACE[time]:SNMP auth traps are enabled::<1>
+IMgmtAppConfig.getReadCommunity() -> Succeeded public
+TRACE[time]:SNMP community::<public>
+TRACE[time]:Exiting get_snmp_settings:<>
+IMgmtAppConfig handle released
+thread handle released

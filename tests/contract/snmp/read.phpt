@@ -1,0 +1,29 @@
+--TEST--
+The settings are what the services report, each asked for once, in a fixed order of properties.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3, 1, 2, 4);
+answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
+answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');
+show(get_snmp_settings(new Session()));
+show_transcript();
+--EXPECT--
+stdClass {version1: true, version2: true, version3: true, trap1: true, trap2: false, algorithm: "MD5", encryption: false, port: integer 161, auth_traps_enabled: true, community_name: "public"}
+TRACE[time]:Entering get_snmp_settings:<>
+thread handle taken
+TRACE[time]:Before slp->getAppMgmtConfigInterface():<>
+IMgmtAppConfig handle taken
+IMgmtAppConfig.getSNMPVersions() -> Succeeded 3 1 2 4
+TRACE[time]:Found # of versions::<4>
+TRACE[time]:Found version::<3>
+TRACE[time]:Found version::<1>
+TRACE[time]:Found version::<2>
+TRACE[time]:Found version::<4>
+IMgmtAppConfig.getAuthTrapsEnabled() -> Succeeded 1
+TRACE[time]:SNMP auth traps are enabled::<1>
+IMgmtAppConfig.getReadCommunity() -> Succeeded public
+TRACE[time]:SNMP community::<public>
+TRACE[time]:Exiting get_snmp_settings:<>
+IMgmtAppConfig handle released
+thread handle released

@@ -1,0 +1,18 @@
+--TEST--
+A shell that cannot be started is a failure like any other.
+--FILE--
+<?php
+include 'world.inc';
+answer(TRAP_TEST, -1, 12);
+show(restart_snmp(new Session()));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:entering restart_snmp:<>
+thread handle taken
+session of "admin"
+system: /usr/bin/cmdwrap -NO_END_OF_FILE sh /home/embedded/library/testTrapRegistration.sh
+System call to testTrapRegistration.sh returned 12
+report: Failed "Failed to restart/test trap registration" http/src/network
+TRACE[time]:exiting restart_snmp:<>
+thread handle released

@@ -1,0 +1,18 @@
+--TEST--
+What goes to standard error is the error number, not what the call returned.
+--FILE--
+<?php
+include 'world.inc';
+answer(TRAP_TEST, exits(44), 11);
+show(restart_snmp(new Session()));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:entering restart_snmp:<>
+thread handle taken
+session of "admin"
+system: /usr/bin/cmdwrap -NO_END_OF_FILE sh /home/embedded/library/testTrapRegistration.sh
+System call to testTrapRegistration.sh returned 11
+report: Failed "Failed to restart/test trap registration" http/src/network
+TRACE[time]:exiting restart_snmp:<>
+thread handle released

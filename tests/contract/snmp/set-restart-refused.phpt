@@ -1,0 +1,29 @@
+--TEST--
+A restart that the services refuse is reported.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.setSNMPVersions', 'Succeeded');
+answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Succeeded');
+answer('IMgmtAppConfig.setReadCommunity', 'Succeeded');
+answer('IMgmtAppConfig.restartSNMP', 'Failed');
+show(set_snmp_settings(new Session(), new SnmpSettings()));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:Entering set_snmp_settings:<>
+thread handle taken
+IMgmtAppConfig handle taken
+TRACE[time]:Enabling SNMP:<>
+TRACE[time]:Enabling Trap1:<>
+TRACE[time]:Enabling Trap2:<>
+IMgmtAppConfig.setSNMPVersions(3 1 2 4 5) -> Succeeded
+TRACE[time]:setting community name::<private>
+TRACE[time]:setting authTrapsEnabled::<1>
+IMgmtAppConfig.setAuthTrapsEnabled(true) -> Succeeded
+IMgmtAppConfig.setReadCommunity("private") -> Succeeded
+IMgmtAppConfig.restartSNMP() -> Failed
+report: Failed "Could not restart SNMP" http/src/network
+TRACE[time]:Exiting set_snmp_settings:<>
+IMgmtAppConfig handle released
+thread handle released

@@ -1,0 +1,29 @@
+--TEST--
+Versions that the services refuse are reported; the other settings are made.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.setSNMPVersions', 'Failed');
+answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Succeeded');
+answer('IMgmtAppConfig.setReadCommunity', 'Succeeded');
+answer('IMgmtAppConfig.restartSNMP', 'Succeeded');
+show(set_snmp_settings(new Session(), new SnmpSettings()));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:Entering set_snmp_settings:<>
+thread handle taken
+IMgmtAppConfig handle taken
+TRACE[time]:Enabling SNMP:<>
+TRACE[time]:Enabling Trap1:<>
+TRACE[time]:Enabling Trap2:<>
+IMgmtAppConfig.setSNMPVersions(3 1 2 4 5) -> Failed
+report: Failed "Could not set SNMP versions" http/src/network
+TRACE[time]:setting community name::<private>
+TRACE[time]:setting authTrapsEnabled::<1>
+IMgmtAppConfig.setAuthTrapsEnabled(true) -> Succeeded
+IMgmtAppConfig.setReadCommunity("private") -> Succeeded
+IMgmtAppConfig.restartSNMP() -> Succeeded
+TRACE[time]:Exiting set_snmp_settings:<>
+IMgmtAppConfig handle released
+thread handle released

@@ -1,0 +1,21 @@
+--TEST--
+A mode that the services refuse to tell counts as off: SSL is switched on.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.getSSLEnabled', 'Failed');
+answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
+show(set_ssl_settings(new Session(), true));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:Entering set_ssl_settings:<>
+thread handle taken
+IMgmtAppConfig handle taken
+TRACE[time]:NOTE: The HTTP service will be restarted by appmanager in the new SSL Mode
+Setting SSL to :<Enabled>
+IMgmtAppConfig.getSSLEnabled() -> Failed
+IMgmtAppConfig.setSSLEnabled(true) -> Succeeded
+TRACE[time]:Exiting set_ssl_settings:<>
+IMgmtAppConfig handle released
+thread handle released

@@ -1,0 +1,21 @@
+--TEST--
+Switching SSL on announces the restart, then changes the mode.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
+answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
+show(set_ssl_settings(new Session(), true));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:Entering set_ssl_settings:<>
+thread handle taken
+IMgmtAppConfig handle taken
+TRACE[time]:NOTE: The HTTP service will be restarted by appmanager in the new SSL Mode
+Setting SSL to :<Enabled>
+IMgmtAppConfig.getSSLEnabled() -> Succeeded 0
+IMgmtAppConfig.setSSLEnabled(true) -> Succeeded
+TRACE[time]:Exiting set_ssl_settings:<>
+IMgmtAppConfig handle released
+thread handle released

@@ -1,0 +1,26 @@
+--TEST--
+An address that conflicts with the internal ones is reported after its handle is released, and the creation is tried all the same.
+--FILE--
+<?php
+include 'world.inc';
+answer('IStorageLibrary.checkAddressConflict', 'Failed');
+answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
+show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:entering create_snmp_trap_reg:<>
+thread handle taken
+session of "admin"
+IMgmtAppConfig handle taken
+IStorageLibrary handle taken
+TRACE[time]:New transport was:<1>
+TRACE[time]:New Trap IP was:<192.0.2.9>
+TRACE[time]:New Trap Port was:<162>
+IStorageLibrary.checkAddressConflict("192.0.2.9") -> Failed
+IStorageLibrary handle released
+report: 0x00050040 "Internal Address Conflict" http/src/network
+IMgmtAppConfig.createTrapRegistration(1 "192.0.2.9" 162) -> Succeeded
+TRACE[time]:exiting create_snmp_trap_reg:<>
+IMgmtAppConfig handle released
+thread handle released

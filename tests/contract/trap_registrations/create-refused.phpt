@@ -1,0 +1,26 @@
+--TEST--
+A creation that the services refuse is reported with their code.
+--FILE--
+<?php
+include 'world.inc';
+answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
+answer('IMgmtAppConfig.createTrapRegistration', '0x00012345');
+show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));
+show_transcript();
+--EXPECT--
+null
+TRACE[time]:entering create_snmp_trap_reg:<>
+thread handle taken
+session of "admin"
+IMgmtAppConfig handle taken
+IStorageLibrary handle taken
+TRACE[time]:New transport was:<1>
+TRACE[time]:New Trap IP was:<192.0.2.9>
+TRACE[time]:New Trap Port was:<162>
+IStorageLibrary.checkAddressConflict("192.0.2.9") -> Succeeded
+IMgmtAppConfig.createTrapRegistration(1 "192.0.2.9" 162) -> 0x00012345
+report: 0x00012345 "Could not create trap registration" http/src/network
+TRACE[time]:exiting create_snmp_trap_reg:<>
+IStorageLibrary handle released
+IMgmtAppConfig handle released
+thread handle released

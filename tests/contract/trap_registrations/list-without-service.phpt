@@ -1,0 +1,18 @@
+--TEST--
+When the configuration service is not there, the list is empty, and nothing is reported.
+--FILE--
+<?php
+include 'world.inc';
+answer('IMgmtAppConfig', 'empty');
+show(get_snmp_trap_regs(new Session()));
+show_transcript();
+--EXPECT--
+array()
+TRACE[time]:entering get_snmp_trap_regs:<>
+thread handle taken
+session of "admin"
+TRACE[time]:Before slp->getAppMgmtConfigInterface():<>
+IMgmtAppConfig handle taken, empty
+TRACE[time]:Number of trap registratrations::<0>
+TRACE[time]:Exiting get_snmp_trap_regs:<>
+thread handle released
