@@ -1,0 +1,29 @@
+<?php
+require dirname(__FILE__) . '/library/page.php';
+require dirname(__FILE__) . '/library/applying.php';
+
+$session = signed_in();
+$change = kept_applying($session);
+if (!$change) {
+    go_to('index.php', 'No change is under way.');
+}
+$kind = $kinds[$change['kind']];
+$seconds = max(0, time() - $change['began']);
+$rows = compare_values($change, values_now($session, $change['kind']));
+$outcome = outcome_of($change, $rows, $seconds);
+if ($outcome == 'applied' && !$change['applied']) {
+    $change['applied'] = true;
+    keep_applying($session, $change);
+}
+$moved_to = moved_to($change);
+$titles = array('waiting' => 'Applying', 'applied' => 'Applied', 'failed' => 'Not applied');
+$values = array('title' => $titles[$outcome], 'part_of' => $kind['page'], 'kind' => $kind, 'rows' => $rows,
+    'outcome' => $outcome, 'over' => $outcome == 'applied' || is_over($change, $seconds), 'change' => $change, 'moved_to' => $moved_to, 'other_origin' => $moved_to,
+    'percent' => (int) min(95, 100 * $seconds / $kind['expected']),
+    'lines' => $outcome == 'failed' ? lines_about($change) : array());
+if ($outcome == 'waiting') {
+    // Without scripts nothing but going there shows whether the new address answers.
+    $values['refresh'] = $moved_to == '' ? array(2, 'applying.php?background=1')
+        : array(max(2, $kind['expected'] + 3 - $seconds), $moved_to . '/applying.php');
+}
+show('applying', $values);

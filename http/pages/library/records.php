@@ -1,0 +1,81 @@
+<?php
+// What the appliance writes down: the trace log, the audit trail, and what a user has set going.
+if (!defined('LIBRARY')) exit;
+
+define('TRACE_BYTES', 262144); // of the log's end that are looked at
+define('TRACE_LINES', 300);
+define('RECORD_SEPARATOR', "\x1e");
+define('FIELD_SEPARATOR', "\x1f");
+
+function trace_size()
+{
+    clearstatcache();
+    return file_exists(TRACE_LOG) ? filesize(TRACE_LOG) : 0;
+}
+
+// The last lines of the trace log in which the text occurs, oldest first; false when it cannot be read. Lines
+// before the byte $from are left out.
+function trace_lines($text, $from = 0)
+{
+    $file = is_file(TRACE_LOG) && is_readable(TRACE_LOG) ? fopen(TRACE_LOG, 'rb') : false;
+    if (!$file) {
+        return false;
+    }
+    $start = max($from, trace_size() - TRACE_BYTES);
+    fseek($file, $start);
+    if ($start > $from) {
+        fgets($file, TRACE_BYTES); // the rest of a line
+    }
+    $content = '';
+    while (!feof($file) && strlen($content) < TRACE_BYTES) {
+        $content .= fread($file, 8192);
+    }
+    fclose($file);
+    $lines = $content == '' ? array() : explode("\n", rtrim($content, "\n"));
+    $found = array();
+    foreach ($lines as $line) {
+        if ($text == '' || strpos(strtolower($line), strtolower($text)) !== false) {
+            $found[] = $line;
+        }
+    }
+    return array_slice($found, -TRACE_LINES);
+}
+
+// The newest changes of the management services, newest first: each an array of time, user, operation, values
+// and result; false when they cannot be read.
+function audit_rows()
+{
+    $status = 0;
+    $lines = array();
+    exec(AUDIT_COMMAND, $lines, $status);
+    if ($status != 0) {
+        return false;
+    }
+    $rows = array();
+    foreach (explode(RECORD_SEPARATOR, implode("\n", $lines)) as $record) {
+        $fields = explode(FIELD_SEPARATOR, $record);
+        if (count($fields) == 5) {
+            $rows[] = $fields;
+        }
+    }
+    return $rows;
+}
+
+// A change that goes on after the answer is kept for its user outside of the session: with the appliance's
+// address the browser's session changes too.
+function applying_file($session)
+{
+    return PRIVATE_FOLDER . '/applying.' . md5($session->user);
+}
+
+function keep_applying($session, $change)
+{
+    return replace_file(applying_file($session), serialize($change));
+}
+
+// As it was kept, or false.
+function kept_applying($session)
+{
+    $path = applying_file($session);
+    return is_readable($path) ? unserialize(implode('', file($path))) : false;
+}

@@ -1,0 +1,148 @@
+<?php
+// Signing in and out, and what a request may do.
+if (!defined('LIBRARY')) exit;
+
+define('SESSIONS', PRIVATE_FOLDER . '/sessions');
+define('IDLE_SECONDS', 900);
+
+// The signed-in user. The module takes "user" into the audit trail.
+class Session
+{
+    var $user;
+    var $role;
+}
+
+// The identifier that has travelled unencrypted is of no use under HTTPS, nor the other way round.
+function cookie_name()
+{
+    return is_https() ? '__Host-settings' : 'settings';
+}
+
+// PHP's own cookie has no HttpOnly and SameSite on every engine, so the cookie is sent here.
+function send_cookie($value)
+{
+    header('Set-Cookie: ' . cookie_name() . '=' . $value . '; Path=/; HttpOnly; SameSite=Strict'
+        . (is_https() ? '; Secure' : '') . ($value == '' ? '; Max-Age=0' : ''));
+}
+
+// Opens the session that the browser names, or a new one.
+function open_session()
+{
+    $id = text_of($_COOKIE, cookie_name());
+    start_session(preg_match('/^[A-Za-z0-9,-]{22,128}$/D', $id) ? $id : random_hex(16));
+    if (!isset($_SESSION['token'])) {
+        $_SESSION['token'] = random_hex(16);
+    }
+}
+
+function start_session($id)
+{
+    ini_set('session.use_cookies', '0');
+    ini_set('session.use_strict_mode', '1');
+    ini_set('session.gc_probability', '1');
+    ini_set('session.gc_divisor', '100');
+    ini_set('session.gc_maxlifetime', (string) (2 * IDLE_SECONDS));
+    make_private_folders();
+    session_cache_limiter('');
+    session_save_path(SESSIONS);
+    session_id($id);
+    session_start();
+    if (session_id() != text_of($_COOKIE, cookie_name())) {
+        send_cookie(session_id());
+    }
+}
+
+// From here on the session is the user's, under an identifier that nobody knew before.
+function begin_session_of($user)
+{
+    session_destroy();
+    start_session(random_hex(16));
+    $_SESSION = array('user' => $user, 'seen' => time(), 'token' => random_hex(16));
+}
+
+function end_session()
+{
+    $_SESSION = array();
+    session_destroy();
+    send_cookie('');
+}
+
+// The session of the signed-in user, who may do what the request asks for. Anybody else is asked to sign in first.
+function signed_in()
+{
+    open_session();
+    $accounts = read_accounts();
+    if (!isset($_SESSION['user']) || !isset($accounts[$_SESSION['user']])) {
+        ask_to_sign_in('');
+    }
+    if (time() - $_SESSION['seen'] > IDLE_SECONDS) {
+        // Not before somebody is told.
+        if (!is_background()) {
+            $_SESSION = array('token' => random_hex(16));
+        }
+        ask_to_sign_in('You were signed out after ' . (int) (IDLE_SECONDS / 60) . ' minutes without activity.');
+    }
+    if (!is_background()) {
+        $_SESSION['seen'] = time();
+    }
+    $session = new Session();
+    $session->user = $_SESSION['user'];
+    $session->role = $accounts[$session->user]['role'];
+    $GLOBALS['session'] = $session;
+    if (is_post()) {
+        check_change($session);
+    }
+    return $session;
+}
+
+function check_change($session)
+{
+    if (!has_token()) {
+        refuse('403 Forbidden', 'Nothing was changed', 'The form is out of date, or it did not come from these pages.'
+            . ' Open the page again and repeat the change.');
+    }
+    if (!may_change($session)) {
+        refuse('403 Forbidden', 'Nothing was changed', 'You are signed in as ' . $session->user
+            . ', who may look at everything and change nothing.');
+    }
+}
+
+function may_change($session)
+{
+    return $session->role == 'admin';
+}
+
+// Names the user to the management services. The functions for SSL and for the SNMP agent do not do that themselves: the
+// audit trail would show whom this process of the interpreter has served before.
+function name_user_to_services($session)
+{
+    get_snmp_trap_regs($session);
+}
+
+// Whether the request was sent by a form of this session.
+function has_token()
+{
+    return isset($_SESSION['token']) && same_text(text_of($_POST, 'token'), $_SESSION['token']);
+}
+
+// In the place of the page that was asked for, which comes after the sign-in. What was sent to it is lost.
+function ask_to_sign_in($notice)
+{
+    if (is_post()) {
+        header('HTTP/1.1 403 Forbidden');
+        $notice = trim($notice . ' What you sent was not saved: please enter it again.');
+    }
+    show_sign_in(basename(text_of($_SERVER, 'SCRIPT_NAME')), '', '', $notice);
+}
+
+function show_sign_in($next, $user, $error, $notice)
+{
+    show('signin', array('title' => 'Sign in', 'next' => next_page($next), 'user' => $user, 'error' => $error,
+        'notice' => $notice, 'accounts' => count(read_accounts())));
+}
+
+// A page to go on to after the sign-in: one of these pages, never an address from outside.
+function next_page($wanted)
+{
+    return isset($GLOBALS['pages'][$wanted]) || $wanted == 'applying.php' ? $wanted : 'index.php';
+}

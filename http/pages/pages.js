@@ -1,0 +1,145 @@
+// What makes the pages more pleasant. Everything works without it.
+'use strict';
+
+document.documentElement.classList.add('scripts');
+
+// Where something is to be corrected or read first.
+const wrong = document.querySelector('input[aria-invalid=true], [aria-invalid=true] input')
+  || document.querySelector('[data-focus]');
+if (wrong) wrong.focus();
+
+// The address under which the appliance will be found, as it is typed.
+for (const shown of document.querySelectorAll('[data-address-from]')) {
+  const field = document.getElementById(shown.dataset.addressFrom);
+  const general = shown.textContent;
+  const scheme = general.slice(0, general.indexOf('//') + 2);
+  const update = () => { shown.textContent = field.value.trim() ? `${scheme}${field.value.trim()}/` : general; };
+  field.addEventListener('input', update);
+  update();
+}
+
+// A change is sent once. The page may come back from the browser's memory, with the button as it was.
+addEventListener('submit', (event) => {
+  const button = event.submitter;
+  if (event.target.method !== 'post' || !button) return;
+  const label = button.innerHTML;
+  setTimeout(() => {
+    button.disabled = true;
+    if (button.dataset.busy) button.textContent = button.dataset.busy;
+  });
+  addEventListener('pageshow', (show) => {
+    if (!show.persisted) return;
+    button.disabled = false;
+    button.innerHTML = label;
+  }, {once: true});
+});
+
+// Parts that are fetched again every so often, until the server no longer asks for it.
+const polled = document.querySelector('[data-poll]');
+if (polled) follow(polled);
+
+async function follow(section) {
+  const parts = section.dataset.parts.split(' ');
+  const other = section.dataset.otherOrigin;
+  const bar = section.querySelector('progress');
+  const began = Date.now() - (bar ? bar.value / 100 * section.dataset.expected * 1000 : 0);
+  let misses = 0;
+  showEnd();
+  for (;;) {
+    await new Promise((resolve) => setTimeout(resolve, section.dataset.poll));
+    if (document.hidden) await new Promise((resolve) => addEventListener('visibilitychange', resolve, {once: true}));
+    if (bar) bar.value = Math.min(95, (Date.now() - began) / section.dataset.expected / 10);
+    const page = await fetchPage();
+    misses = page ? 0 : misses + 1;
+    for (const lost of section.querySelectorAll('[data-when-lost]')) lost.hidden = misses < 3;
+    if (!page) {
+      if (other && await answers(`${other}/icon.svg`)) {
+        return location.assign(`${other}/applying.php`);
+      }
+      continue;
+    }
+    // Another title is another state, and no part at all another page.
+    if (heading(page) !== heading(document) || !parts.every((id) => page.getElementById(id))) return location.reload();
+    parts.forEach((id) => replace(document.getElementById(id), page.getElementById(id)));
+    if (!page.querySelector('[data-poll]')) return undefined;
+  }
+}
+
+function heading(page) {
+  return page.querySelector('h1').textContent;
+}
+
+async function fetchPage() {
+  const address = new URL(location);
+  address.searchParams.set('background', '1');
+  try {
+    const answer = await fetch(address, {signal: AbortSignal.timeout(3000)});
+    return answer.ok ? new DOMParser().parseFromString(await answer.text(), 'text/html') : null;
+  } catch {
+    return null;
+  }
+}
+
+async function answers(address) {
+  try {
+    await fetch(address, {mode: 'no-cors', cache: 'no-store', signal: AbortSignal.timeout(2000)});
+    return true;
+  } catch {
+    return false;
+  }
+}
+
+// Only what has changed is replaced, so that a screen reader says it once and a selection stays.
+function replace(old, fresh) {
+  if (old.innerHTML === fresh.innerHTML) return;
+  const log = old.querySelector('.log');
+  const focused = log && document.activeElement === log;
+  const atEnd = !log || log.scrollTop + log.clientHeight >= log.scrollHeight - 8;
+  const place = log ? log.scrollTop : 0;
+  old.innerHTML = fresh.innerHTML;
+  const now = old.querySelector('.log');
+  if (!now) return;
+  if (focused) now.focus();
+  now.scrollTop = atEnd ? now.scrollHeight : place;
+}
+
+function showEnd() {
+  for (const log of document.querySelectorAll('.log.long')) log.scrollTop = log.scrollHeight;
+}
+
+// The log is filtered as the text is typed.
+const filter = document.getElementById('filter');
+if (filter) {
+  let typed;
+  showEnd();
+  filter.form.addEventListener('submit', (event) => {
+    event.preventDefault();
+    apply();
+  });
+  filter.addEventListener('input', () => {
+    clearTimeout(typed);
+    typed = setTimeout(apply, 250);
+  });
+  const apply = async () => {
+    const address = new URL(location);
+    address.searchParams.set('filter', filter.value);
+    history.replaceState(null, '', address);
+    for (const link of filter.form.querySelectorAll('a')) link.search = withFilter(link.search);
+    const page = await fetchPage();
+    const log = page && page.getElementById('log');
+    if (!log) return location.reload();
+    replace(document.getElementById('log'), log);
+    showEnd();
+  };
+}
+
+function withFilter(search) {
+  const query = new URLSearchParams(search);
+  query.set('filter', filter.value);
+  return `?${query}`;
+}
+
+// A link to where the page goes on when the web server has restarted.
+for (const link of document.querySelectorAll('[data-go-after]')) {
+  setTimeout(() => location.assign(link.href), link.dataset.goAfter * 1000);
+}

@@ -1,0 +1,21 @@
+<?php
+// The frame around what is seen before signing in.
+if (!defined('LIBRARY')) exit;
+$name = get_network_hostname();
+?>
+<!DOCTYPE html>
+<html lang="en">
+<head>
+<?php echo render('head', array('title' => $title . ' · ' . $name)); ?>
+</head>
+<body class="bare">
+<main id="content">
+  <p class="brand"><?php echo icon('library'); ?><span>Network settings</span></p>
+  <h1><?php echo h($name); ?></h1>
+<?php foreach ($GLOBALS['failures'] as $failure) { ?>
+  <?php echo message('bad', '<p><strong>' . h($failure['message']) . '</strong></p><p>' . h($failure['advice']) . '</p>'); ?>
+<?php } ?>
+<?php echo $content; ?>
+</main>
+</body>
+</html>

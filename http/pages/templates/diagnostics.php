@@ -1,0 +1,56 @@
+<?php
+if (!defined('LIBRARY')) exit;
+// Scripts keep the log up to date unless that is stopped; without scripts it has to be asked for.
+$polls = $live == '0' ? '' : ' data-poll="2000" data-parts="log"';
+$same_filter = 'filter=' . urlencode($filter);
+?>
+<section class="card" aria-labelledby="trace"<?php echo $polls; ?>>
+  <h2 id="trace">Trace log</h2>
+  <form method="get" action="diagnostics.php" class="filter" role="search">
+    <div class="field"><label for="filter">Only lines with</label>
+    <input type="search" id="filter" name="filter" value="<?php echo h($filter); ?>" autocomplete="off" spellcheck="false"></div>
+    <?php if ($live != 'scripts') { ?><input type="hidden" name="live" value="<?php echo h($live); ?>"><?php } ?>
+    <button type="submit">Filter</button>
+    <?php if ($live == '0') { ?>
+      <a class="button" href="diagnostics.php?live=1&amp;<?php echo h($same_filter); ?>">Follow</a>
+    <?php } else { ?>
+      <?php if ($live != '1') { ?><noscript><a class="button" href="diagnostics.php?live=1&amp;<?php echo h($same_filter); ?>">Follow</a></noscript><?php } ?>
+      <a class="button<?php if ($live != '1') echo ' scripted'; ?>" href="diagnostics.php?live=0&amp;<?php echo h($same_filter); ?>">Stop following</a>
+    <?php } ?>
+  </form>
+  <div id="log">
+<?php if ($lines === false) { ?>
+  <?php echo message('caution', '<p>The trace log cannot be read; there may be none yet.</p>'); ?>
+<?php } elseif (!$lines) { ?>
+  <p class="empty"><?php echo $filter == '' ? 'The trace log is empty.' : 'No line has this text.'; ?></p>
+<?php } else { ?>
+  <pre class="log long" tabindex="0" aria-label="End of the trace log"><?php echo h(implode("\n", $lines)); ?></pre>
+<?php } ?>
+  </div>
+</section>
+
+<section class="card" aria-labelledby="audit">
+  <h2 id="audit">Audit trail</h2>
+  <p class="hint">Changes of web security, SNMP and trap receivers, the newest first.</p>
+<?php if ($audit === false) { ?>
+  <?php echo message('bad', '<p>The audit trail cannot be read.</p>'); ?>
+<?php } elseif (!$audit) { ?>
+  <p class="empty">Nothing was changed yet.</p>
+<?php } else { ?>
+  <table class="stacks">
+    <thead><tr><th scope="col">Time (UTC)</th><th scope="col">User</th><th scope="col">Operation</th><th scope="col">Values</th>
+      <th scope="col">Result</th></tr></thead>
+    <tbody>
+<?php foreach ($audit as $row) { ?>
+    <tr>
+      <th scope="row"><?php echo h(substr(strtr($row[0], 'T', ' '), 0, 19)); ?></th>
+      <td data-label="User"><?php echo h($row[1] == '' ? 'Not known' : $row[1]); ?></td>
+      <td data-label="Operation"><?php echo h($row[2]); ?></td>
+      <td data-label="Values"><?php echo h($row[3]); ?></td>
+      <td data-label="Result"><?php echo $row[4] == 'stored' ? state('good', 'Stored') : state('bad', ucfirst($row[4])); ?></td>
+    </tr>
+<?php } ?>
+    </tbody>
+  </table>
+<?php } ?>
+</section>

@@ -1,0 +1,57 @@
+<?php
+// The frame around every page of a signed-in user.
+if (!defined('LIBRARY')) exit;
+$page = basename(text_of($_SERVER, 'SCRIPT_NAME'));
+// A page that fetches itself to follow the trace log is not to fill it.
+if (!is_background() || !isset($_SESSION['name'])) {
+    $_SESSION['name'] = get_network_hostname();
+}
+$name = $_SESSION['name'];
+$message = text_of($_SESSION, 'message');
+unset($_SESSION['message']);
+$wrong = failed() || !empty($errors);
+$current = isset($part_of) ? $part_of : $page;
+?>
+<!DOCTYPE html>
+<html lang="en">
+<head>
+<?php echo render('head', array('title' => ($wrong ? 'Error: ' : '') . $title . ' · ' . $name)); ?>
+<?php if (isset($refresh)) { ?>
+<noscript><meta http-equiv="refresh" content="<?php echo (int) $refresh[0]; ?>; url=<?php echo h($refresh[1]); ?>"></noscript>
+<?php } ?>
+</head>
+<body>
+<a class="skip" href="#content">Skip to the content</a>
+<div class="layout">
+<header class="bar">
+  <p class="brand"><?php echo icon('library'); ?><span><?php echo h($name); ?></span></p>
+  <details class="menu">
+    <summary><?php echo icon('menu'); ?>Menu</summary>
+    <?php echo render('menu', array('current' => $current)); ?>
+  </details>
+</header>
+<header class="side">
+  <p class="brand"><?php echo icon('library'); ?><span><?php echo h($name); ?></span></p>
+  <?php echo render('menu', array('current' => $current)); ?>
+</header>
+<main id="content" tabindex="-1">
+  <div class="title">
+    <h1><?php echo h($title); ?></h1>
+    <?php if (isset($lead)) { ?><p class="lead"><?php echo h($lead); ?></p><?php } ?>
+  </div>
+  <div id="messages" role="status"<?php if ($wrong) echo ' tabindex="-1" data-focus'; ?>>
+    <?php if ($message != '') echo message('good', '<p>' . h($message) . '</p>'); ?>
+    <?php if (!empty($errors)) { ?>
+      <?php echo message('bad', '<p><strong>Nothing was changed.</strong> Correct what is marked and save again.</p>'); ?>
+    <?php } ?>
+    <?php foreach ($GLOBALS['failures'] as $failure) { ?>
+      <?php echo message('bad', '<p><strong>' . h($failure['message']) . '</strong></p><p>' . h($failure['advice']) . '</p>'
+        . ($failure['code'] == '' ? '' : '<p class="code">Code ' . h($failure['code']) . ', reported at '
+        . h($failure['place']) . '</p>')); ?>
+    <?php } ?>
+  </div>
+<?php echo $content; ?>
+</main>
+</div>
+</body>
+</html>

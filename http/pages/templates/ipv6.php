@@ -1,0 +1,58 @@
+<?php if (!defined('LIBRARY')) exit; ?>
+<section class="card" aria-labelledby="now">
+  <h2 id="now">Now</h2>
+  <dl class="states">
+    <dt>IPv6</dt><dd><?php echo on_off($enabled); ?></dd>
+    <dt>Router advertisements</dt><dd><?php echo on_off($modes['stateless']); ?></dd>
+    <dt>DHCP</dt><dd><?php echo on_off($modes['dhcp']); ?></dd>
+    <dt>Static address</dt><dd><?php echo on_off($in_use); ?></dd>
+  </dl>
+  <h3>Addresses</h3>
+<?php if (!$addresses) { ?>
+  <p class="empty"><?php echo $enabled ? 'None yet.' : 'None, because IPv6 is off.'; ?></p>
+<?php } else { ?>
+  <ul class="addresses">
+<?php foreach ($addresses as $address) { ?>
+    <li><?php echo h($address); ?></li>
+<?php } ?>
+  </ul>
+<?php } ?>
+</section>
+
+<section class="card" aria-labelledby="switch">
+  <h2 id="switch">IPv6 altogether</h2>
+<?php
+echo form_begin('ipv6.php', 'enabled');
+echo check_field('enabled', 'Use IPv6', $enabled, 'Off means off for all sources below; their settings are kept.');
+?>
+<p class="note">When IPv6 is switched off, pages that were opened under an IPv6 address lose their connection.</p>
+<?php echo form_end('Save'); ?>
+</section>
+
+<section class="card" aria-labelledby="sources">
+  <h2 id="sources">Automatic addresses</h2>
+<?php
+echo form_begin('ipv6.php', 'modes');
+echo check_field('stateless', 'Router advertisements', $modes['stateless'], 'The appliance makes its address from what the router announces (SLAAC).');
+echo check_field('dhcp', 'DHCP', $modes['dhcp'], 'A DHCPv6 server in your network gives the address.');
+echo form_end('Save');
+?>
+</section>
+
+<section class="card" aria-labelledby="static-address">
+  <h2 id="static-address">Static address</h2>
+<?php
+echo form_begin('ipv6.php', 'static');
+echo check_field('static', 'Use a static address', $typed['static'], 'In addition to the automatic ones.');
+?>
+<div class="when-static">
+<?php
+echo text_field('ipStatic', 'Address', $typed['ipStatic'], $errors);
+echo text_field('prefix', 'Prefix length', $typed['prefix'], $errors, '', 'inputmode="numeric" class="short"');
+echo text_field('gateway', 'Gateway', $typed['gateway'], $errors, 'The router of the network; its link-local address (fe80…) will do.');
+?>
+</div>
+<p class="note">The change begins at once. A page that was opened under the static address loses its connection when that
+address changes or goes.</p>
+<?php echo form_end('Apply'); ?>
+</section>

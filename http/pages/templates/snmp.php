@@ -1,0 +1,28 @@
+<?php
+if (!defined('LIBRARY')) exit;
+$traps_error = isset($errors['traps']) ? $errors['traps'] : '';
+?>
+<section class="card" aria-label="SNMP agent">
+<?php echo form_begin('snmp.php', 'agent'); ?>
+<fieldset class="field"><legend>Answers requests of</legend>
+  <?php echo check_field('version1', 'Versions 1 and 2c', $settings->version1,
+      'Not encrypted: who knows the community can read everything.'); ?>
+  <p class="fixed"><?php echo $facts->version3 ? state('good', 'Version 3') : state('off', 'Version 3'); ?>
+    <span class="hint">Always on. Authentication <?php echo h($facts->algorithm); ?>, encryption
+    <?php echo $facts->encryption ? 'on' : 'off'; ?>, port <?php echo (int) $facts->port; ?>.</span></p>
+</fieldset>
+<?php echo text_field('community_name', 'Read community', $settings->community_name, $errors,
+    'The word that requests of versions 1 and 2c must carry.', 'maxlength="32"'); ?>
+<fieldset class="field"<?php echo described_by('traps', '', $traps_error); ?>><legend>Sends traps of</legend>
+  <?php echo check_field('trap1', 'Version 1', $settings->trap1); ?>
+  <?php echo check_field('trap2', 'Version 2c', $settings->trap2); ?>
+  <?php echo field_notes('traps', '', $traps_error); ?>
+</fieldset>
+<fieldset class="field"><legend>Wrong community</legend>
+  <?php echo check_field('auth_traps_enabled', 'Send a trap when a request carries a wrong community',
+      $settings->auth_traps_enabled); ?>
+</fieldset>
+<p class="note">The agent restarts when you save; for a moment it answers no requests.
+  Traps go to the <a href="traps.php">trap receivers</a>.</p>
+<?php echo form_end('Save'); ?>
+</section>

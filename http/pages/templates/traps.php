@@ -1,0 +1,54 @@
+<?php
+if (!defined('LIBRARY')) exit;
+$transports = array(1 => 'UDP', 2 => 'TCP');
+$may_change = may_change($GLOBALS['session']);
+?>
+<section class="card" aria-labelledby="list">
+  <h2 id="list">Receivers</h2>
+<?php if (!$receivers) { ?>
+  <p class="empty">There are none yet, so the agent's traps go nowhere.</p>
+<?php } else { ?>
+  <table class="stacks">
+    <thead><tr><th scope="col">Address</th><th scope="col">Port</th><th scope="col">Transport</th>
+      <?php if ($may_change) { ?><th scope="col"><span class="unseen">Delete</span></th><?php } ?></tr></thead>
+    <tbody>
+<?php foreach ($receivers as $receiver) { ?>
+    <tr>
+      <th scope="row"><?php echo h($receiver->ip); ?></th>
+      <td data-label="Port"><?php echo (int) $receiver->port; ?></td>
+      <td data-label="Transport"><?php echo h(isset($transports[$receiver->transport]) ? $transports[$receiver->transport]
+          : 'Number ' . $receiver->transport); ?></td>
+<?php if ($may_change) { ?>
+      <td><details class="confirm"><summary>Delete<span class="unseen"> <?php echo h($receiver->ip); ?></span></summary>
+        <form method="post" action="traps.php"><?php echo token_field(); ?>
+          <input type="hidden" name="change" value="delete">
+          <input type="hidden" name="id" value="<?php echo h($receiver->id); ?>">
+          <p>It will get no more traps.</p>
+          <button type="submit" class="danger">Delete <?php echo h($receiver->ip); ?></button>
+        </form></details></td>
+<?php } ?>
+    </tr>
+<?php } ?>
+    </tbody>
+  </table>
+<?php } ?>
+<?php if ($receivers && $may_change) { ?>
+  <form method="post" action="traps.php"><?php echo token_field(); ?>
+    <input type="hidden" name="change" value="test">
+    <p class="note">The test restarts the agent's traps and sends one to every receiver.</p>
+    <p class="actions"><button type="submit" data-busy="Sending…">Send a test trap</button></p>
+  </form>
+<?php } ?>
+</section>
+
+<section class="card" aria-labelledby="add">
+  <h2 id="add">Add a receiver</h2>
+<?php
+echo form_begin('traps.php', 'add');
+echo text_field('ip', 'Address', $typed['ip'], $errors, 'IPv4 or IPv6 address of the management system.');
+echo text_field('port', 'Port', $typed['port'], $errors, '', 'inputmode="numeric" class="short"');
+echo choice_field('transport', 'Transport', array('1' => array('UDP', 'Usual.'), '2' => array('TCP', '')),
+    $typed['transport'], $errors);
+echo form_end('Add');
+?>
+</section>

@@ -1,0 +1,173 @@
+// Changes of the addresses themselves, which go on after the answer.
+'use strict';
+
+const assert = require('node:assert/strict');
+const fs = require('node:fs');
+const {addresses, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until, withScript} = require('./appliance.cjs');
+const {base, enterPassword, messages, open, press, signIn, test} = require('./browser.cjs');
+
+async function fillStatic(page, ip, gateway = '10.20.0.1') {
+  await open(page, 'ipv4.php');
+  await page.check('#mode-static');
+  await page.fill('#ip', ip);
+  await page.fill('#netmask', '255.255.255.0');
+  await page.fill('#gateway', gateway);
+}
+
+function rows(page) {
+  return page.locator('#values tbody tr').evaluateAll((all) => all.map((row) =>
+    [...row.cells].map((cell) => cell.innerText.trim()).join('|')));
+}
+
+// As without a page: for the state a test begins with.
+async function setStatic(ip) {
+  ask('ipv4Manager.sh', '-c', '-s', `${ip}?255.255.255.0?10.20.0.1`);
+  await until(() => ipv4Address() === ip, `the address ${ip}`);
+}
+
+test('What will happen is said before it happens', {user: 'admin'}, async (page) => {
+  await open(page, 'ipv4.php');
+  assert.match(await page.innerText('.when-dhcp'), /begins after three seconds/);
+  await page.check('#mode-static');
+  await page.fill('#ip', '10.20.0.7');
+  assert.match(await page.innerText('p.when-static'), /loses its connection;\s+it is then at http:\/\/10\.20\.0\.7\/, where you sign in again/);
+});
+
+test('From DHCP to a static address: the page follows to the new address and says "Applied"', {user: 'admin'}, async (page) => {
+  assert.match(ask('ipv4Manager.sh', '-d', 'status'), /^10\.20\.0\.1\d\d\?/);
+  await fillStatic(page, '10.20.0.7');
+  await press(page, 'Apply');
+  assert.equal(await page.innerText('h1'), 'Applying');
+  assert.ok(await page.isVisible('progress'));
+  assert.deepEqual((await rows(page)).slice(0, 2).map((row) => row.replace(/\d+\.\d+\.\d+\.1\d\d/, 'lease')),
+    ['Obtained by|Static|DHCP|Not yet', 'Address|10.20.0.7|lease|Not yet']);
+  assert.equal(await page.getAttribute('.message a', 'href'), 'http://10.20.0.7/applying.php');
+  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+  assert.deepEqual(addresses('inet'), ['10.20.0.7/24']);
+  assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.1 /);
+  await enterPassword(page);
+  assert.equal(await page.innerText('h1'), 'Applied');
+  assert.deepEqual(await rows(page), ['Obtained by|Static|Static|As wanted', 'Address|10.20.0.7|10.20.0.7|As wanted',
+    'Netmask|255.255.255.0|255.255.255.0|As wanted', 'Gateway|10.20.0.1|10.20.0.1|As wanted']);
+  await page.click('text=Back to the settings');
+  assert.ok(await page.isChecked('#mode-static'));
+  assert.equal(await page.inputValue('#ip'), '10.20.0.7');
+});
+
+test('A change that leaves the address alone is applied while one watches', {}, async (page) => {
+  await setStatic('10.20.0.7');
+  await signIn(page);
+  await fillStatic(page, '10.20.0.7', '10.20.0.2');
+  await press(page, 'Apply');
+  assert.match(await page.title(), /^Applying/);
+  assert.equal(await page.locator('.message a').count(), 0, 'there is no other address to go to');
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  assert.match(await page.innerText('[role=status] >> nth=-1'), /^The settings are in force\./);
+  assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.2 /);
+  await page.reload();
+  assert.equal(await page.innerText('h1'), 'Applied');
+});
+
+test('Without scripts the page goes to the new address too', {javaScriptEnabled: false}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '10.20.0.8');
+  await press(page, 'Apply');
+  assert.equal(await page.innerText('h1'), 'Applying');
+  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+  await enterPassword(page);
+  assert.equal(await page.innerText('h1'), 'Applied');
+});
+
+test('Without scripts a change is watched as well', {javaScriptEnabled: false}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, ipv4Address());
+  await press(page, 'Apply');
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await ipv4ChangesOver();
+});
+
+test('A change that fails: the old values are marked, and the trace log says why', {user: 'admin'}, async (page) => {
+  const before = addresses('inet');
+  await withScript('ipv4Manager.sh', 'case "$*" in "-c -s "*) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await fillStatic(page, '10.20.0.9');
+    await press(page, 'Apply');
+    await page.waitForSelector('h1:text-is("Not applied")', {timeout: 20000});
+    await ipv4ChangesOver();
+  });
+  const now = ipv4Address();
+  assert.deepEqual(await rows(page), ['Obtained by|Static|Static|As wanted', `Address|10.20.0.9|${now}|Old value`,
+    'Netmask|255.255.255.0|255.255.255.0|As wanted', 'Gateway|10.20.0.1|10.20.0.1|As wanted']);
+  assert.match(await page.innerText('pre'), /Could not set network settings \(dhcp off\)\.:<0>/);
+  assert.deepEqual(addresses('inet'), before);
+  await page.click('text=Back, to try again');
+  assert.equal(await page.inputValue('#ip'), now);
+});
+
+test('A change that nobody writes down as failed is given up after its time', {user: 'admin'}, async (page) => {
+  await withScript('ipv4Manager.sh', 'case "$*" in "-c -s "*) exit 0 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await fillStatic(page, '10.20.0.9');
+    await press(page, 'Apply');
+    const [kept] = fs.readdirSync('/home/embedded/library/HTTPService/dat').filter((name) => name.startsWith('applying.'));
+    const path = `/home/embedded/library/HTTPService/dat/${kept}`;
+    const change = fs.readFileSync(path, 'utf8');
+    const [, began] = change.match(/"began";i:(\d+);/);
+    fs.writeFileSync(path, change.replace(began, String(began - 45)));
+    await page.waitForSelector('h1:text-is("Not applied")');
+    assert.doesNotMatch(await page.innerText('pre'), /Could not/);
+    await ipv4ChangesOver();
+  });
+});
+
+test('Back to DHCP: the page says that it has lost the appliance, which has a lease', {user: 'admin'}, async (page) => {
+  const old = ipv4Address();
+  await open(page, 'ipv4.php');
+  await page.check('#mode-dhcp');
+  await press(page, 'Apply');
+  assert.deepEqual(await rows(page), ['Obtained by|DHCP|Static|Not yet', `Address|From the DHCP server|${old}|Not yet`]);
+  await page.waitForSelector('[data-when-lost]:visible', {timeout: 60000});
+  const lease = await until(() => ask('ipv4Manager.sh', '-d', 'status').match(/^(10\.20\.0\.1\d\d)\?/), 'a lease', 30);
+  await page.goto(`http://${lease[1]}/applying.php`);
+  await enterPassword(page);
+  assert.equal(await page.innerText('h1'), 'Applied');
+  assert.deepEqual(await rows(page), ['Obtained by|DHCP|DHCP|As wanted', `Address|From the DHCP server|${lease[1]}|As wanted`]);
+});
+
+test('A static IPv6 address comes and goes, and the others stay', {user: 'admin'}, async (page) => {
+  php('set_ipv6_enabled($session, true);');
+  await open(page, 'ipv6.php');
+  await page.check('#static');
+  await page.fill('#ipStatic', '2001:DB8:20:0:0::7');
+  await page.fill('#prefix', '64');
+  await page.fill('#gateway', '2001:db8:20::1');
+  await press(page, 'Apply');
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  assert.deepEqual((await rows(page))[1], 'Address|2001:DB8:20:0:0::7|2001:db8:20::7|As wanted');
+  await until(() => addresses('inet6').includes('2001:db8:20::7/64'), 'the static address');
+  await page.click('text=Back to the settings');
+  assert.equal(await page.inputValue('#ipStatic'), '2001:db8:20::7');
+  assert.match(await page.innerText('.addresses'), /2001:db8:20::7/);
+
+  await page.uncheck('#static');
+  await press(page, 'Apply');
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  assert.ok(!addresses('inet6').includes('2001:db8:20::7/64'));
+  assert.equal(ask('ipv6Manager.sh', '-g', 'static'), '');
+});
+
+test('A static IPv6 address that the appliance refuses', {user: 'admin'}, async (page) => {
+  await withScript('ipv6Manager.sh', 'case "$*" in "-c -s "*) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await open(page, 'ipv6.php');
+    await page.check('#static');
+    await page.fill('#ipStatic', '2001:db8:20::7');
+    await page.fill('#gateway', 'fe80::1');
+    await press(page, 'Apply');
+    await page.waitForSelector('h1:text-is("Not applied")', {timeout: 20000});
+  });
+  assert.match(await page.innerText('pre'), /Failed to enable static IPv6 address: :<\d+>/);
+  php('set_ipv6_enabled($session, false);');
+});
+
+test('Nothing under way: the page says so', {user: 'monitor'}, async (page) => {
+  await open(page, 'applying.php');
+  assert.equal(await messages(page), 'No change is under way.');
+});

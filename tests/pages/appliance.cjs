@@ -1,0 +1,95 @@
+// The appliance as it is apart from its pages: what the tests compare the pages with.
+'use strict';
+
+const {execFileSync, spawn} = require('node:child_process');
+const fs = require('node:fs');
+
+const library = '/home/embedded/library';
+const web = `${library}/HTTPService/lighttpd`;
+
+const accounts = new Map(process.env.PAGES_TEST_ACCOUNTS.split('\n').map((line) => line.split(' ')));
+
+// In the appliance's network; this process is on the LAN.
+function inAppliance(...command) {
+  return execFileSync('nsenter', ['--net=/run/appliance/appliance.net', '--', ...command], {encoding: 'utf8'}).trim();
+}
+
+function addresses(family) {
+  const [device] = JSON.parse(inAppliance('ip', '-json', 'address', 'show', 'dev', 'eth0', 'scope', 'global'));
+  return device.addr_info.filter((entry) => entry.family === family && !entry.tentative)
+    .map((entry) => `${entry.local}/${entry.prefixlen}`);
+}
+
+function ipv4Address() {
+  return addresses('inet').map((address) => address.split('/')[0])[0];
+}
+
+// What a device script says to a question.
+function ask(script, ...options) {
+  return inAppliance('sh', `${library}/AppManager/bin/${script}`, ...options);
+}
+
+// Calls functions of the module as a page does.
+function php(code) {
+  return inAppliance('php', '-r', `class Session { var $user = 'tests'; } $session = new Session(); ${code}`);
+}
+
+function fromLan(...command) {
+  return execFileSync(command[0], command.slice(1), {encoding: 'utf8', stdio: ['ignore', 'pipe', 'pipe']}).trim();
+}
+
+function traceLog() {
+  return fs.readFileSync(`${web}/logs/php_extension.log`, 'utf8');
+}
+
+function errorLog() {
+  return fs.readFileSync(`${web}/logs/error.log`, 'utf8');
+}
+
+// Resolves as soon as the condition holds; what it may wait for has no event to be told by.
+async function until(condition, what, seconds = 20) {
+  const end = Date.now() + seconds * 1000;
+  for (;;) {
+    const value = await condition();
+    if (value) return value;
+    if (Date.now() > end) throw new Error(`Waited ${seconds} seconds for ${what}.`);
+    await new Promise((resolve) => setTimeout(resolve, 100));
+  }
+}
+
+// Until every change of IPv4 that was begun has come to its end, well or badly: none may meet the next test.
+function ipv4ChangesOver() {
+  const times = (pattern) => (traceLog().match(pattern) || []).length;
+  return until(() => times(/Firing off the thread to Set Network settings:/g)
+    === times(/Leaving set_network_ipv4|Could not set library hostname:<0>|Could not set network settings/g), 'the changes of IPv4');
+}
+
+// Puts another script in the place of a device script while the work is done; $ORIGINAL is that script.
+async function withScript(name, text, work) {
+  const path = `${library}/AppManager/bin/${name}`;
+  const original = fs.readFileSync(path);
+  fs.writeFileSync(`${path}.original.sh`, original, {mode: 0o755});
+  fs.writeFileSync(path, `#!/bin/sh\nORIGINAL=${path}.original.sh\n${text}\n`);
+  try {
+    await work();
+  } finally {
+    fs.writeFileSync(path, original);
+    fs.unlinkSync(`${path}.original.sh`);
+  }
+}
+
+// Datagrams that reach a port of the LAN side while the work is done.
+async function datagramsTo(port, work) {
+  const listener = spawn('socat', ['-u', `UDP4-RECV:${port},reuseaddr`, 'STDOUT'], {stdio: ['ignore', 'pipe', 'inherit']});
+  let received = Buffer.alloc(0);
+  listener.stdout.on('data', (data) => { received = Buffer.concat([received, data]); });
+  await until(() => fromLan('ss', '-Hnlu', `sport = :${port}`) !== '', `a listener at port ${port}`);
+  try {
+    await work(() => received);
+  } finally {
+    listener.kill();
+  }
+}
+
+module.exports = {accounts, addresses, ask, datagramsTo, errorLog, fromLan, inAppliance, ipv4Address, ipv4ChangesOver, library, php, traceLog,
+  until, web, withScript};

@@ -1,0 +1,133 @@
+// The browser, and what every test of a page needs of it.
+'use strict';
+
+const fs = require('node:fs');
+const nodeTest = require('node:test');
+const {chromium} = require('playwright-core');
+const appliance = require('./appliance.cjs');
+
+const failures = `${process.env.PAGES_TEST_FOLDER}/failures`;
+const flags = ['--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
+  '--disable-background-networking', '--disable-component-update', '--disable-sync'];
+const axe = fs.readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
+const pages = ['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php', 'traps.php',
+  'diagnostics.php'];
+
+let browser;
+nodeTest.before(async () => {
+  browser = await chromium.launch({executablePath: '/usr/bin/chromium', args: flags});
+});
+nodeTest.after(() => browser.close());
+
+function base(scheme = 'http') {
+  return `${scheme}://${appliance.ipv4Address()}/`;
+}
+
+// A test with a page of its own. What a page reports as a fault of its own fails the test, and a picture of it is
+// kept. options: those of a browser context, and "user" to be signed in as: in a session that other tests use
+// too, so that it must not be ended.
+function test(name, options, work) {
+  nodeTest.test(name, async () => {
+    const {user, ...contextOptions} = options;
+    const context = await browser.newContext({reducedMotion: 'reduce', ignoreHTTPSErrors: true, ...contextOptions});
+    context.setDefaultTimeout(10000);
+    const page = await context.newPage();
+    const faults = [];
+    page.on('pageerror', (error) => faults.push(error.message));
+    page.on('console', (message) => {
+      if (/Content Security Policy/.test(message.text())) faults.push(message.text());
+    });
+    try {
+      if (user) await resume(page, user);
+      await work(page, context);
+      if (faults.length > 0) throw new Error(`The browser reports: ${faults.join('; ')}`);
+    } catch (error) {
+      fs.mkdirSync(failures, {recursive: true});
+      const picture = `${failures}/${name.replace(/[^A-Za-z0-9]+/g, '-')}.png`;
+      await page.screenshot({path: picture, fullPage: true}).catch(() => {});
+      throw error;
+    } finally {
+      await context.close();
+    }
+  });
+}
+
+// As a user who has signed in before, at this address.
+const cookies = new Map();
+
+async function resume(page, user) {
+  const who = `${user} at ${base()}`;
+  if (!cookies.has(who)) {
+    await signIn(page, user);
+    cookies.set(who, await page.context().cookies());
+  }
+  await page.context().addCookies(cookies.get(who));
+  await page.goto(base());
+}
+
+async function signIn(page, user = 'admin', next = 'index.php', scheme = 'http') {
+  await page.goto(`${base(scheme)}${next}`);
+  await enterPassword(page, user);
+}
+
+async function enterPassword(page, user = 'admin') {
+  await page.fill('#user', user);
+  await page.fill('#password', appliance.accounts.get(user));
+  await press(page, 'Sign in');
+  await page.waitForSelector('.layout');
+}
+
+// Whether the page asks to sign in, and what it says about that.
+async function asksToSignIn(page) {
+  await page.waitForSelector('form[action="signin.php"]');
+  return page.innerText('main [role=status]');
+}
+
+async function open(page, name) {
+  await page.goto(new URL(name, page.url()).href);
+}
+
+// Presses the button (within the element, when there are several) and waits for the page that comes of it.
+async function press(page, label, within = 'body') {
+  const navigated = page.waitForNavigation();
+  await page.click(`${within} >> button:text-is("${label}"):visible`);
+  await navigated;
+}
+
+function messages(page) {
+  return page.innerText('#messages');
+}
+
+// The sentence that is tied to a field for everybody.
+async function errorOf(page, field) {
+  return page.evaluate((id) => {
+    const input = document.getElementById(id) || document.querySelector(`[name="${id}"]`);
+    const holder = input.closest('[aria-invalid=true]');
+    if (!holder) return '';
+    return holder.getAttribute('aria-describedby').split(' ').filter((name) => name.endsWith('-error'))
+      .map((name) => document.getElementById(name).innerText.trim()).join(' ');
+  }, field);
+}
+
+// The value beside a term of a list of terms, or beside a row's heading.
+function beside(page, term) {
+  return page.evaluate((wanted) => {
+    const terms = [...document.querySelectorAll('dt')].filter((item) => item.innerText.trim() === wanted);
+    if (terms.length !== 1) throw new Error(`${terms.length} times "${wanted}"`);
+    const values = [];
+    for (let item = terms[0].nextElementSibling; item && item.tagName === 'DD'; item = item.nextElementSibling) {
+      values.push(item.innerText.trim());
+    }
+    return values.join(', ');
+  }, term);
+}
+
+// What axe finds wrong, each as a sentence.
+async function accessibilityFaults(page) {
+  await page.evaluate(axe);
+  const {violations} = await page.evaluate(() => window.axe.run(document));
+  return violations.map((violation) =>
+    `${violation.id}: ${violation.help} (${violation.nodes.map((node) => node.target.join(' ')).join(', ')})`);
+}
+
+module.exports = {accessibilityFaults, asksToSignIn, base, beside, enterPassword, errorOf, messages, open, pages, press, signIn, test};

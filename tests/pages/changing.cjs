@@ -1,0 +1,364 @@
+// What is changed on a page is changed on the appliance, and what is wrong is said beside its field.
+'use strict';
+
+const assert = require('node:assert/strict');
+const fs = require('node:fs');
+const {addresses, ask, datagramsTo, fromLan, inAppliance, ipv4Address, php, traceLog, until, withScript} = require('./appliance.cjs');
+const {beside, errorOf, messages, open, press, signIn, test} = require('./browser.cjs');
+
+// Fills in a form, sends it, and sees each field keep what was typed, with the sentence beside it.
+async function refused(page, button, within, cases) {
+  for (const [values, errors] of cases) {
+    for (const [field, value] of Object.entries(values)) await page.fill(`#${field}`, value);
+    await press(page, button, within);
+    for (const [field, value] of Object.entries(values)) {
+      assert.equal(await page.inputValue(`#${field}`), value.trim(), `${field} keeps what was typed`);
+      if (!errors[field]) assert.equal(await errorOf(page, field), '', `${field}: ${value}`);
+    }
+    for (const [field, error] of Object.entries(errors)) assert.match(await errorOf(page, field), error, values[field]);
+    assert.match(await messages(page), /Nothing was changed/);
+    const focused = await page.evaluate(() => document.activeElement.closest('[aria-invalid=true]') !== null);
+    assert.ok(focused, 'the first wrong field has the focus');
+  }
+}
+
+test('The host name', {user: 'admin'}, async (page) => {
+  await open(page, 'ipv4.php');
+  await page.fill('#hostname', 'archive-3.example');
+  await press(page, 'Save name');
+  assert.equal(await messages(page), 'The host name is now archive-3.example.');
+  assert.equal(inAppliance('hostname'), 'archive-3.example');
+  assert.match(await page.title(), /archive-3\.example$/);
+  await press(page, 'Save name');
+  assert.match(await messages(page), /already; nothing was changed/);
+  await page.fill('#hostname', 'library');
+  await press(page, 'Save name');
+  assert.equal(inAppliance('hostname'), 'library');
+});
+
+test('A host name that is none', {user: 'admin'}, async (page) => {
+  await open(page, 'ipv4.php');
+  await refused(page, 'Save name', 'main', [
+    [{hostname: ''}, {hostname: /Enter a name/}],
+    [{hostname: 'a b'}, {hostname: /Use only letters/}],
+    [{hostname: 'naïve'}, {hostname: /Use only letters/}],
+    [{hostname: '$(reboot)'}, {hostname: /Use only letters/}],
+    [{hostname: '"; reboot; "'}, {hostname: /Use only letters/}],
+    [{hostname: '-a'}, {hostname: /hyphen/}],
+    [{hostname: 'a..b'}, {hostname: /Each part/}],
+    [{hostname: `${'a'.repeat(63)}.b`}, {hostname: /too long/}],
+    [{hostname: 'a'.repeat(64)}, {hostname: /1 to 63/}],
+  ]);
+  assert.equal(inAppliance('hostname'), 'library');
+});
+
+test('A host name that the appliance refuses is reported with the code', {user: 'admin'}, async (page) => {
+  await withScript('ipv4Manager.sh', 'case $1 in -n) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await open(page, 'ipv4.php');
+    await page.fill('#hostname', 'other');
+    await press(page, 'Save name');
+    assert.match(await messages(page), /Could not set library hostname\n+The appliance refused the name[^]*Code 0x00000001/);
+    assert.match(await errorOf(page, 'hostname'), /did not take this name/);
+    assert.equal(await page.inputValue('#hostname'), 'other');
+  });
+  assert.equal(inAppliance('hostname'), 'library');
+});
+
+test('IPv4 settings that cannot be', {user: 'admin'}, async (page) => {
+  const logged = traceLog().length;
+  await open(page, 'ipv4.php');
+  await page.check('#mode-static');
+  const good = {ip: '10.20.0.7', netmask: '255.255.255.0', gateway: '10.20.0.1'};
+  await refused(page, 'Apply', 'main', [
+    [{ip: '', netmask: '', gateway: ''}, {ip: /four numbers/, netmask: /netmask/, gateway: /router/}],
+    [{...good, ip: '10.20.0.256'}, {ip: /four numbers/}],
+    [{...good, ip: '10.20.0.07'}, {ip: /four numbers/}],
+    [{...good, ip: '10.20.0.7; reboot'}, {ip: /four numbers/}],
+    [{...good, ip: '127.0.0.1'}, {ip: /cannot have/}],
+    [{...good, ip: '10.20.0.255'}, {ip: /first and the last/}],
+    [{...good, ip: '10.20.0.0'}, {ip: /first and the last/}],
+    [{...good, netmask: '255.0.255.0'}, {netmask: /such as 255\.255\.255\.0/}],
+    [{...good, netmask: '255.255.255.255'}, {netmask: /such as/}],
+    [{...good, gateway: '10.20.1.1'}, {gateway: /same network as 10\.20\.0\.7 with netmask 255\.255\.255\.0/}],
+    [{...good, gateway: '10.20.0.7'}, {gateway: /itself/}],
+    [{...good, gateway: '10.20.0.255'}, {gateway: /belong/}],
+  ]);
+  assert.doesNotMatch(traceLog().slice(logged), /Entering set_/);
+});
+
+test('The DNS servers', {user: 'admin'}, async (page) => {
+  await open(page, 'dns.php');
+  await page.fill('#dnsPrimary', ' 10.20.0.1 ');
+  await page.fill('#dnsSecondary', '2001:db8:20::1');
+  await press(page, 'Save');
+  assert.equal(await messages(page), 'The DNS servers are set.');
+  assert.equal(await page.inputValue('#dnsPrimary'), '10.20.0.1');
+  assert.equal(await page.inputValue('#dnsSecondary'), '2001:db8:20::1');
+  const servers = fs.readFileSync('/etc/resolv.conf', 'utf8').match(/^nameserver .*$/gm);
+  assert.deepEqual(servers, ['nameserver 10.20.0.1', 'nameserver 2001:db8:20::1']);
+  await page.fill('#dnsPrimary', '');
+  await page.fill('#dnsSecondary', '');
+  await press(page, 'Save');
+  assert.equal(await messages(page), 'The DNS servers are removed.');
+  assert.equal(ask('ipv6Manager.sh', '-g', 'dns'), 'disabled');
+});
+
+test('DNS servers that cannot be', {user: 'admin'}, async (page) => {
+  await open(page, 'dns.php');
+  await refused(page, 'Save', 'main', [
+    [{dnsPrimary: 'dns.example', dnsSecondary: ''}, {dnsPrimary: /IPv4 or IPv6 address/}],
+    [{dnsPrimary: '10.20.0.1', dnsSecondary: '1::2::3'}, {dnsSecondary: /IPv4 or IPv6 address/}],
+    [{dnsPrimary: '', dnsSecondary: '10.20.0.1'}, {dnsPrimary: /only server here/}],
+    [{dnsPrimary: '10.20.0.1" x', dnsSecondary: ''}, {dnsPrimary: /IPv4 or IPv6 address/}],
+  ]);
+  await page.fill('#dnsPrimary', '192.168.250.5');
+  await page.fill('#dnsSecondary', '');
+  await press(page, 'Save');
+  assert.match(await messages(page), /^Failed to set DNS addresses\.\n+The address belongs to the network inside the appliance[^]*Code 0x00050040/);
+  assert.equal(await page.inputValue('#dnsPrimary'), '192.168.250.5');
+  assert.equal(ask('ipv6Manager.sh', '-g', 'dns'), 'disabled');
+});
+
+test('The Ethernet port', {user: 'admin'}, async (page) => {
+  await open(page, 'port.php');
+  await page.uncheck('#auto');
+  await page.check('#speed-10');
+  await page.check('#duplex-0');
+  await press(page, 'Save');
+  assert.equal(await messages(page), 'The Ethernet port is set.');
+  assert.equal(ask('ipv4Manager.sh', '-g', 'port'), 'off?10?half');
+  assert.ok(!await page.isChecked('#auto'));
+  assert.ok(await page.isChecked('#speed-10'));
+  assert.ok(await page.isChecked('#duplex-0'));
+  await page.check('#auto');
+  await page.check('#speed-100');
+  await page.check('#duplex-1');
+  await press(page, 'Save');
+  assert.equal(ask('ipv4Manager.sh', '-g', 'port'), 'on?100?full');
+  await page.evaluate(() => document.querySelectorAll('[type=radio]').forEach((mark) => { mark.value = '1000'; }));
+  await press(page, 'Save');
+  assert.equal(await errorOf(page, 'speed'), 'Choose a speed.');
+  assert.equal(await errorOf(page, 'duplex'), 'Choose a duplex mode.');
+  assert.equal(ask('ipv4Manager.sh', '-g', 'port'), 'on?100?full');
+});
+
+function snmpGet(version, community) {
+  try {
+    return fromLan('snmpget', '-v', version, '-c', community, '-t', '1', '-r', '0', '-Oqv', ipv4Address(), '.1.3.6.1.2.1.1.5.0');
+  } catch {
+    return '';
+  }
+}
+
+test('The SNMP agent', {user: 'admin'}, async (page) => {
+  await open(page, 'snmp.php');
+  await page.check('#version1');
+  await page.fill('#community_name', 'read$me;<b>');
+  await page.check('#trap2');
+  await press(page, 'Save');
+  assert.equal(await messages(page), 'The SNMP agent is set and has restarted.');
+  assert.equal(await page.inputValue('#community_name'), 'read$me;<b>');
+  assert.ok(await page.isChecked('#trap2'));
+  assert.match(snmpGet('2c', 'read$me;<b>'), /library/);
+  assert.match(snmpGet('1', 'read$me;<b>'), /library/);
+  assert.equal(snmpGet('2c', 'public'), '');
+  await page.uncheck('#version1');
+  await press(page, 'Save');
+  assert.equal(snmpGet('2c', 'read$me;<b>'), '');
+  await page.check('#version1');
+  await page.uncheck('#trap2');
+  await page.fill('#community_name', 'public');
+  await press(page, 'Save');
+  assert.match(snmpGet('2c', 'public'), /library/);
+  assert.ok(!await page.isChecked('#trap2'));
+});
+
+test('SNMP settings that cannot be', {user: 'admin'}, async (page) => {
+  await open(page, 'snmp.php');
+  await page.evaluate(() => document.getElementById('community_name').removeAttribute('maxlength'));
+  await refused(page, 'Save', 'main', [
+    [{community_name: ''}, {community_name: /1 to 32/}],
+    [{community_name: 'a b'}, {community_name: /1 to 32/}],
+    [{community_name: 'a"b'}, {community_name: /1 to 32/}],
+    [{community_name: 'a\'b'}, {community_name: /1 to 32/}],
+    [{community_name: 'é'}, {community_name: /1 to 32/}],
+  ]);
+  await page.fill('#community_name', 'public');
+  await page.uncheck('#trap1');
+  await press(page, 'Save');
+  assert.equal(await errorOf(page, 'trap1'), 'Choose at least one.');
+  assert.match(snmpGet('2c', 'public'), /library/);
+});
+
+function receivers() {
+  return JSON.parse(php('echo json_encode(get_snmp_trap_regs($session));'));
+}
+
+test('A trap receiver is added, tested and deleted', {user: 'admin'}, async (page) => {
+  await open(page, 'traps.php');
+  assert.match(await page.innerText('main'), /There are none yet/);
+  await page.fill('#ip', '10.20.0.1');
+  await page.fill('#port', '16200');
+  await press(page, 'Add');
+  assert.equal(await messages(page), 'The receiver 10.20.0.1 is added.');
+  assert.deepEqual(receivers().map(({transport, ip, port}) => [transport, ip, port]), [[1, '10.20.0.1', 16200]]);
+  await page.fill('#ip', '2001:db8:20::1');
+  await page.check('#transport-2');
+  await press(page, 'Add');
+  const rows = await page.locator('tbody tr').evaluateAll((all) => all.map((row) =>
+    [...row.cells].slice(0, 3).map((cell) => cell.innerText.trim())));
+  assert.deepEqual(rows, [['10.20.0.1', '16200', 'UDP'], ['2001:db8:20::1', '162', 'TCP']]);
+
+  await page.click('summary:has-text("2001:db8:20::1")');
+  await press(page, 'Delete 2001:db8:20::1');
+  assert.equal(await messages(page), 'The receiver 2001:db8:20::1 is deleted.');
+  await datagramsTo(16200, async (received) => {
+    await press(page, 'Send a test trap');
+    assert.match(await messages(page), /^A test trap was sent to every receiver/);
+    await until(() => received().includes('public'), 'a trap');
+  });
+  await page.click('summary:has-text("10.20.0.1")');
+  await press(page, 'Delete 10.20.0.1');
+  assert.deepEqual(receivers(), []);
+});
+
+test('A receiver that somebody else has deleted meanwhile', {user: 'admin'}, async (page) => {
+  php('create_snmp_trap_reg($session, 1, "10.20.0.9", "162");');
+  await open(page, 'traps.php');
+  php('delete_snmp_trap_reg($session, get_snmp_trap_regs($session)[0]->id);');
+  await page.click('summary:has-text("10.20.0.9")');
+  await press(page, 'Delete 10.20.0.9');
+  assert.equal(await messages(page), 'This receiver was deleted already.');
+});
+
+test('Trap receivers that cannot be', {user: 'admin'}, async (page) => {
+  await open(page, 'traps.php');
+  await refused(page, 'Add', 'main', [
+    [{ip: '', port: ''}, {ip: /IPv4 or IPv6/, port: /1 to 65535/}],
+    [{ip: 'manager.example', port: '162'}, {ip: /IPv4 or IPv6/}],
+    [{ip: '10.20.0.1', port: '0'}, {port: /1 to 65535/}],
+    [{ip: '10.20.0.1', port: '65536'}, {port: /1 to 65535/}],
+    [{ip: '10.20.0.1', port: '-1'}, {port: /1 to 65535/}],
+  ]);
+  await page.fill('#ip', '192.168.250.9');
+  await page.fill('#port', '162');
+  await press(page, 'Add');
+  assert.match(await messages(page), /Internal Address Conflict\n[^]*Code 0x00050040/);
+  assert.match(await errorOf(page, 'ip'), /used inside the appliance/);
+  assert.deepEqual(receivers(), [], 'what the module adds after its report is taken back');
+});
+
+test('The twenty-first trap receiver is refused', {user: 'admin'}, async (page) => {
+  php('for ($i = 1; $i <= 20; $i++) create_snmp_trap_reg($session, 1, "10.20.0.$i", "162");');
+  await open(page, 'traps.php');
+  assert.equal(await page.locator('tbody tr').count(), 20);
+  await page.fill('#ip', '10.20.0.21');
+  await press(page, 'Add');
+  assert.match(await messages(page), /Could not create trap registration\n+The receiver was not added\. There can be 20/);
+  assert.equal(await page.inputValue('#ip'), '10.20.0.21');
+  php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
+});
+
+test('A receiver that cannot be sent to is reported', {user: 'admin'}, async (page) => {
+  php('create_snmp_trap_reg($session, 2, "10.20.0.1", "9");');
+  await open(page, 'traps.php');
+  await press(page, 'Send a test trap');
+  assert.match(await messages(page), /Failed to restart\/test trap registration\n+At least one receiver/);
+  php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
+});
+
+test('The audit trail names user, operation, values and result', {user: 'admin'}, async (page) => {
+  php('create_snmp_trap_reg($session, 1, "10.20.0.77", "162"); create_snmp_trap_reg($session, 7, "10.20.0.78", "162");'
+    + 'foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
+  await open(page, 'diagnostics.php?live=0');
+  const rows = await page.locator('tbody tr').evaluateAll((all) => all.map((row) =>
+    [...row.cells].slice(1).map((cell) => cell.innerText.trim()).join('|')));
+  assert.match(rows[0], /^tests\|delete/);
+  assert.match(rows[1], /^tests\|create.*10\.20\.0\.78.*\|Refused: /);
+  assert.match(rows[2], /^tests\|create.*10\.20\.0\.77.*\|Stored$/);
+});
+
+test('The audit trail names who changed the agent, whoever was served before', {user: 'admin'}, async (page, context) => {
+  const other = await context.browser().newContext();
+  const monitor = await other.newPage();
+  await signIn(monitor, 'monitor');
+  await open(page, 'snmp.php');
+  // More often than the interpreter has processes.
+  for (let i = 0; i < 12; i += 1) await open(monitor, 'traps.php');
+  await other.close();
+  await press(page, 'Save');
+  await open(page, 'diagnostics.php?live=0');
+  const users = await page.locator('tbody tr').evaluateAll((all) => all.slice(0, 3).map((row) =>
+    row.cells[1].innerText.trim()));
+  assert.deepEqual(users, ['admin', 'admin', 'admin']);
+});
+
+test('IPv6 is switched on and off, and shows the addresses in use', {user: 'admin'}, async (page) => {
+  await open(page, 'ipv6.php');
+  assert.equal(await beside(page, 'IPv6'), 'Off');
+  assert.match(await page.innerText('section >> nth=0'), /None, because IPv6 is off\./);
+  await page.check('#enabled');
+  await press(page, 'Save', '[aria-labelledby=switch]');
+  assert.match(await messages(page), /^IPv6 is on/);
+  await until(() => addresses('inet6').length > 0, 'an address from router advertisements');
+  await open(page, 'ipv6.php');
+  assert.equal(await beside(page, 'IPv6'), 'On');
+  assert.deepEqual(await page.locator('.addresses li').allInnerTexts(), addresses('inet6').map((text) => text.split('/')[0]));
+
+  await page.uncheck('#enabled');
+  await press(page, 'Save', '[aria-labelledby=switch]');
+  assert.equal(await messages(page), 'IPv6 is off.');
+  await until(() => addresses('inet6').length === 0, 'the addresses to go');
+});
+
+test('The sources of IPv6 addresses', {user: 'admin'}, async (page) => {
+  php('set_ipv6_enabled($session, true);');
+  await open(page, 'ipv6.php');
+  await page.uncheck('#stateless');
+  await page.check('#dhcp');
+  await press(page, 'Save', '[aria-labelledby=sources]');
+  assert.match(await messages(page), /^The sources of addresses are set/);
+  assert.ok(fs.existsSync('/etc/ipv6dhcp'));
+  assert.equal(ask('ipv6Manager.sh', '-l'), '0');
+  await until(() => addresses('inet6').some((address) => /^2001:db8:20::1[0-9a-f]{2}\//.test(address)), 'a lease');
+  await open(page, 'ipv6.php');
+  assert.equal(await beside(page, 'Router advertisements'), 'Off');
+  assert.equal(await beside(page, 'DHCP'), 'On');
+  await page.check('#stateless');
+  await page.uncheck('#dhcp');
+  await press(page, 'Save', '[aria-labelledby=sources]');
+  assert.ok(!fs.existsSync('/etc/ipv6dhcp'));
+  assert.equal(ask('ipv6Manager.sh', '-l'), '1');
+  php('set_ipv6_enabled($session, false);');
+});
+
+test('A source that cannot be switched is reported, and the other is switched all the same', {user: 'admin'}, async (page) => {
+  await withScript('ipv6Manager.sh', 'case "$*" in "-c -d on") exit 1 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await open(page, 'ipv6.php');
+    await page.uncheck('#stateless');
+    await page.check('#dhcp');
+    await press(page, 'Save', '[aria-labelledby=sources]');
+    assert.match(await messages(page), /^Failed to configure DHCP settings - Make sure[^]*Code 0x00050030/);
+    assert.equal(await beside(page, 'DHCP'), 'Off');
+    assert.equal(await beside(page, 'Router advertisements'), 'Off');
+  });
+  php('set_stateless_enabled($session, true);');
+});
+
+test('Static IPv6 settings that cannot be', {user: 'admin'}, async (page) => {
+  await open(page, 'ipv6.php');
+  await page.check('#static');
+  const good = {ipStatic: '2001:db8:20::7', prefix: '64', gateway: 'fe80::1'};
+  await refused(page, 'Apply', 'main', [
+    [{ipStatic: '', prefix: '', gateway: ''}, {ipStatic: /Enter an IPv6/, prefix: /1 to 128/, gateway: /router/}],
+    [{...good, ipStatic: '10.20.0.7'}, {ipStatic: /Enter an IPv6/}],
+    [{...good, ipStatic: '2001:db8::g'}, {ipStatic: /Enter an IPv6/}],
+    [{...good, ipStatic: 'ff02::1'}, {ipStatic: /cannot have/}],
+    [{...good, ipStatic: '::1'}, {ipStatic: /cannot have/}],
+    [{...good, prefix: '0'}, {prefix: /1 to 128/}],
+    [{...good, prefix: '129'}, {prefix: /1 to 128/}],
+    [{...good, gateway: '2001:db8:21::1'}, {gateway: /same first 64 bits/}],
+    [{...good, gateway: '2001:DB8:20:0::7'}, {gateway: /itself/}],
+  ]);
+  assert.equal(ask('ipv6Manager.sh', '-g', 'static'), '');
+});

@@ -1,0 +1,101 @@
+// What the pages show is what the appliance has.
+'use strict';
+
+const assert = require('node:assert/strict');
+const fs = require('node:fs');
+const {ask, inAppliance, ipv4Address, php, traceLog, web, withScript} = require('./appliance.cjs');
+const {beside, messages, open, test} = require('./browser.cjs');
+
+test('The overview', {user: 'admin'}, async (page) => {
+  assert.equal(await page.innerText('.value >> nth=0'), ipv4Address());
+  assert.equal(await beside(page, 'Host name'), inAppliance('hostname'));
+  assert.equal(await beside(page, 'Gateway'), '10.20.0.1');
+  assert.equal(await beside(page, 'Netmask'), '255.255.255.0');
+  assert.equal(await beside(page, 'HTTPS'), 'Off');
+  assert.equal(await beside(page, 'Duplex'), 'Full duplex');
+  assert.equal(await beside(page, 'Trap receivers'), '0');
+  const states = await page.locator('.state').allInnerTexts();
+  assert.deepEqual(states, ['In use', 'Off', 'No servers set', 'Autonegotiation on', 'These pages are not encrypted',
+    'Versions 1, 2c and 3']);
+});
+
+test('IPv4 and host name', {user: 'admin'}, async (page) => {
+  await open(page, 'ipv4.php');
+  assert.equal(await page.inputValue('#hostname'), inAppliance('hostname'));
+  assert.ok(await page.isChecked('#mode-dhcp'));
+  assert.ok(!await page.isVisible('#ip'), 'static fields are hidden while DHCP is chosen');
+  assert.equal(await page.inputValue('#ip'), ipv4Address());
+  assert.equal(await page.inputValue('#netmask'), '255.255.255.0');
+  assert.equal(await page.inputValue('#gateway'), '10.20.0.1');
+});
+
+test('The Ethernet port', {user: 'admin'}, async (page) => {
+  await open(page, 'port.php');
+  assert.equal(ask('ipv4Manager.sh', '-g', 'port'), 'on?100?full');
+  assert.ok(await page.isChecked('#auto'));
+  assert.ok(await page.isChecked('#speed-100'));
+  assert.ok(await page.isChecked('#duplex-1'));
+});
+
+test('The SNMP agent', {user: 'admin'}, async (page) => {
+  await open(page, 'snmp.php');
+  const settings = JSON.parse(php('echo json_encode(get_snmp_settings($session));'));
+  assert.equal(await page.isChecked('#version1'), settings.version1);
+  assert.equal(await page.isChecked('#trap1'), settings.trap1);
+  assert.equal(await page.isChecked('#trap2'), settings.trap2);
+  assert.equal(await page.isChecked('#auth_traps_enabled'), settings.auth_traps_enabled);
+  assert.equal(await page.inputValue('#community_name'), settings.community_name);
+  assert.match(await page.innerText('.fixed'), /Version 3\s+Always on\. Authentication MD5, encryption off, port 161\./);
+});
+
+test('The trace log is followed, and stops when asked to', {user: 'admin'}, async (page) => {
+  await open(page, 'diagnostics.php');
+  const [last] = (await page.innerText('#log .log')).trim().split('\n').slice(-1);
+  assert.ok(traceLog().includes(`${last}\n`), last);
+  php('set_eth2_port_settings($session, 1, 4242, 1);');
+  await page.waitForSelector('#log .log:has-text("INVALID ETH2 SPEED PARAMETER")');
+  await page.click('text=Stop following');
+  await page.waitForSelector('text=Follow');
+  assert.equal(await page.locator('[data-poll]').count(), 0);
+  php('set_eth2_port_settings($session, 1, 100, 1);');
+});
+
+test('The trace log is filtered as one types, and whatever is typed is only text', {user: 'admin'}, async (page) => {
+  await open(page, 'diagnostics.php');
+  await page.fill('#filter', 'eNTering GET_FW');
+  await page.waitForFunction(() => {
+    const lines = document.querySelector('#log .log')?.innerText.trim().split('\n') ?? [];
+    return lines.length > 0 && lines.every((line) => line.includes('Entering get_fw'));
+  });
+  assert.match(page.url(), /filter=eNTering\+GET_FW/);
+  await page.fill('#filter', '.*[');
+  await page.waitForSelector('#log >> text=No line has this text.');
+});
+
+test('A trace log that cannot be read is said, and is no fault', {user: 'admin'}, async (page) => {
+  fs.renameSync(`${web}/logs/php_extension.log`, `${web}/logs/away.log`);
+  fs.mkdirSync(`${web}/logs/php_extension.log`);
+  try {
+    await open(page, 'diagnostics.php?live=0');
+    assert.match(await page.innerText('#log'), /trace log cannot be read/);
+    assert.equal(await messages(page), '');
+  } finally {
+    fs.rmdirSync(`${web}/logs/php_extension.log`);
+    fs.renameSync(`${web}/logs/away.log`, `${web}/logs/php_extension.log`);
+  }
+});
+
+test('A setting that cannot be read is reported with message and code, never as the interpreter prints it', {user: 'admin'},
+  async (page) => {
+    await withScript('ipv4Manager.sh', 'case "$*" in "-g host") exec sh "$ORIGINAL" "$@" ;; *) exit 1 ;; esac', async () => {
+      await open(page, 'ipv4.php');
+      const said = await messages(page);
+      assert.match(said, /^Could not get IPv4 network information\n/);
+      assert.match(said, /Code 0x00000001, reported at http\/src\/network:\d+/);
+      assert.doesNotMatch(await page.content(), /Warning|<b>|htdocs/);
+      assert.equal(await page.inputValue('#ip'), '');
+      assert.match(await page.title(), /^Error: /);
+    });
+    await open(page, 'ipv4.php');
+    assert.equal(await messages(page), '');
+  });

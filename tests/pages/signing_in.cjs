@@ -1,0 +1,161 @@
+// Signing in and out.
+'use strict';
+
+const assert = require('node:assert/strict');
+const fs = require('node:fs');
+const {accounts, inAppliance, library, until} = require('./appliance.cjs');
+const {asksToSignIn, base, enterPassword, open, pages, press, signIn, test} = require('./browser.cjs');
+
+const dat = `${library}/HTTPService/dat`;
+const firstPassword = `${library}/AppManager/bin/firstPassword.sh`;
+
+async function cookie(context) {
+  const cookies = await context.cookies();
+  assert.equal(cookies.length, 1);
+  return cookies[0];
+}
+
+async function tryPassword(page, user, password) {
+  await page.fill('#user', user);
+  await page.fill('#password', password);
+  await press(page, 'Sign in');
+  return page.innerText('main [role=status]');
+}
+
+test('The first start makes an account for each role, prints the passwords once, and keeps only their hashes', {}, async () => {
+  assert.deepEqual([...accounts.keys()], ['admin', 'monitor']);
+  const users = fs.readFileSync(`${dat}/users`, 'utf8');
+  assert.match(users, /^admin:admin:\$2y\$1[0-9]\$.{53}\nmonitor:monitor:\$2y\$1[0-9]\$.{53}\n$/);
+  for (const password of accounts.values()) {
+    assert.match(password, /^([a-z2-9]{4}-){3}[a-z2-9]{4}$/);
+    assert.ok(!users.includes(password));
+  }
+  assert.equal(fs.statSync(`${dat}/users`).mode & 0o777, 0o600);
+  assert.equal(fs.statSync(`${dat}/sessions`).mode & 0o777, 0o700);
+  assert.equal(inAppliance('sh', firstPassword), '');
+  assert.equal(fs.readFileSync(`${dat}/users`, 'utf8'), users);
+});
+
+test('Every page asks for the password first, then goes on to where one wanted to go', {}, async (page) => {
+  for (const name of [...pages, 'applying.php']) {
+    await page.goto(base() + name);
+    assert.equal(await asksToSignIn(page), '', name);
+    assert.equal(await page.innerText('h1'), 'library', 'it says which appliance it is');
+    assert.equal(await page.inputValue('[name=next]'), name);
+  }
+  await page.goto(`${base()}dns.php`);
+  await enterPassword(page);
+  assert.equal(page.url(), `${base()}dns.php`);
+});
+
+test('After the sign-in nobody is sent to another host', {}, async (page) => {
+  for (const next of ['//192.0.2.1/', 'http://192.0.2.1/', '../etc/passwd', 'signin.php']) {
+    await page.goto(`${base()}dns.php`);
+    await page.evaluate((value) => { document.querySelector('[name=next]').value = value; }, next);
+    await enterPassword(page);
+    assert.equal(page.url(), `${base()}index.php`, next);
+    await press(page, 'Sign out');
+  }
+});
+
+test('A wrong password, an unknown name and an empty account say the same, and slow down what follows', {}, async (page) => {
+  await page.goto(`${base()}signin.php`);
+  assert.match(await tryPassword(page, 'admin', 'wrong'), /^The name or the password is wrong\.$/);
+  for (const [user, password] of [['nobody', accounts.get('admin')], ['admin', accounts.get('monitor')], ['', ''], ['admin:', 'x']]) {
+    await page.evaluate(() => document.querySelectorAll('[required]').forEach((field) => { field.required = false; }));
+    const said = await until(async () => {
+      await page.evaluate(() => document.querySelectorAll('[required]').forEach((field) => { field.required = false; }));
+      const message = await tryPassword(page, user, password);
+      return !message.startsWith('Too many') && message;
+    }, 'an attempt to be heard', 30);
+    assert.equal(said, 'The name or the password is wrong.', user);
+  }
+  const [, count] = fs.readFileSync(`${dat}/attempts`, 'utf8').split(' ');
+  assert.equal(count, '5');
+  await page.fill('#user', 'admin');
+  const said = await tryPassword(page, 'admin', accounts.get('admin'));
+  const seconds = Number(said.match(/^Too many attempts\. Please wait (\d+) seconds, then try again\.$/)[1]);
+  assert.ok(seconds >= 5 && seconds <= 8, `${seconds} seconds after five failures`);
+  fs.writeFileSync(`${dat}/attempts`, '');
+  await enterPassword(page);
+  assert.equal(fs.readFileSync(`${dat}/attempts`, 'utf8'), '');
+});
+
+test('Many attempts at once are no more than one', {}, async () => {
+  const form = await fetch(`${base()}signin.php`);
+  const session = form.headers.get('set-cookie').split(';')[0];
+  const token = (await form.text()).match(/name="token" value="([0-9a-f]+)"/)[1];
+  const body = new URLSearchParams({token, user: 'admin', password: 'wrong'});
+  const answers = await Promise.all(Array.from({length: 12}, async () => {
+    const answer = await fetch(`${base()}signin.php`, {method: 'POST', body, headers: {cookie: session}});
+    return answer.text();
+  }));
+  assert.equal(answers.filter((text) => text.includes('password is wrong')).length, 1);
+  fs.writeFileSync(`${dat}/attempts`, '');
+});
+
+test('The cookie is for the server alone, and the session gets a new identifier with the sign-in', {}, async (page, context) => {
+  await page.goto(`${base()}signin.php`);
+  const before = await cookie(context);
+  await enterPassword(page);
+  const after = await cookie(context);
+  assert.notEqual(after.value, before.value);
+  assert.ok(after.httpOnly);
+  assert.equal(after.sameSite, 'Strict');
+  assert.equal(after.expires, -1);
+  assert.ok(!fs.existsSync(`${dat}/sessions/sess_${before.value}`), 'the session before is gone');
+  assert.equal(fs.statSync(`${dat}/sessions/sess_${after.value}`).mode & 0o777, 0o600);
+});
+
+test('An identifier of somebody else\'s choice is not taken', {}, async (page, context) => {
+  const chosen = 'abcdefabcdefabcdefabcdefabcdefab';
+  await context.addCookies([{name: 'settings', value: chosen, url: base()}]);
+  await page.goto(`${base()}signin.php`);
+  assert.notEqual((await cookie(context)).value, chosen);
+});
+
+test('Signing out ends the session for everybody who knows its identifier', {}, async (page, context) => {
+  await signIn(page);
+  const {value} = await cookie(context);
+  await press(page, 'Sign out');
+  await asksToSignIn(page);
+  const answer = await fetch(`${base()}index.php`, {headers: {cookie: `settings=${value}`}});
+  assert.match(await answer.text(), /action="signin\.php"/);
+});
+
+test('A quarter of an hour without activity ends the session, also while the log is followed', {},
+  async (page, context) => {
+    await signIn(page);
+    await open(page, 'diagnostics.php');
+    const file = `${dat}/sessions/sess_${(await cookie(context)).value}`;
+    const content = fs.readFileSync(file, 'utf8');
+    const [, seen] = content.match(/seen\|i:(\d+);/);
+    fs.writeFileSync(file, content.replace(seen, String(seen - 901)));
+    assert.match(await asksToSignIn(page), /after 15 minutes without activity\.$/);
+    await enterPassword(page);
+    assert.equal(await page.innerText('h1'), 'Diagnostics');
+  });
+
+test('What a page fetches by itself is no activity', {}, async (page, context) => {
+  await signIn(page);
+  const file = `${dat}/sessions/sess_${(await cookie(context)).value}`;
+  const content = fs.readFileSync(file, 'utf8');
+  const [, seen] = content.match(/seen\|i:(\d+);/);
+  fs.writeFileSync(file, content.replace(seen, String(seen - 600)));
+  await open(page, 'diagnostics.php?background=1');
+  assert.match(fs.readFileSync(file, 'utf8'), new RegExp(`seen\\|i:${seen - 600};`));
+  await open(page, 'diagnostics.php');
+  assert.doesNotMatch(fs.readFileSync(file, 'utf8'), new RegExp(`seen\\|i:${seen - 600};`));
+});
+
+test('An account that is taken away is signed out at once', {}, async (page) => {
+  await signIn(page, 'monitor');
+  const users = fs.readFileSync(`${dat}/users`, 'utf8');
+  fs.writeFileSync(`${dat}/users`, users.replace(/^monitor:.*\n/m, ''));
+  try {
+    await open(page, 'index.php');
+    await asksToSignIn(page);
+  } finally {
+    fs.writeFileSync(`${dat}/users`, users);
+  }
+});

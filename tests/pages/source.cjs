@@ -1,0 +1,55 @@
+// The pages' source, before anything is asked of them.
+'use strict';
+
+const assert = require('node:assert/strict');
+const {spawnSync} = require('node:child_process');
+const fs = require('node:fs');
+const path = require('node:path');
+const {test} = require('node:test');
+const {base} = require('./browser.cjs');
+
+const checkout = path.resolve(__dirname, '../..');
+const pages = `${checkout}/http/pages`;
+
+function subset(folder) {
+  return spawnSync('php', [`${__dirname}/subset.php`, folder, `${checkout}/http/src/network.stub.php`], {encoding: 'utf8'});
+}
+
+test('The pages use only what both interpreters have, and every function of the module', () => {
+  const {status, stdout} = subset(pages);
+  assert.equal(stdout, '');
+  assert.equal(status, 0);
+});
+
+test('What only one of the interpreters has is found', () => {
+  const folder = fs.mkdtempSync('/tmp/subset-');
+  const wrong = {'[1]': 'a short array', '$a ?? 2': '"??"', 'f()[0]': 'an index of', 'function () {}': 'a closure',
+    '$a ?: 1': '"?:"', 'file_put_contents($a, 1)': 'file_put_contents()', 'password_hash($a, 1)': 'without function_exists()',
+    'f()->x': 'a property of', 'A::b()': '"::"', 'clone $a': '"clone"', 'each($a)': 'each()'};
+  for (const code of Object.keys(wrong)) {
+    fs.writeFileSync(`${folder}/page.php`, `<?php function f() { return 1; } $a = ${code};`);
+    assert.match(subset(folder).stdout, new RegExp(`page.php:1: .*${wrong[code].replace(/[?()]/g, '\\$&')}`), code);
+  }
+  fs.rmSync(folder, {recursive: true});
+});
+
+test('Nothing is fetched from another host, and no script or style stands in a page', () => {
+  const own = fs.readdirSync(pages, {recursive: true}).map((name) => path.join(pages, name))
+    .filter((name) => fs.statSync(name).isFile());
+  assert.ok(own.length > 20, `${own.length} files`);
+  for (const file of own) {
+    const text = fs.readFileSync(file, 'utf8');
+    assert.doesNotMatch(text, /(src|href|action)="(https?:)?\/\//, file);
+    assert.doesNotMatch(text, /@import|url\(/, file);
+    assert.doesNotMatch(text, /<style|\sstyle="|<script(?! src=)|\son[a-z]+="/, file);
+  }
+});
+
+test('A file that is no page answers with nothing', async () => {
+  for (const folder of ['library', 'templates']) {
+    for (const name of fs.readdirSync(`${pages}/${folder}`)) {
+      const answer = await fetch(`${base()}${folder}/${name}`);
+      assert.equal((await answer.text()).trim(), '', `${folder}/${name}`);
+    }
+  }
+});

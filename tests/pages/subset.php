@@ -1,0 +1,127 @@
+<?php
+// What the pages may not use, because the appliance's interpreter (4.3) does not have it or because today's
+// has no longer: prints each finding as FILE:LINE: what, and ends with status 1 when there is any.
+//
+//   php subset.php FOLDER STUB     STUB declares the functions of the module
+
+// Functions that were there before 4.4 and are there still.
+$old = array('array_fill', 'array_merge', 'array_slice', 'basename', 'bin2hex', 'chmod', 'clearstatcache', 'count', 'crypt',
+    'dechex', 'define', 'defined', 'dirname', 'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof',
+    'fflush', 'fgets', 'file', 'file_exists', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftruncate', 'function_exists',
+    'fwrite', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string',
+    'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
+    'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start',
+    'set_error_handler', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
+    'trim', 'ucfirst', 'umask', 'unserialize', 'urlencode');
+// Only behind function_exists() of the same name, in the same function.
+$guarded = array('get_magic_quotes_gpc', 'password_hash');
+
+// Words and signs of the language that came later.
+$late = array(T_ABSTRACT, T_CATCH, T_CLASS_C, T_CLONE, T_COALESCE, T_COALESCE_EQUAL, T_CONST, T_DIR, T_ELLIPSIS, T_FINAL,
+    T_FINALLY, T_FN, T_GOTO, T_IMPLEMENTS, T_INSTANCEOF, T_INTERFACE, T_MATCH, T_NAMESPACE, T_NS_SEPARATOR,
+    T_NULLSAFE_OBJECT_OPERATOR, T_OPEN_TAG_WITH_ECHO, T_PAAMAYIM_NEKUDOTAYIM, T_POW, T_PRIVATE, T_PROTECTED, T_PUBLIC,
+    T_SPACESHIP, T_STATIC, T_THROW, T_TRAIT, T_TRY, T_YIELD);
+
+list(, $folder, $stub) = $argv;
+$declared = functions_of(file_get_contents($stub));
+$files = glob("$folder/{*,library/*,templates/*}.php", GLOB_BRACE);
+foreach ($files as $file) {
+    $declared = array_merge($declared, functions_of(file_get_contents($file)));
+}
+$findings = 0;
+$called = array();
+foreach ($files as $file) {
+    check($file, tokens_of(file_get_contents($file)));
+}
+foreach (functions_of(file_get_contents($stub)) as $function) {
+    if (!isset($called[$function])) {
+        report($stub, 0, "no page calls $function");
+    }
+}
+exit($findings > 0 ? 1 : 0);
+
+// Without white space and comments; each an array of number, text and line.
+function tokens_of($code)
+{
+    $tokens = array();
+    $line = 1;
+    foreach (token_get_all($code) as $token) {
+        $token = is_array($token) ? $token : array(0, $token, $line);
+        $line = $token[2];
+        if (!in_array($token[0], array(T_WHITESPACE, T_COMMENT, T_DOC_COMMENT))) {
+            $tokens[] = $token;
+        }
+    }
+    return $tokens;
+}
+
+function functions_of($code)
+{
+    $names = array();
+    $tokens = tokens_of($code);
+    foreach ($tokens as $i => $token) {
+        if ($token[0] == T_FUNCTION && $tokens[$i + 1][0] == T_STRING) {
+            $names[] = $tokens[$i + 1][1];
+        }
+    }
+    return $names;
+}
+
+function check($file, $tokens)
+{
+    $guards = array();
+    foreach ($tokens as $i => $token) {
+        list($number, $text, $line) = $token;
+        $before = $i > 0 ? $tokens[$i - 1] : array(0, '', 0);
+        $after = isset($tokens[$i + 1]) ? $tokens[$i + 1] : array(0, '', 0);
+        if (in_array($number, $GLOBALS['late'])) {
+            report($file, $line, "\"$text\" is not known to 4.3");
+        } elseif ($number == T_FUNCTION) {
+            $guards = array();
+            if ($after[0] != T_STRING) {
+                report($file, $line, 'a closure');
+            }
+        } elseif ($text == '[' && !in_array($before[0], array(T_VARIABLE, T_STRING)) && !in_array($before[1], array(']', '}'))) {
+            report($file, $line, $before[1] == ')' ? 'an index of what a function returns' : 'a short array');
+        } elseif ($text == '?' && $after[1] == ':') {
+            report($file, $line, '"?:" without a middle');
+        } elseif ($number == T_OBJECT_OPERATOR && $before[1] == ')') {
+            report($file, $line, 'a property of what a function returns');
+        } elseif ($number == T_FOREACH) {
+            check_foreach($file, $tokens, $i);
+        } elseif ($number == T_STRING && $after[1] == '(' && $before[0] != T_FUNCTION && $before[0] != T_NEW) {
+            if ($text == 'function_exists' && $tokens[$i + 2][0] == T_CONSTANT_ENCAPSED_STRING) {
+                $guards[] = trim($tokens[$i + 2][1], '\'"');
+            }
+            check_call($file, $line, $text, $guards);
+        }
+    }
+}
+
+function check_foreach($file, $tokens, $i)
+{
+    for (; $tokens[$i][0] != T_AS; $i++);
+    for (; $tokens[$i][1] != ')'; $i++) {
+        if ($tokens[$i][1] == '&' || $tokens[$i][0] == T_LIST) {
+            report($file, $tokens[$i][2], '"' . $tokens[$i][1] . '" in foreach');
+        }
+    }
+}
+
+function check_call($file, $line, $name, $guards)
+{
+    $GLOBALS['called'][$name] = true;
+    if (in_array($name, $GLOBALS['guarded'])) {
+        if (!in_array($name, $guards)) {
+            report($file, $line, "$name() without function_exists() before it");
+        }
+    } elseif (!in_array($name, $GLOBALS['old']) && !in_array($name, $GLOBALS['declared'])) {
+        report($file, $line, "$name() is not in the list of what both interpreters have");
+    }
+}
+
+function report($file, $line, $what)
+{
+    echo "$file:$line: $what\n";
+    $GLOBALS['findings']++;
+}

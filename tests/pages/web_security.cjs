@@ -1,0 +1,82 @@
+// The pages with and without encryption.
+'use strict';
+
+const assert = require('node:assert/strict');
+const tls = require('node:tls');
+const {ipv4Address, php, until} = require('./appliance.cjs');
+const {base, enterPassword, messages, open, press, signIn, test} = require('./browser.cjs');
+
+function certificate() {
+  return new Promise((resolve, reject) => {
+    const socket = tls.connect({host: ipv4Address(), port: 443, rejectUnauthorized: false}, () => {
+      resolve(socket.getPeerCertificate());
+      socket.destroy();
+    });
+    socket.on('error', reject);
+  });
+}
+
+// Until the web server serves the pages with, or without, encryption.
+function served(scheme) {
+  return until(async () => {
+    try {
+      if (scheme === 'https') return await certificate();
+      return (await fetch(base(), {redirect: 'manual'})).status === 200;
+    } catch {
+      return false;
+    }
+  }, `the pages by ${scheme}`);
+}
+
+test('HTTPS is switched on: the page comes back encrypted, with a cookie of its own', {user: 'admin'}, async (page, context) => {
+  await open(page, 'security.php');
+  assert.ok(await page.isChecked('#https-0'));
+  assert.match(await page.innerText('.note'), /restarts in the new mode, and you will sign in again/);
+  await page.check('#https-1');
+  await press(page, 'Save');
+  assert.match(await page.innerText('main'), /The web server restarts with HTTPS on/);
+  await page.waitForURL(`https://${ipv4Address()}/security.php`, {timeout: 20000});
+  const {subject, subjectaltname} = await certificate();
+  assert.equal(subject.CN, 'library');
+  assert.ok(subjectaltname.includes(`IP Address:${ipv4Address()}`), subjectaltname);
+  await enterPassword(page);
+  assert.ok(await page.isChecked('#https-1'));
+  assert.match(await page.innerText('main'), /Encrypted: HTTPS is on/);
+  const cookies = await context.cookies(`https://${ipv4Address()}/`);
+  const own = cookies.find(({name}) => name === '__Host-settings');
+  assert.ok(own.secure && own.httpOnly && own.sameSite === 'Strict');
+  const before = cookies.find(({name}) => name === 'settings');
+  assert.ok(!before || before.value !== own.value, 'what has travelled unencrypted is not used again');
+});
+
+test('A host name that changes gets a certificate of its own', {}, async (page) => {
+  await served('https');
+  await signIn(page, 'admin', 'ipv4.php', 'https');
+  await page.fill('#hostname', 'archive');
+  await press(page, 'Save name');
+  assert.equal(await messages(page), 'The host name is now archive.');
+  await until(async () => (await served('https')).subject.CN === 'archive', 'the certificate for archive');
+  php('set_network_hostname($session, "library");');
+  await until(async () => (await served('https')).subject.CN === 'library', 'the certificate for library');
+});
+
+test('HTTPS is switched off: the page comes back without it', {}, async (page) => {
+  await served('https');
+  await signIn(page, 'admin', 'security.php', 'https');
+  await page.check('#https-0');
+  await press(page, 'Save');
+  await page.waitForURL(`http://${ipv4Address()}/security.php`, {timeout: 20000});
+  await enterPassword(page);
+  assert.ok(await page.isChecked('#https-0'));
+  await press(page, 'Save');
+  assert.match(await messages(page), /HTTPS is off already; nothing was changed\./);
+});
+
+test('A mode that is none is refused', {user: 'admin'}, async (page) => {
+  await served('http');
+  await open(page, 'security.php');
+  await page.evaluate(() => { document.getElementById('https-0').value = '2'; });
+  await press(page, 'Save');
+  assert.match(await page.innerText('main'), /Choose how these pages are served/);
+  assert.equal(php('var_dump(get_ssl_settings($session)->isEnabled);'), 'bool(false)');
+});
