@@ -24,6 +24,8 @@ using TarnAbstract::GUID;
 using TarnAbstract::Result;
 using TarnAbstract::StringAccess;
 
+constexpr char SSLEnabledQuery[] = "SELECT ssl_enabled FROM settings";
+
 std::string ToText(bool enabled) { return enabled ? "enabled" : "disabled"; }
 
 std::string ToText(const GUID& identifier) {
@@ -164,17 +166,28 @@ Result::Code AppConfig::getSNMPVersions(TarnAbstract::List<eSNMPVersion, 4>& ver
 
 Result::Code AppConfig::setSSLEnabled(bool enabled) {
   return Answer("setSSLEnabled", [&] {
-    Change("setSSLEnabled", ToText(enabled), [&](Database& database) {
-      database.Prepare("UPDATE settings SET ssl_enabled = ?").Bind(std::int64_t{enabled}).Step();
-    });
+    const bool before = ReadInteger(SSLEnabledQuery) != 0;
+    StoreSSLEnabled(enabled, "");
     // Where the web service is not managed, the stored mode is all there is.
-    if (access(places_.applyWebMode.c_str(), F_OK) == 0) RunScript(places_.applyWebMode);
+    if (access(places_.applyWebMode.c_str(), F_OK) != 0) return;
+    try {
+      RunScript(places_.applyWebMode);
+    } catch (const ServiceError&) {
+      // What is stored is what is read as the mode in force.
+      StoreSSLEnabled(before, ", as before: the web service did not follow");
+      throw;
+    }
+  });
+}
+
+void AppConfig::StoreSSLEnabled(bool enabled, const std::string& why) {
+  Change("setSSLEnabled", ToText(enabled) + why, [&](Database& database) {
+    database.Prepare("UPDATE settings SET ssl_enabled = ?").Bind(std::int64_t{enabled}).Step();
   });
 }
 
 Result::Code AppConfig::getSSLEnabled(std::uint32_t& enabled) {
-  return Answer("getSSLEnabled",
-                [&] { enabled = ReadInteger("SELECT ssl_enabled FROM settings") != 0 ? 1 : 0; });
+  return Answer("getSSLEnabled", [&] { enabled = ReadInteger(SSLEnabledQuery) != 0 ? 1 : 0; });
 }
 
 Result::Code AppConfig::createTrapRegistration(TrapRegistration& registration) {

@@ -16,10 +16,12 @@ if (is_post()) {
     $settings->dnsSecondary = posted('dnsSecondary');
     $errors = dns_errors($settings);
     if (!$errors) {
+        begin_change();
         set_network_dns($session, $settings);
-        if (!failed()) {
+        if (!change_failed()) {
             go_to('dns.php', $settings->dnsPrimary == '' ? 'The DNS servers are removed.' : 'The DNS servers are set.');
         }
+        $errors = is_internal_address() ? internal_address_errors($settings) : array();
     }
 }
 show('dns', array('title' => 'DNS', 'lead' => 'The servers that the appliance asks for the addresses of names.',
@@ -37,4 +39,14 @@ function dns_errors($settings)
         $errors['dnsPrimary'] = 'Enter the only server here and leave the second one empty.';
     }
     return $errors;
+}
+
+// The appliance does not say which of them it refuses.
+function internal_address_errors($settings)
+{
+    if ($settings->dnsSecondary == '') {
+        return array('dnsPrimary' => 'This address is used inside the appliance. Enter a server of your own network.');
+    }
+    $error = 'This address or the other one is used inside the appliance. Enter servers of your own network.';
+    return array('dnsPrimary' => $error, 'dnsSecondary' => $error);
 }

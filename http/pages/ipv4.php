@@ -28,7 +28,7 @@ if (is_post() && posted('change') == 'name') {
     $settings = $wanted;
 }
 show('ipv4', array('title' => 'IPv4 and host name', 'settings' => $settings, 'errors' => $errors,
-    'mode' => is_post() ? posted('mode') : ($settings->dhcpEnabled ? 'dhcp' : 'static'),
+    'mode' => posted('change') == 'addressing' ? posted('mode') : ($settings->dhcpEnabled ? 'dhcp' : 'static'),
     'lead' => 'The name and the address under which the appliance is found.'));
 
 function change_name($session, $old, $new)
@@ -37,8 +37,9 @@ function change_name($session, $old, $new)
     if ($error != '') {
         return array('hostname' => $error);
     }
+    begin_change();
     set_network_hostname($session, $new);
-    if (!failed()) {
+    if (!change_failed()) {
         go_to('ipv4.php', $new == $old ? 'The host name was ' . $new . ' already; nothing was changed.'
             : 'The host name is now ' . $new . '.');
     }
@@ -76,8 +77,9 @@ function begin_ipv4($session, $settings, $wanted)
             'gateway' => $wanted->gateway);
     }
     $change = new_change('ipv4', $values, $settings->ip, $wanted->dhcpEnabled !== null ? '' : $wanted->ip);
+    begin_change();
     set_network_configuration_ipv4($session, $wanted);
-    if (!failed()) {
+    if (!change_failed()) {
         follow_change($session, $change);
     }
 }

@@ -40,8 +40,9 @@ show('ipv6', array('title' => 'IPv6', 'enabled' => is_ipv6_enabled(), 'modes' =>
 function switch_ipv6($session)
 {
     $on = posted('enabled') == '1';
+    begin_change();
     set_ipv6_enabled($session, $on);
-    if (!failed()) {
+    if (!change_failed()) {
         go_to('ipv6.php', $on ? 'IPv6 is on. Addresses appear within some seconds.' : 'IPv6 is off.');
     }
 }
@@ -51,13 +52,14 @@ function switch_modes($session, $now)
 {
     $stateless = posted('stateless') == '1';
     $dhcp = posted('dhcp') == '1';
+    begin_change();
     if ($stateless != $now['stateless']) {
         set_stateless_enabled($session, $stateless);
     }
     if ($dhcp != $now['dhcp']) {
         set_ipv6_dhcp_enabled($session, $dhcp);
     }
-    if (!failed()) {
+    if (!change_failed()) {
         go_to('ipv6.php', 'The sources of addresses are set. Addresses appear or go within some seconds.');
     }
 }
@@ -85,8 +87,9 @@ function begin_ipv6($session, $settings, $typed)
         $values = array('mode' => 'Off');
     }
     $change = new_change('ipv6', $values, $settings->ipStatic, $typed['static'] ? $typed['ipStatic'] : '');
+    begin_change();
     set_network_configuration_ipv6($session, $wanted);
-    if (!failed()) {
+    if (!change_failed()) {
         follow_change($session, $change);
     }
 }

@@ -18,8 +18,9 @@ if (is_post()) {
     $settings->Duplex = posted('duplex') == '' ? -1 : (int) posted('duplex');
     $errors = port_errors($settings);
     if (!$errors) {
+        begin_change();
         set_eth2_port_settings($session, $settings->AutoNegotiate, $settings->Speed, $settings->Duplex);
-        if (!failed()) {
+        if (!change_failed()) {
             go_to('port.php', 'The Ethernet port is set.');
         }
     }

@@ -11,12 +11,13 @@ if (is_post()) {
     $wanted = posted('https');
     if ($wanted != '0' && $wanted != '1') {
         $errors['https'] = 'Choose how these pages are served.';
-    } elseif (($wanted == '1') == $settings->isEnabled) {
+    } elseif (!failed() && ($wanted == '1') == $settings->isEnabled) {
         go_to('security.php', 'HTTPS is ' . ($settings->isEnabled ? 'on' : 'off') . ' already; nothing was changed.');
     } else {
         name_user_to_services($session);
+        begin_change();
         set_ssl_settings($session, $wanted == '1');
-        if (!failed()) {
+        if (!change_failed()) {
             $address = address_after($wanted == '1');
             show('restarting', array('title' => 'Web security', 'on' => $wanted == '1', 'address' => $address,
                 'refresh' => array(5, $address)));

@@ -20,7 +20,7 @@ function try_to_sign_in($user, $password)
         return 'The form was out of date. Please try again.';
     }
     $client = text_of($_SERVER, 'REMOTE_ADDR');
-    $seconds = seconds_until_attempt($client);
+    $seconds = seconds_until_attempt($client, $user);
     if ($seconds > 0) {
         return 'Too many attempts. Please wait ' . $seconds . ($seconds == 1 ? ' second' : ' seconds')
             . ', then try again.';
@@ -28,7 +28,7 @@ function try_to_sign_in($user, $password)
     if (role_by_password($user, $password) == '') {
         return 'The name or the password is wrong.';
     }
-    attempt_succeeded($client);
+    attempt_succeeded($client, $user);
     begin_session_of($user);
     return '';
 }

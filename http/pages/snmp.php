@@ -25,8 +25,9 @@ if (is_post()) {
     $errors = agent_errors($settings);
     if (!$errors) {
         name_user_to_services($session);
+        begin_change();
         set_snmp_settings($session, $settings);
-        if (!failed()) {
+        if (!change_failed()) {
             go_to('snmp.php', 'The SNMP agent is set and has restarted.');
         }
     }

@@ -25,8 +25,9 @@ show('traps', array('title' => 'Trap receivers', 'receivers' => get_snmp_trap_re
 
 function test_receivers($session)
 {
+    begin_change();
     restart_snmp($session);
-    if (!failed()) {
+    if (!change_failed()) {
         go_to('traps.php', 'A test trap was sent to every receiver. Look there whether it has arrived.');
     }
 }
@@ -49,11 +50,12 @@ function delete_receiver($session, $id)
 function add_receiver($session, $typed)
 {
     $before = get_snmp_trap_regs($session);
+    begin_change();
     create_snmp_trap_reg($session, (int) $typed['transport'], $typed['ip'], $typed['port']);
-    if (!failed()) {
+    if (!change_failed()) {
         go_to('traps.php', 'The receiver ' . $typed['ip'] . ' is added.');
     }
-    if (!failed_with('Internal Address Conflict')) {
+    if (!is_internal_address()) {
         return array();
     }
     take_back_additions($session, $before, $typed['ip']);

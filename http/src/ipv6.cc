@@ -70,7 +70,8 @@ StaticIpv6 parseStaticIpv6(const std::string& text) {
   const std::vector<std::string> inner = splitText(pieceOf(outer, 0), "/");
   if (inner.size() != 2) reportFailure("Failed to get IPv6 static address - No Prefix returned.");
   expander.convertToFullAddress(pieceOf(inner, 0), addressGroups);
-  return {true, join(addressGroups), pieceOf(inner, 1), join(gatewayGroups)};
+  const std::string prefix = pieceOf(inner, 1);
+  return {true, join(addressGroups), prefix.substr(0, prefix.find('\0')), join(gatewayGroups)};
 }
 
 void traceStaticIpv6(const StaticIpv6& settings) {

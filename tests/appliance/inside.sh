@@ -15,6 +15,9 @@ SESSION='{"user":"tester"}'
 SECONDS_FOR_AN_EVENT=30
 WEB=http://127.0.0.1
 export MIBS= # nothing is called by its name here, and reading them takes long
+# On a new machine the first program of SNMP would say that it makes this folder.
+export SNMP_PERSISTENT_DIR=$WORK/snmp
+mkdir -p "$SNMP_PERSISTENT_DIR/cert_indexes"
 
 in_appliance() {
   if [[ -n ${INSIDE-} ]]; then
@@ -93,7 +96,7 @@ device_state() {
   grep -r '' "$SETTINGS" --exclude=lock
   ls "$SETTINGS" /etc/ipv6dhcp 2>&1
   hostname
-  ip -oneline address show dev eth0 | sed 's/ *\\.*//'
+  ip -oneline address show dev eth0 | sed 's/ *\\.*//; s/ tentative$//'
   ip -oneline route show table all dev eth0 | sed 's/ expires.*//'
   cat /etc/resolv.conf
 }

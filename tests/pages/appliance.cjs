@@ -85,7 +85,7 @@ async function datagramsTo(port, work) {
   listener.stdout.on('data', (data) => { received = Buffer.concat([received, data]); });
   await until(() => fromLan('ss', '-Hnlu', `sport = :${port}`) !== '', `a listener at port ${port}`);
   try {
-    await work(() => received);
+    return await work(() => received);
   } finally {
     listener.kill();
   }

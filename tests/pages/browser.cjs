@@ -3,6 +3,7 @@
 
 const fs = require('node:fs');
 const nodeTest = require('node:test');
+const tls = require('node:tls');
 const {chromium} = require('playwright-core');
 const appliance = require('./appliance.cjs');
 
@@ -122,6 +123,28 @@ function beside(page, term) {
   }, term);
 }
 
+function certificate() {
+  return new Promise((resolve, reject) => {
+    const socket = tls.connect({host: appliance.ipv4Address(), port: 443, rejectUnauthorized: false}, () => {
+      resolve(socket.getPeerCertificate());
+      socket.destroy();
+    });
+    socket.on('error', reject);
+  });
+}
+
+// Until the web server serves the pages with, or without, encryption.
+function served(scheme) {
+  return appliance.until(async () => {
+    try {
+      if (scheme === 'https') return await certificate();
+      return (await fetch(base(), {redirect: 'manual'})).status === 200;
+    } catch {
+      return false;
+    }
+  }, `the pages by ${scheme}`);
+}
+
 // What axe finds wrong, each as a sentence.
 async function accessibilityFaults(page) {
   await page.evaluate(axe);
@@ -130,4 +153,5 @@ async function accessibilityFaults(page) {
     `${violation.id}: ${violation.help} (${violation.nodes.map((node) => node.target.join(' ')).join(', ')})`);
 }
 
-module.exports = {accessibilityFaults, asksToSignIn, base, beside, enterPassword, errorOf, messages, open, pages, press, signIn, test};
+module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, enterPassword, errorOf, messages, open, pages, press, served,
+  signIn, test};

@@ -60,6 +60,7 @@ test('A host name that the appliance refuses is reported with the code', {user: 
     assert.match(await messages(page), /Could not set library hostname\n+The appliance refused the name[^]*Code 0x00000001/);
     assert.match(await errorOf(page, 'hostname'), /did not take this name/);
     assert.equal(await page.inputValue('#hostname'), 'other');
+    assert.ok(await page.isChecked('#mode-dhcp'), 'the other form shows what is');
   });
   assert.equal(inAppliance('hostname'), 'library');
 });
@@ -75,6 +76,7 @@ test('IPv4 settings that cannot be', {user: 'admin'}, async (page) => {
     [{...good, ip: '10.20.0.07'}, {ip: /four numbers/}],
     [{...good, ip: '10.20.0.7; reboot'}, {ip: /four numbers/}],
     [{...good, ip: '127.0.0.1'}, {ip: /cannot have/}],
+    [{...good, ip: '0.0.0.0'}, {ip: /cannot have/}],
     [{...good, ip: '10.20.0.255'}, {ip: /first and the last/}],
     [{...good, ip: '10.20.0.0'}, {ip: /first and the last/}],
     [{...good, netmask: '255.0.255.0'}, {netmask: /such as 255\.255\.255\.0/}],
@@ -114,8 +116,13 @@ test('DNS servers that cannot be', {user: 'admin'}, async (page) => {
   await page.fill('#dnsPrimary', '192.168.250.5');
   await page.fill('#dnsSecondary', '');
   await press(page, 'Save');
-  assert.match(await messages(page), /^Failed to set DNS addresses\.\n+The address belongs to the network inside the appliance[^]*Code 0x00050040/);
+  assert.match(await messages(page), /Failed to set DNS addresses\.\n+The address belongs to the network inside the appliance[^]*Code 0x00050040/);
   assert.equal(await page.inputValue('#dnsPrimary'), '192.168.250.5');
+  assert.equal(await errorOf(page, 'dnsPrimary'), 'This address is used inside the appliance. Enter a server of your own network.');
+  await page.fill('#dnsPrimary', '10.20.0.1');
+  await page.fill('#dnsSecondary', '192.168.250.5');
+  await press(page, 'Save');
+  for (const field of ['dnsPrimary', 'dnsSecondary']) assert.match(await errorOf(page, field), /^This address or the other one/);
   assert.equal(ask('ipv6Manager.sh', '-g', 'dns'), 'disabled');
 });
 
@@ -139,6 +146,41 @@ test('The Ethernet port', {user: 'admin'}, async (page) => {
   await press(page, 'Save');
   assert.equal(await errorOf(page, 'speed'), 'Choose a speed.');
   assert.equal(await errorOf(page, 'duplex'), 'Choose a duplex mode.');
+  assert.equal(ask('ipv4Manager.sh', '-g', 'port'), 'on?100?full');
+});
+
+// In each case the device script that answers the page fails, and the one that sets does its work.
+test('What could not be read before a change is no failure of the change', {user: 'admin'}, async (page) => {
+  await withScript('ipv6Manager.sh', 'case "$*" in "-g dns") exit 1 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await open(page, 'dns.php');
+    assert.match(await messages(page), /Code 0x/);
+    await page.fill('#dnsPrimary', '10.20.0.1');
+    await press(page, 'Save');
+    assert.match(await messages(page), /^The DNS servers are set\./);
+  });
+  assert.equal(ask('ipv6Manager.sh', '-g', 'dns'), '10.20.0.1');
+  php('class Off { var $dnsPrimary = ""; var $dnsSecondary = ""; } set_network_dns($session, new Off());');
+  await withScript('ipv4Manager.sh', 'case "$*" in "-g port") exit 1 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await open(page, 'port.php');
+    assert.match(await messages(page), /Code 0x/);
+    await page.check('#speed-100');
+    await page.check('#duplex-1');
+    await page.check('#auto');
+    await press(page, 'Save');
+    assert.match(await messages(page), /^The Ethernet port is set\./);
+  });
+  assert.equal(ask('ipv4Manager.sh', '-g', 'port'), 'on?100?full');
+});
+
+test('Ethernet port settings that the appliance refuses are reported with the code', {user: 'admin'}, async (page) => {
+  await withScript('ipv4Manager.sh', 'case "$*" in "-g "*) exec sh "$ORIGINAL" "$@" ;; *) exit 1 ;; esac', async () => {
+    await open(page, 'port.php');
+    await page.uncheck('#auto');
+    await page.check('#speed-10');
+    await press(page, 'Save');
+    assert.match(await messages(page), /^Failed to set port settings\.\n+The port keeps its old settings\.\n+Code 0x/);
+    assert.ok(await page.isChecked('#speed-10'), 'what was chosen stays');
+  });
   assert.equal(ask('ipv4Manager.sh', '-g', 'port'), 'on?100?full');
 });
 
@@ -171,6 +213,67 @@ test('The SNMP agent', {user: 'admin'}, async (page) => {
   await press(page, 'Save');
   assert.match(snmpGet('2c', 'public'), /library/);
   assert.ok(!await page.isChecked('#trap2'));
+});
+
+// The datagrams of SNMP in a stream of them: of each its version, and whether it tells of a wrong community.
+function trapsIn(stream) {
+  const traps = [];
+  for (let at = 0; at < stream.length;) {
+    const long = stream[at + 1] > 0x80 ? stream[at + 1] - 0x80 : 0;
+    const length = long ? stream.readUIntBE(at + 2, long) : stream[at + 1];
+    const content = stream.subarray(at + 2 + long, at + 2 + long + length);
+    at += 2 + long + length;
+    const version = content[2] === 0 ? '1' : '2c';
+    const wrongCommunity = version === '1' ? content.includes(Buffer.from([0x40, 4, 10, 20, 0, ipv4Address().split('.')[3], 2, 1, 4]))
+      : content.includes(Buffer.from([0x2b, 6, 1, 6, 3, 1, 1, 5, 5]));
+    traps.push({version, wrongCommunity});
+  }
+  return traps;
+}
+
+test('Traps go out in the versions that are chosen, and about wrong communities when that is', {user: 'admin'}, async (page) => {
+  php('create_snmp_trap_reg($session, 1, "10.20.0.1", "16201");');
+  const choose = async (version1, version2, wrongCommunity) => {
+    await open(page, 'snmp.php');
+    await page.setChecked('#trap1', version1);
+    await page.setChecked('#trap2', version2);
+    await page.setChecked('#auth_traps_enabled', wrongCommunity);
+    await press(page, 'Save');
+    assert.equal(await messages(page), 'The SNMP agent is set and has restarted.');
+    assert.equal(await page.isChecked('#trap1'), version1);
+    assert.equal(await page.isChecked('#trap2'), version2);
+    assert.equal(await page.isChecked('#auth_traps_enabled'), wrongCommunity);
+    await open(page, 'traps.php');
+    await press(page, 'Send a test trap');
+  };
+  // What the agent sends once it is set, and the test after it.
+  const sent = (versions, wrongCommunity) => datagramsTo(16201, async (received) => {
+    await choose(versions.includes('1'), versions.includes('2c'), wrongCommunity);
+    const before = received().length;
+    const traps = () => trapsIn(received().subarray(before));
+    const versionsSent = () => [...new Set(traps().map((trap) => trap.version))].sort();
+    snmpGet('2c', 'wrong');
+    if (wrongCommunity) await until(() => traps().some((trap) => trap.wrongCommunity), 'a trap about it');
+    await press(page, 'Send a test trap');
+    await until(() => versions.every((version) => versionsSent().includes(version)), 'the test trap');
+    assert.deepEqual(versionsSent(), versions);
+    assert.equal(traps().some((trap) => trap.wrongCommunity), wrongCommunity);
+  });
+  await sent(['1'], true);
+  await sent(['2c'], false);
+  await sent(['1', '2c'], true);
+  await choose(true, false, false);
+  php('delete_snmp_trap_reg($session, get_snmp_trap_regs($session)[0]->id);');
+});
+
+test('An agent that does not restart is reported with the code', {user: 'admin'}, async (page) => {
+  await withScript('restartSNMP.sh', 'exit 1', async () => {
+    await open(page, 'snmp.php');
+    await press(page, 'Save');
+    assert.match(await messages(page), /^Could not restart SNMP\n+The settings are stored, but the agent does not answer\.\n+Code 0x/);
+  });
+  await press(page, 'Save');
+  assert.equal(await messages(page), 'The SNMP agent is set and has restarted.');
 });
 
 test('SNMP settings that cannot be', {user: 'admin'}, async (page) => {

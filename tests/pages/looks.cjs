@@ -2,8 +2,9 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const {php} = require('./appliance.cjs');
-const {accessibilityFaults, asksToSignIn, base, messages, open, pages, press, signIn, test} = require('./browser.cjs');
+const fs = require('node:fs');
+const {ipv4Address, library, php, withScript} = require('./appliance.cjs');
+const {accessibilityFaults, asksToSignIn, base, enterPassword, messages, open, pages, press, served, signIn, test} = require('./browser.cjs');
 
 const screens = {wide: {width: 1280, height: 900}, narrow: {width: 360, height: 740}};
 
@@ -56,6 +57,47 @@ for (const [colorScheme, screen] of [['light', 'wide'], ['dark', 'narrow']]) {
     });
 }
 
+test('States that are seldom seen are accessible and fit', {viewport: screens.narrow}, async (page) => {
+  await page.goto(`${base()}signin.php`);
+  await page.fill('#user', 'admin');
+  await page.fill('#password', 'wrong');
+  await press(page, 'Sign in');
+  await judge(page, 'signin.php with an error');
+  fs.writeFileSync(`${library}/HTTPService/dat/attempts`, '');
+
+  await enterPassword(page);
+  await open(page, 'dns.php');
+  await page.evaluate(() => document.querySelectorAll('[name=token]').forEach((field) => { field.value = '0'; }));
+  await press(page, 'Save');
+  await judge(page, 'a change that is not allowed');
+
+  await withScript('ipv6Manager.sh', 'case "$*" in "-c -s "*) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await open(page, 'ipv6.php');
+    await page.check('#static');
+    await page.fill('#ipStatic', '2001:db8:20::7');
+    await page.fill('#prefix', '64');
+    await page.fill('#gateway', 'fe80::1');
+    await press(page, 'Apply');
+    await page.waitForSelector('h1:text-is("Not applied")', {timeout: 20000});
+    await judge(page, 'applying.php when not applied');
+  });
+
+  await open(page, 'security.php');
+  await page.check('#https-1');
+  await press(page, 'Save');
+  await judge(page, 'the web server restarts');
+  await page.waitForURL(`https://${ipv4Address()}/security.php`, {timeout: 20000});
+  php('set_ssl_settings($session, false);');
+  await served('http');
+});
+
+test('Forms that may only be read are accessible', {user: 'monitor'}, async (page) => {
+  for (const name of pages) {
+    await open(page, name);
+    await judge(page, name);
+  }
+});
+
 test('On a narrow screen the menu opens, with and without scripts', {viewport: screens.narrow, javaScriptEnabled: false},
   async (page) => {
     await signIn(page);
@@ -67,6 +109,7 @@ test('On a narrow screen the menu opens, with and without scripts', {viewport: s
 
 test('The keyboard alone is enough', {}, async (page) => {
   await page.goto(`${base()}dns.php`);
+  await page.waitForSelector('#user:focus');
   await page.keyboard.type('admin');
   await page.keyboard.press('Tab');
   await page.keyboard.type(require('./appliance.cjs').accounts.get('admin'));
@@ -92,6 +135,26 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
   assert.equal(await messages(page), 'The DNS servers are set.');
   await page.fill('#dnsPrimary', '');
   await press(page, 'Save');
+  await open(page, 'ipv4.php');
+  await page.fill('#hostname', 'shelf');
+  await press(page, 'Save name');
+  assert.equal(await messages(page), 'The host name is now shelf.');
+  await page.fill('#hostname', 'library');
+  await press(page, 'Save name');
+  await open(page, 'ipv6.php');
+  await page.check('#static');
+  assert.ok(await page.isVisible('#ipStatic'), 'no script is needed to show the fields');
+  for (const mode of ['IPv6 is on', 'IPv6 is off']) {
+    await page.setChecked('#enabled', mode === 'IPv6 is on');
+    await press(page, 'Save', '[aria-labelledby=switch]');
+    assert.ok((await messages(page)).startsWith(mode), mode);
+  }
+  await open(page, 'port.php');
+  await press(page, 'Save');
+  assert.equal(await messages(page), 'The Ethernet port is set.');
+  await open(page, 'snmp.php');
+  await press(page, 'Save');
+  assert.equal(await messages(page), 'The SNMP agent is set and has restarted.');
   await open(page, 'traps.php');
   await page.fill('#ip', '10.20.0.9');
   await press(page, 'Add');

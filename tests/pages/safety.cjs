@@ -123,6 +123,11 @@ test('Every answer carries the headers that keep it to itself', {user: 'admin'},
     assert.equal(headers.get('cache-control'), 'no-store', name);
     assert.equal(headers.get('x-powered-by'), null, name);
   }
+  for (const name of ['style.css', 'pages.js', 'icon.svg']) {
+    const {status, headers} = await fetch(base() + name);
+    assert.equal(status, 200, name);
+    assert.equal(headers.get('x-content-type-options'), 'nosniff', name);
+  }
   const {status, headers} = await send('dns.php', {}, cookie);
   assert.equal(status, 403);
   assert.match(headers.get('content-security-policy'), /^default-src 'none'/);

@@ -2,8 +2,9 @@
 'use strict';
 
 const assert = require('node:assert/strict');
+const {spawnSync} = require('node:child_process');
 const fs = require('node:fs');
-const {accounts, inAppliance, library, until} = require('./appliance.cjs');
+const {accounts, inAppliance, library, until, web} = require('./appliance.cjs');
 const {asksToSignIn, base, enterPassword, open, pages, press, signIn, test} = require('./browser.cjs');
 
 const dat = `${library}/HTTPService/dat`;
@@ -61,7 +62,8 @@ test('After the sign-in nobody is sent to another host', {}, async (page) => {
 test('A wrong password, an unknown name and an empty account say the same, and slow down what follows', {}, async (page) => {
   await page.goto(`${base()}signin.php`);
   assert.match(await tryPassword(page, 'admin', 'wrong'), /^The name or the password is wrong\.$/);
-  for (const [user, password] of [['nobody', accounts.get('admin')], ['admin', accounts.get('monitor')], ['', ''], ['admin:', 'x']]) {
+  for (const [user, password] of [['admin', accounts.get('monitor')], ['admin', ''], ['nobody', accounts.get('admin')], ['', ''],
+    ['admin:', 'x'], ['admin', 'x'], ['admin', 'y']]) {
     await page.evaluate(() => document.querySelectorAll('[required]').forEach((field) => { field.required = false; }));
     const said = await until(async () => {
       await page.evaluate(() => document.querySelectorAll('[required]').forEach((field) => { field.required = false; }));
@@ -70,8 +72,8 @@ test('A wrong password, an unknown name and an empty account say the same, and s
     }, 'an attempt to be heard', 30);
     assert.equal(said, 'The name or the password is wrong.', user);
   }
-  const [, count] = fs.readFileSync(`${dat}/attempts`, 'utf8').split(' ');
-  assert.equal(count, '5');
+  const counts = fs.readFileSync(`${dat}/attempts`, 'utf8').trim().split('\n').map((line) => line.replace(/^.*\/| \d+$/g, ''));
+  assert.deepEqual(counts, ['admin 5', ' 3'], 'every account by itself, and all names that do not exist together');
   await page.fill('#user', 'admin');
   const said = await tryPassword(page, 'admin', accounts.get('admin'));
   const seconds = Number(said.match(/^Too many attempts\. Please wait (\d+) seconds, then try again\.$/)[1]);
@@ -79,6 +81,56 @@ test('A wrong password, an unknown name and an empty account say the same, and s
   fs.writeFileSync(`${dat}/attempts`, '');
   await enterPassword(page);
   assert.equal(fs.readFileSync(`${dat}/attempts`, 'utf8'), '');
+});
+
+test('Who may sign in as monitor gains no attempts at the password of admin', {}, async (page) => {
+  await page.goto(`${base()}signin.php`);
+  await tryPassword(page, 'admin', 'wrong');
+  const before = fs.readFileSync(`${dat}/attempts`, 'utf8');
+  await enterPassword(page, 'monitor');
+  assert.equal(fs.readFileSync(`${dat}/attempts`, 'utf8'), before);
+  fs.writeFileSync(`${dat}/attempts`, '');
+});
+
+test('A sign-in that was not sent by the form of its own session is refused', {}, async (page, context) => {
+  await page.goto(`${base()}signin.php`);
+  const {name, value} = await cookie(context);
+  const right = {user: 'admin', password: accounts.get('admin')};
+  for (const token of [{}, {token: '0'.repeat(32)}]) {
+    const answer = await fetch(`${base()}signin.php`, {method: 'POST', body: new URLSearchParams({...right, ...token}),
+      headers: {cookie: `${name}=${value}`}, redirect: 'manual'});
+    assert.equal(answer.status, 200);
+    assert.match(await answer.text(), /The form was out of date\. Please try again\./);
+  }
+  await page.goto(`${base()}index.php`);
+  assert.equal(await asksToSignIn(page), '');
+});
+
+test('Another site cannot sign anybody out', {}, async (page, context) => {
+  await signIn(page);
+  const {name, value} = await cookie(context);
+  for (const body of ['', 'token=0']) {
+    await fetch(`${base()}signout.php`, {method: 'POST', body: new URLSearchParams(body), headers: {cookie: `${name}=${value}`},
+      redirect: 'manual'});
+  }
+  await page.reload();
+  assert.equal(await page.innerText('h1'), 'Overview');
+});
+
+test('Without a password hash that is strong enough no account is made, and no password printed', {}, async () => {
+  fs.renameSync(`${dat}/users`, `${dat}/users.away`);
+  try {
+    // An engine whose crypt() knows the historic hash only.
+    const {status, stdout, stderr} = spawnSync('php', ['-n', '-d', 'disable_functions=password_hash,crypt', '-r',
+      'function crypt() { return "ab1234567890z"; } require $argv[1]; make_first_accounts();',
+      `${web}/htdocs/library/page.php`], {encoding: 'utf8'});
+    assert.equal(stdout, '');
+    assert.equal(status, 1);
+    assert.match(stderr, /no password hash that is strong enough/);
+    assert.ok(!fs.existsSync(`${dat}/users`));
+  } finally {
+    fs.renameSync(`${dat}/users.away`, `${dat}/users`);
+  }
 });
 
 test('Many attempts at once are no more than one', {}, async () => {

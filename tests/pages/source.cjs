@@ -25,7 +25,9 @@ test('What only one of the interpreters has is found', () => {
   const folder = fs.mkdtempSync('/tmp/subset-');
   const wrong = {'[1]': 'a short array', '$a ?? 2': '"??"', 'f()[0]': 'an index of', 'function () {}': 'a closure',
     '$a ?: 1': '"?:"', 'file_put_contents($a, 1)': 'file_put_contents()', 'password_hash($a, 1)': 'without function_exists()',
-    'f()->x': 'a property of', 'A::b()': '"::"', 'clone $a': '"clone"', 'each($a)': 'each()'};
+    'f()->x': 'a property of', 'A::b()': '"::"', 'clone $a': '"clone"', 'each($a)': 'each()',
+    '1; function g(array $a) {}': 'a parameter with a type', '1; function g($a = array(1), $b): int {}': 'a type of what',
+    '1; class C { var int $a; }': 'a property with a type'};
   for (const code of Object.keys(wrong)) {
     fs.writeFileSync(`${folder}/page.php`, `<?php function f() { return 1; } $a = ${code};`);
     assert.match(subset(folder).stdout, new RegExp(`page.php:1: .*${wrong[code].replace(/[?()]/g, '\\$&')}`), code);

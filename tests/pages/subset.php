@@ -9,7 +9,7 @@ $old = array('array_fill', 'array_merge', 'array_slice', 'basename', 'bin2hex', 
     'dechex', 'define', 'defined', 'dirname', 'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof',
     'fflush', 'fgets', 'file', 'file_exists', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftruncate', 'function_exists',
     'fwrite', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string',
-    'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
+    'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
     'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start',
     'set_error_handler', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
     'trim', 'ucfirst', 'umask', 'unserialize', 'urlencode');
@@ -81,6 +81,9 @@ function check($file, $tokens)
             if ($after[0] != T_STRING) {
                 report($file, $line, 'a closure');
             }
+            check_types($file, $tokens, $i);
+        } elseif ($number == T_VAR && $after[0] != T_VARIABLE) {
+            report($file, $line, 'a property with a type');
         } elseif ($text == '[' && !in_array($before[0], array(T_VARIABLE, T_STRING)) && !in_array($before[1], array(']', '}'))) {
             report($file, $line, $before[1] == ')' ? 'an index of what a function returns' : 'a short array');
         } elseif ($text == '?' && $after[1] == ':') {
@@ -95,6 +98,19 @@ function check($file, $tokens)
             }
             check_call($file, $line, $text, $guards);
         }
+    }
+}
+
+function check_types($file, $tokens, $i)
+{
+    for ($depth = 0; $tokens[$i][1] != ')' || $depth > 1; $i++) {
+        $depth += $tokens[$i][1] == '(' ? 1 : ($tokens[$i][1] == ')' ? -1 : 0);
+        if ($tokens[$i][0] == T_VARIABLE && !in_array($tokens[$i - 1][1], array('(', ',', '&'))) {
+            report($file, $tokens[$i][2], 'a parameter with a type');
+        }
+    }
+    if ($tokens[$i + 1][1] == ':') {
+        report($file, $tokens[$i][2], 'a type of what a function returns');
     }
 }
 

@@ -2,31 +2,8 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const tls = require('node:tls');
-const {ipv4Address, php, until} = require('./appliance.cjs');
-const {base, enterPassword, messages, open, press, signIn, test} = require('./browser.cjs');
-
-function certificate() {
-  return new Promise((resolve, reject) => {
-    const socket = tls.connect({host: ipv4Address(), port: 443, rejectUnauthorized: false}, () => {
-      resolve(socket.getPeerCertificate());
-      socket.destroy();
-    });
-    socket.on('error', reject);
-  });
-}
-
-// Until the web server serves the pages with, or without, encryption.
-function served(scheme) {
-  return until(async () => {
-    try {
-      if (scheme === 'https') return await certificate();
-      return (await fetch(base(), {redirect: 'manual'})).status === 200;
-    } catch {
-      return false;
-    }
-  }, `the pages by ${scheme}`);
-}
+const {ipv4Address, php, until, withScript} = require('./appliance.cjs');
+const {certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
 
 test('HTTPS is switched on: the page comes back encrypted, with a cookie of its own', {user: 'admin'}, async (page, context) => {
   await open(page, 'security.php');
@@ -70,6 +47,30 @@ test('HTTPS is switched off: the page comes back without it', {}, async (page) =
   assert.ok(await page.isChecked('#https-0'));
   await press(page, 'Save');
   assert.match(await messages(page), /HTTPS is off already; nothing was changed\./);
+});
+
+test('A web server that does not change its mode is reported with the code, and the mode stays', {user: 'admin'}, async (page) => {
+  await served('http');
+  await withScript('applyWebMode.sh', 'exit 1', async () => {
+    await open(page, 'security.php');
+    await page.check('#https-1');
+    await press(page, 'Save');
+    assert.match(await messages(page), /^Could not set SSL settings\n+The web server stays in its old mode\.\n+Code 0x/);
+  });
+  assert.match(await page.innerText('main'), /Not encrypted: HTTPS is off/);
+  assert.equal(php('var_dump(get_ssl_settings($session)->isEnabled);'), 'bool(false)');
+});
+
+test('Without scripts the pages come back in the other mode as well', {javaScriptEnabled: false}, async (page) => {
+  await served('http');
+  await signIn(page, 'admin', 'security.php');
+  for (const [mode, scheme] of [['1', 'https'], ['0', 'http']]) {
+    await page.check(`#https-${mode}`);
+    await press(page, 'Save');
+    await page.waitForURL(`${scheme}://${ipv4Address()}/security.php`, {timeout: 20000});
+    await enterPassword(page);
+    assert.ok(await page.isChecked(`#https-${mode}`));
+  }
 });
 
 test('A mode that is none is refused', {user: 'admin'}, async (page) => {

@@ -376,13 +376,17 @@ TEST_F(AppConfigTest, AChangeOfTheModeIsBroughtToTheWebServiceWhenItIsStored) {
   EXPECT_EQ("1\n", Contents(folder + "/seen"));
 }
 
-TEST_F(AppConfigTest, AWebServiceThatDoesNotFollowFailsTheChangeOfTheMode) {
+TEST_F(AppConfigTest, AWebServiceThatDoesNotFollowFailsTheChangeOfTheModeWhichStaysAsItWas) {
   WriteScript(places.applyWebMode, "exit 3");
   const std::string said = Said([&] { EXPECT_EQ(Result::Failed, config->setSSLEnabled(true)); });
   EXPECT_EQ("setSSLEnabled: " + places.applyWebMode + " ended with exit status 3\n", said);
-  std::uint32_t ssl = 0;
+  std::uint32_t ssl = 7;
   config->getSSLEnabled(ssl);
-  EXPECT_EQ(1U, ssl);
+  EXPECT_EQ(0U, ssl);
+  EXPECT_EQ(
+      "setSSLEnabled|enabled|stored\n"
+      "setSSLEnabled|disabled, as before: the web service did not follow|stored\n",
+      Audit());
 }
 
 TEST_F(AppConfigTest, RestartingTheAgentSucceedsOnlyWithExitStatusZero) {

@@ -35,13 +35,27 @@ function make_first_accounts()
     $said = '';
     foreach (array('admin', 'monitor') as $role) {
         $password = random_password();
-        $lines .= $role . ':' . $role . ':' . hash_password($password) . "\n";
+        $hash = hash_password($password);
+        if ($hash == '') {
+            give_up('This interpreter has no password hash that is strong enough.');
+        }
+        $lines .= $role . ':' . $role . ':' . $hash . "\n";
         $said .= $role . ' ' . $password . "\n";
     }
     if (!replace_file(ACCOUNTS, $lines)) {
-        exit(1);
+        give_up('The accounts cannot be written to ' . ACCOUNTS . '.');
     }
     echo $said;
+}
+
+// Ends what cannot go on safely.
+function give_up($reason)
+{
+    error_log($reason);
+    if (php_sapi_name() == 'cli') {
+        exit(1);
+    }
+    refuse('500 Internal Server Error', 'The appliance cannot go on', $reason);
 }
 
 // A file is whole at every moment.
@@ -59,7 +73,7 @@ function random_bytes_of_kernel($count)
     $random = fopen('/dev/urandom', 'rb');
     $bytes = $random ? fread($random, $count) : '';
     if (strlen($bytes) != $count) {
-        exit('No random numbers from /dev/urandom.');
+        give_up('There are no random numbers from /dev/urandom.');
     }
     fclose($random);
     return $bytes;
@@ -120,48 +134,55 @@ function same_text($one, $other)
     return $difference == 0;
 }
 
-// The seconds that this client has to wait before it may try to sign in; 0 when it may now. The attempt counts
-// as a failed one at once, so that many at a time gain nothing; attempt_succeeded() takes that back.
-function seconds_until_attempt($client)
+// The seconds that this client has to wait before it may try to sign in under this name; 0 when it may now. The
+// attempt counts as a failed one at once, so that many at a time gain nothing; attempt_succeeded() takes that back.
+function seconds_until_attempt($client, $name)
 {
     $file = open_attempts();
     $attempts = read_attempts($file);
-    $client = attempt_key($client);
-    $count = isset($attempts[$client]) ? $attempts[$client]['count'] : 0;
+    $key = attempt_key($client, $name);
+    $count = isset($attempts[$key]) ? $attempts[$key]['count'] : 0;
     $wait = 0;
     if ($count > 0) {
-        $since = time() - $attempts[$client]['time'];
+        $since = time() - $attempts[$key]['time'];
         $pause = min(SLOWEST_SECONDS, $count > 2 ? 1 << min(10, $count - 2) : 1);
         // A clock that was set back does not lock anybody out.
         $wait = $since < 0 ? 0 : max(0, $pause - $since);
     }
     if ($wait == 0) {
-        $attempts[$client] = array('count' => $count + 1, 'time' => time());
+        $attempts[$key] = array('count' => $count + 1, 'time' => time());
     }
     write_attempts($file, $attempts);
     return $wait;
 }
 
-function attempt_succeeded($client)
+function attempt_succeeded($client, $name)
 {
     $file = open_attempts();
     $attempts = read_attempts($file);
-    unset($attempts[attempt_key($client)]);
+    unset($attempts[attempt_key($client, $name)]);
     write_attempts($file, $attempts);
 }
 
+// Each account by itself: who may sign in to one gains no attempts at another. All names that do not exist are one.
+function attempt_key($client, $name)
+{
+    $accounts = read_accounts();
+    return network_of($client) . '/' . (isset($accounts[$name]) ? $name : '');
+}
+
 // A client with IPv6 has a whole network of addresses to try from.
-function attempt_key($client)
+function network_of($client)
 {
     $bytes = ipv6_bytes($client);
     if (!$bytes) {
         return preg_replace('/[^0-9A-Za-z.]/', '', $client);
     }
-    $key = '';
+    $network = '';
     for ($i = 0; $i < 8; $i++) {
-        $key .= sprintf('%02x', $bytes[$i]);
+        $network .= sprintf('%02x', $bytes[$i]);
     }
-    return $key;
+    return $network;
 }
 
 function open_attempts()
@@ -170,12 +191,12 @@ function open_attempts()
     $file = fopen(ATTEMPTS, 'a+b');
     umask($mask);
     if (!$file || !flock($file, LOCK_EX)) {
-        exit('The count of failed sign-ins cannot be kept.');
+        give_up('The count of failed sign-ins cannot be kept in ' . ATTEMPTS . '.');
     }
     return $file;
 }
 
-// client => array of 'count' and 'time'; what is older than an hour is forgotten.
+// Client and name => array of 'count' and 'time'; what is older than an hour is forgotten.
 function read_attempts($file)
 {
     $attempts = array();
@@ -192,8 +213,8 @@ function read_attempts($file)
 function write_attempts($file, $attempts)
 {
     ftruncate($file, 0);
-    foreach ($attempts as $client => $attempt) {
-        fwrite($file, $client . ' ' . $attempt['count'] . ' ' . $attempt['time'] . "\n");
+    foreach ($attempts as $key => $attempt) {
+        fwrite($file, $key . ' ' . $attempt['count'] . ' ' . $attempt['time'] . "\n");
     }
     fclose($file);
 }

@@ -20,7 +20,10 @@ function new_change($kind, $values, $from, $to)
 
 function follow_change($session, $change)
 {
-    keep_applying($session, $change);
+    if (!keep_applying($session, $change)) {
+        go_to($GLOBALS['kinds'][$change['kind']]['page'], 'The change has begun. How far it is cannot be shown, because '
+            . PRIVATE_FOLDER . ' cannot be written.');
+    }
     go_to('applying.php');
 }
 

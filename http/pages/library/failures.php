@@ -2,7 +2,10 @@
 // What the module reports, collected so that a page can say it.
 if (!defined('LIBRARY')) exit;
 
+define('INTERNAL_ADDRESS', '0x00050040'); // the module's code
+
 $failures = array(); // each an array of 'message', 'code', 'place', 'advice'
+$failures_before_change = 0;
 
 // The error handler: a failure of the module is a warning with a code; anything else is a fault of the pages.
 function note_failure($level, $message, $file, $line)
@@ -16,21 +19,10 @@ function note_failure($level, $message, $file, $line)
             'advice' => advice_on($found[1], $found[2]));
     } else {
         error_log($message . ' in ' . $file . ' on line ' . $line);
-        $GLOBALS['failures'][] = array('message' => $message, 'code' => '', 'place' => '',
-            'advice' => 'This is a fault of the page itself; the web server\'s error log has the details.');
+        $GLOBALS['failures'][] = array('message' => 'This page has a fault', 'code' => '', 'place' => '',
+            'advice' => 'What it shows may be incomplete. The web server\'s error log has the details.');
     }
     return true;
-}
-
-// Whether the module reported this message since the page began.
-function failed_with($message)
-{
-    foreach ($GLOBALS['failures'] as $failure) {
-        if ($failure['message'] == $message) {
-            return true;
-        }
-    }
-    return false;
 }
 
 function failed()
@@ -38,10 +30,33 @@ function failed()
     return count($GLOBALS['failures']) > 0;
 }
 
+// To be called just before the module is asked to change something: what could not be read until then is shown
+// as well, but is no failure of the change.
+function begin_change()
+{
+    $GLOBALS['failures_before_change'] = count($GLOBALS['failures']);
+}
+
+function change_failed()
+{
+    return count($GLOBALS['failures']) > $GLOBALS['failures_before_change'];
+}
+
+// Whether the change was refused because an address belongs to the network inside the appliance.
+function is_internal_address()
+{
+    foreach (array_slice($GLOBALS['failures'], $GLOBALS['failures_before_change']) as $failure) {
+        if ($failure['code'] == INTERNAL_ADDRESS) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // What a person can do about it.
 function advice_on($message, $code)
 {
-    if ($code == '0x00050040') {
+    if ($code == INTERNAL_ADDRESS) {
         return 'The address belongs to the network inside the appliance, which nothing outside of it may use.'
             . ' Choose an address of your own network.';
     }

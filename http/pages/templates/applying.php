@@ -38,7 +38,8 @@ $polls = !$over ? ' data-poll="1000" data-parts="outcome values" data-expected="
     <td data-label="Wanted"><?php echo h($row[1]); ?></td>
     <td data-label="Now"><?php echo h($row[2]); ?></td>
     <td data-label="State"><?php echo $row[3] ? state('good', 'As wanted') : ($outcome == 'waiting'
-      ? state('wait', 'Not yet') : state('bad', 'Old value')); ?></td>
+      ? state('wait', 'Not yet') : ($outcome == 'applied' ? state('caution', 'Changed since')
+      : state('bad', 'Old value'))); ?></td>
   </tr>
 <?php } ?>
   </tbody>

@@ -1,6 +1,7 @@
 <?php
 if (!defined('LIBRARY')) exit;
-$known = $settings->ip != '0.0.0.0';
+// What is not known reads as zeros; what was typed stays.
+$known = posted('change') == 'addressing' || $settings->ip != '0.0.0.0';
 ?>
 <section class="card" aria-labelledby="name">
   <h2 id="name">Host name</h2>

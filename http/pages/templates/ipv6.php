@@ -35,6 +35,10 @@ echo check_field('enabled', 'Use IPv6', $enabled, 'Off means off for all sources
 echo form_begin('ipv6.php', 'modes');
 echo check_field('stateless', 'Router advertisements', $modes['stateless'], 'The appliance makes its address from what the router announces (SLAAC).');
 echo check_field('dhcp', 'DHCP', $modes['dhcp'], 'A DHCPv6 server in your network gives the address.');
+?>
+<p class="note">Addresses of a source that is switched off go at once: pages that were opened under one of them lose their
+connection.</p>
+<?php
 echo form_end('Save');
 ?>
 </section>

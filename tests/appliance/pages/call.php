@@ -1,1 +1,3 @@
-../check/pages/call.php
+<?php
+// Calls a function for a test as it is called for ./run --check.
+require __DIR__ . '/../check/pages/call.php';
