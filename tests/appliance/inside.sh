@@ -91,13 +91,14 @@ has_not() { [[ -z $(ip -oneline address show dev eth0 to "$1") ]]; }
 # page_from_lan ADDRESS: the heading of the first page.
 page_from_lan() { lan curl --silent --insecure --location --max-time 10 "http://$1/" | grep -o '<h1>.*</h1>'; }
 
-# All that the device scripts can change, without what changes by itself.
+# All that the device scripts can change, without what changes by itself: the kernel adds the local routes of an
+# address some time after the address.
 device_state() {
   grep -r '' "$SETTINGS" --exclude=lock
   ls "$SETTINGS" /etc/ipv6dhcp 2>&1
   hostname
   ip -oneline address show dev eth0 | sed 's/ *\\.*//; s/ tentative$//'
-  ip -oneline route show table all dev eth0 | sed 's/ expires.*//'
+  ip -oneline route show table all dev eth0 | sed '/ table local /d; s/ expires.*//'
   cat /etc/resolv.conf
 }
 
