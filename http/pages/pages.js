@@ -13,9 +13,14 @@ for (const shown of document.querySelectorAll('[data-address-from]')) {
   const field = document.getElementById(shown.dataset.addressFrom);
   const general = shown.textContent;
   const scheme = general.slice(0, general.indexOf('//') + 2);
-  const update = () => { shown.textContent = field.value.trim() ? `${scheme}${field.value.trim()}/` : general; };
+  const update = () => { shown.textContent = isIpv4(field.value.trim()) ? `${scheme}${field.value.trim()}/` : general; };
   field.addEventListener('input', update);
   update();
+}
+
+function isIpv4(text) {
+  const numbers = text.split('.');
+  return numbers.length === 4 && numbers.every((number) => /^\d{1,3}$/.test(number) && number < 256);
 }
 
 // A change is sent once. The page may come back from the browser's memory, with the button as it was.

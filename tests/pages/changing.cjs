@@ -377,8 +377,8 @@ test('The audit trail names user, operation, values and result', {user: 'admin'}
   const rows = await page.locator('tbody tr').evaluateAll((all) => all.map((row) =>
     [...row.cells].slice(1).map((cell) => cell.innerText.trim()).join('|')));
   assert.match(rows[0], /^tests\|delete/);
-  assert.match(rows[1], /^tests\|create.*10\.20\.0\.78.*\|Refused: /);
-  assert.match(rows[2], /^tests\|create.*10\.20\.0\.77.*\|Stored$/);
+  assert.match(rows[1], /^tests\|createTrapRegistration\s+.*10\.20\.0\.78.*\|Refused\s+transport 7 is neither 1 \(UDP\) nor 2 \(TCP\)$/);
+  assert.match(rows[2], /^tests\|createTrapRegistration\s+.*10\.20\.0\.77.*\|Stored$/);
 });
 
 test('The audit trail names who changed the agent, whoever was served before', {user: 'admin'}, async (page, context) => {

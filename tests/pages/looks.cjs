@@ -30,6 +30,9 @@ for (const [colorScheme, screen] of [['light', 'wide'], ['dark', 'narrow']]) {
 
   test(`Errors, messages and lists are accessible and fit: ${colorScheme}, ${screen}`, {user: 'admin', colorScheme, viewport},
     async (page) => {
+      php('create_snmp_trap_reg($session, 9, "2001:db8:20::1", "162");');
+      await open(page, 'diagnostics.php?live=0');
+      await judge(page, 'diagnostics.php with a refused change');
       for (const [name, button] of [['dns.php', 'Save'], ['snmp.php', 'Save'], ['traps.php', 'Add']]) {
         await open(page, name);
         await page.fill('main input[type=text] >> nth=0', 'x y');
@@ -56,6 +59,18 @@ for (const [colorScheme, screen] of [['light', 'wide'], ['dark', 'narrow']]) {
       await page.waitForSelector('h1:text-is("Applied"), [data-when-lost]:visible', {timeout: 60000});
     });
 }
+
+test('Every page fits between a telephone and a desk, too', {user: 'admin'}, async (page) => {
+  php('create_snmp_trap_reg($session, 9, "2001:db8:1234:5678:9abc:def0:1234:5678", "162");');
+  for (const name of pages) {
+    await open(page, name);
+    for (const width of [641, 768, 959, 960, 1024]) {
+      await page.setViewportSize({width, height: 900});
+      const over = await page.evaluate(() => document.documentElement.scrollWidth - innerWidth);
+      assert.ok(over <= 0, `${name} is ${over} pixels too wide for ${width}`);
+    }
+  }
+});
 
 test('States that are seldom seen are accessible and fit', {viewport: screens.narrow}, async (page) => {
   await page.goto(`${base()}signin.php`);
@@ -86,6 +101,7 @@ test('States that are seldom seen are accessible and fit', {viewport: screens.na
   await page.check('#https-1');
   await press(page, 'Save');
   await judge(page, 'the web server restarts');
+  assert.notEqual(await page.evaluate(() => getComputedStyle(document.querySelector('.card')).borderRadius), '0px', 'it has its style');
   await page.waitForURL(`https://${ipv4Address()}/security.php`, {timeout: 20000});
   php('set_ssl_settings($session, false);');
   await served('http');

@@ -1,5 +1,5 @@
 // The pictures of doc/pictures, taken anew: ./run --exec tests/pages/in_appliance FOLDER pictures.cjs, where
-// FOLDER is that of ./test pages (build/tests/pages).
+// FOLDER is build/tests/pages as an absolute path.
 'use strict';
 
 const path = require('node:path');

@@ -127,6 +127,7 @@ test('Every answer carries the headers that keep it to itself', {user: 'admin'},
     const {status, headers} = await fetch(base() + name);
     assert.equal(status, 200, name);
     assert.equal(headers.get('x-content-type-options'), 'nosniff', name);
+    assert.equal(headers.get('cache-control'), 'max-age=86400', name);
   }
   const {status, headers} = await send('dns.php', {}, cookie);
   assert.equal(status, 403);

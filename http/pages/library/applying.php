@@ -45,15 +45,21 @@ function compare_values($change, $now)
 {
     $rows = array();
     foreach ($change['values'] as $name => $wanted) {
-        $rows[] = array($GLOBALS['kinds'][$change['kind']]['labels'][$name], $wanted, short_ipv6($now[$name]),
+        $rows[] = array($GLOBALS['kinds'][$change['kind']]['labels'][$name], $wanted, present_value($now[$name]),
             same_value($wanted, $now[$name]));
     }
     if ($change['kind'] == 'ipv4' && $change['values']['mode'] == 'DHCP') {
-        $has_address = $now['ip'] != '0.0.0.0' && $now['ip'] != '';
-        $rows[] = array('Address', 'From the DHCP server', $has_address ? $now['ip'] : 'None yet',
-            $has_address && $now['mode'] == 'DHCP');
+        $address = present_value($now['ip']);
+        $rows[] = array('Address', 'From the DHCP server', $address, $address != 'None' && $now['mode'] == 'DHCP');
     }
     return $rows;
+}
+
+// Zeros are how the module says that there is none.
+function present_value($value)
+{
+    $short = short_ipv6($value);
+    return $short == '::' || $short == '0.0.0.0' || $short == '' ? 'None' : $short;
 }
 
 function same_value($one, $other)

@@ -7,6 +7,13 @@ function h($text)
     return htmlspecialchars((string) $text, ESCAPING, 'UTF-8');
 }
 
+// The address of a file beside the pages. It is another one for another version of the file: browsers keep what
+// they have got once, and need not ask while the web server restarts.
+function asset($name)
+{
+    return $name . '?' . filemtime(dirname(dirname(__FILE__)) . '/' . $name);
+}
+
 // A drawing of 24 by 24, for the eye only: a word always stands beside it.
 function icon($name)
 {

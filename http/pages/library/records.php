@@ -61,6 +61,14 @@ function audit_rows()
     return $rows;
 }
 
+// What came of an operation, as markup: stored, or refused with the reason.
+function result_of($text)
+{
+    $parts = explode(': ', $text, 2);
+    return state($parts[0] == 'stored' ? 'good' : 'bad', ucfirst($parts[0]))
+        . (count($parts) == 2 ? '<p class="hint">' . h($parts[1]) . '</p>' : '');
+}
+
 // A change that goes on after the answer is kept for its user outside of the session: with the appliance's
 // address the browser's session changes too.
 function applying_file($session)

@@ -38,16 +38,14 @@ $same_filter = 'filter=' . urlencode($filter);
   <p class="empty">Nothing was changed yet.</p>
 <?php } else { ?>
   <table class="stacks">
-    <thead><tr><th scope="col">Time (UTC)</th><th scope="col">User</th><th scope="col">Operation</th><th scope="col">Values</th>
-      <th scope="col">Result</th></tr></thead>
+    <thead><tr><th scope="col">Time (UTC)</th><th scope="col">User</th><th scope="col">Change</th><th scope="col">Result</th></tr></thead>
     <tbody>
 <?php foreach ($audit as $row) { ?>
     <tr>
-      <th scope="row"><?php echo h(substr(strtr($row[0], 'T', ' '), 0, 19)); ?></th>
-      <td data-label="User"><?php echo h($row[1] == '' ? 'Not known' : $row[1]); ?></td>
-      <td data-label="Operation"><?php echo h($row[2]); ?></td>
-      <td data-label="Values"><?php echo h($row[3]); ?></td>
-      <td data-label="Result"><?php echo $row[4] == 'stored' ? state('good', 'Stored') : state('bad', ucfirst($row[4])); ?></td>
+      <th scope="row" class="time"><?php echo h(substr(strtr($row[0], 'T', ' '), 0, 19)); ?></th>
+      <td class="user" data-label="User"><?php echo h($row[1] == '' ? 'Not known' : $row[1]); ?></td>
+      <td data-label="Change"><div><p><?php echo h($row[2]); ?></p><p class="hint"><?php echo h($row[3]); ?></p></div></td>
+      <td data-label="Result"><div><?php echo result_of($row[4]); ?></div></td>
     </tr>
 <?php } ?>
     </tbody>
