@@ -9,18 +9,20 @@ if (!$change) {
 }
 $kind = $kinds[$change['kind']];
 $seconds = max(0, time() - $change['began']);
-$rows = compare_values($change, values_now($session, $change['kind']));
+$now = values_now($session, $change['kind']);
+$rows = compare_values($change, $now);
 $outcome = outcome_of($change, $rows, $seconds);
-if ($outcome == 'applied' && !$change['applied']) {
-    $change['applied'] = true;
+if ($outcome != $change['outcome']) {
+    $change['lines'] = lines_about($change);
+    $change['outcome'] = $outcome;
     keep_applying($session, $change);
 }
 $moved_to = moved_to($change);
 $titles = array('waiting' => 'Applying', 'applied' => 'Applied', 'failed' => 'Not applied');
 $values = array('title' => $titles[$outcome], 'part_of' => $kind['page'], 'kind' => $kind, 'rows' => $rows,
-    'outcome' => $outcome, 'over' => $outcome == 'applied' || is_over($change, $seconds), 'change' => $change, 'moved_to' => $moved_to, 'other_origin' => $moved_to,
-    'percent' => (int) min(95, 100 * $seconds / $kind['expected']),
-    'lines' => $outcome == 'failed' ? lines_about($change) : array());
+    'outcome' => $outcome, 'change' => $change, 'moved_to' => $moved_to, 'other_origin' => $moved_to,
+    'percent' => (int) min(95, 100 * $seconds / $kind['expected']), 'lines' => lines_about($change),
+    'stored_only' => isset($now['enabled']) && !$now['enabled']);
 if ($outcome == 'waiting') {
     // Without scripts nothing but going there shows whether the new address answers.
     $values['refresh'] = $moved_to == '' ? array(2, 'applying.php?background=1')

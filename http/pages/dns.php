@@ -31,8 +31,9 @@ function dns_errors($settings)
 {
     $errors = array();
     foreach (array('dnsPrimary', 'dnsSecondary') as $field) {
-        if ($settings->$field != '' && !is_address($settings->$field)) {
-            $errors[$field] = 'Enter an IPv4 or IPv6 address, such as 10.20.0.1 or 2001:db8:20::1.';
+        $error = $settings->$field == '' ? '' : host_error($settings->$field);
+        if ($error != '') {
+            $errors[$field] = $error;
         }
     }
     if ($settings->dnsPrimary == '' && $settings->dnsSecondary != '') {

@@ -14,20 +14,20 @@ class Ipv4Settings
 
 $session = signed_in();
 $settings = get_network_configuration_ipv4($session);
+$current_name = $settings->hostname;
 $errors = array();
 if (is_post() && posted('change') == 'name') {
-    $current_name = $settings->hostname;
     $settings->hostname = posted('hostname');
     $errors = change_name($session, $current_name, $settings->hostname);
 } elseif (is_post()) {
-    $wanted = wanted_settings($settings->hostname);
+    $wanted = wanted_settings($current_name);
     $errors = addressing_errors($wanted);
     if (!$errors) {
         begin_ipv4($session, $settings, $wanted);
     }
     $settings = $wanted;
 }
-show('ipv4', array('title' => 'IPv4 and host name', 'settings' => $settings, 'errors' => $errors,
+show('ipv4', array('title' => 'IPv4 and host name', 'settings' => $settings, 'errors' => $errors, 'name' => $current_name,
     'mode' => posted('change') == 'addressing' ? posted('mode') : ($settings->dhcpEnabled ? 'dhcp' : 'static'),
     'lead' => 'The name and the address under which the appliance is found.'));
 
@@ -59,6 +59,10 @@ function wanted_settings($hostname)
 
 function addressing_errors($wanted)
 {
+    // The appliance sets it first, and goes on to the address only when that has worked.
+    if ($wanted->hostname == '') {
+        return array('mode' => 'The host name cannot be read, and without it the address cannot be changed. Set a name first.');
+    }
     if (posted('mode') == 'dhcp') {
         return array();
     }

@@ -54,7 +54,9 @@ async function follow(section) {
     await new Promise((resolve) => setTimeout(resolve, section.dataset.poll));
     if (document.hidden) await new Promise((resolve) => addEventListener('visibilitychange', resolve, {once: true}));
     if (bar) bar.value = Math.min(95, (Date.now() - began) / section.dataset.expected / 10);
+    const asked = location.href;
     const page = await fetchPage();
+    if (location.href !== asked) continue; // the filter has changed meanwhile
     misses = page ? 0 : misses + 1;
     for (const lost of section.querySelectorAll('[data-when-lost]')) lost.hidden = misses < 3;
     if (!page) {
@@ -79,7 +81,8 @@ async function fetchPage() {
   address.searchParams.set('background', '1');
   try {
     const answer = await fetch(address, {signal: AbortSignal.timeout(3000)});
-    return answer.ok ? new DOMParser().parseFromString(await answer.text(), 'text/html') : null;
+    const page = answer.ok ? new DOMParser().parseFromString(await answer.text(), 'text/html') : null;
+    return page && page.querySelector('h1') ? page : null;
   } catch {
     return null;
   }
@@ -144,7 +147,23 @@ function withFilter(search) {
   return `?${query}`;
 }
 
-// A link to where the page goes on when the web server has restarted.
-for (const link of document.querySelectorAll('[data-go-after]')) {
-  setTimeout(() => location.assign(link.href), link.dataset.goAfter * 1000);
+// A link to where the page goes on when the web server has restarted: it then answers by sending elsewhere, or no longer
+// here at all.
+for (const link of document.querySelectorAll('[data-go-after-restart]')) goAfterRestart(link);
+
+async function goAfterRestart(link) {
+  const pause = () => new Promise((resolve) => setTimeout(resolve, 500));
+  for (;;) {
+    await pause();
+    try {
+      const {type} = await fetch('icon.svg', {cache: 'no-store', redirect: 'manual', signal: AbortSignal.timeout(3000)});
+      if (type === 'opaqueredirect') break;
+    } catch {
+      if (link.protocol !== location.protocol) break;
+    }
+  }
+  // It may not listen everywhere yet.
+  await pause();
+  await pause();
+  location.assign(link.href);
 }

@@ -34,7 +34,11 @@ function test_receivers($session)
 
 function delete_receiver($session, $id)
 {
+    begin_change();
     $receiver = find_receiver(get_snmp_trap_regs($session), $id);
+    if (change_failed()) {
+        return; // the list cannot be read
+    }
     if (!$receiver) {
         go_to('traps.php', 'This receiver was deleted already.');
     }
@@ -66,7 +70,7 @@ function add_receiver($session, $typed)
 function take_back_additions($session, $before, $ip)
 {
     foreach (get_snmp_trap_regs($session) as $receiver) {
-        if ($receiver->ip == $ip && !find_receiver($before, $receiver->id)) {
+        if (same_value($receiver->ip, $ip) && !find_receiver($before, $receiver->id)) {
             delete_snmp_trap_reg($session, $receiver->id);
         }
     }
@@ -88,8 +92,9 @@ function receiver_errors($typed)
     if ($typed['transport'] != '1' && $typed['transport'] != '2') {
         $errors['transport'] = 'Choose UDP or TCP.';
     }
-    if (!is_address($typed['ip'])) {
-        $errors['ip'] = 'Enter an IPv4 or IPv6 address, such as 10.20.0.1 or 2001:db8:20::1.';
+    $error = host_error($typed['ip']);
+    if ($error != '') {
+        $errors['ip'] = $error;
     }
     if (!preg_match('/^[0-9]{1,5}$/D', $typed['port']) || $typed['port'] < 1 || $typed['port'] > 65535) {
         $errors['port'] = 'Enter a number from 1 to 65535; usual is ' . TRAP_PORT . '.';

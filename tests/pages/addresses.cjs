@@ -62,7 +62,7 @@ test('A change that leaves the address alone is applied while one watches', {}, 
   assert.match(await page.title(), /^Applying/);
   assert.equal(await page.locator('.message a').count(), 0, 'there is no other address to go to');
   await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
-  assert.match(await page.innerText('[role=status] >> nth=-1'), /^The settings are in force\./);
+  assert.match(await page.innerText('#outcome'), /^The settings are in force\./);
   assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.2 /);
   await page.reload();
   assert.equal(await page.innerText('h1'), 'Applied');

@@ -9,8 +9,8 @@ $old = array('array_fill', 'array_merge', 'array_slice', 'basename', 'bin2hex', 
     'dechex', 'define', 'defined', 'dirname', 'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof',
     'fflush', 'fgets', 'file', 'file_exists', 'filemtime', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftruncate', 'function_exists',
     'fwrite', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string',
-    'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
-    'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start',
+    'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'php_uname', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
+    'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start', 'session_write_close',
     'set_error_handler', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
     'trim', 'ucfirst', 'umask', 'unserialize', 'urlencode');
 // Only behind function_exists() of the same name, in the same function.

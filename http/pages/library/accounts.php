@@ -168,7 +168,7 @@ function attempt_succeeded($client, $name)
 function attempt_key($client, $name)
 {
     $accounts = read_accounts();
-    return network_of($client) . '/' . (isset($accounts[$name]) ? $name : '');
+    return network_of($client) . '/' . (isset($accounts[$name]) ? urlencode($name) : '');
 }
 
 // A client with IPv6 has a whole network of addresses to try from.

@@ -87,6 +87,35 @@ function is_address($text)
     return ipv4_bytes($text) || ipv6_bytes($text);
 }
 
+// Whether the address can be that of one host on a network, as the appliance sees it.
+function is_host_address($text)
+{
+    $bytes = ipv4_bytes($text);
+    if ($bytes) {
+        return $bytes[0] > 0 && $bytes[0] < 224 && $bytes[0] != 127;
+    }
+    $bytes = ipv6_bytes($text);
+    // None of IPv4 in the notation of IPv6, of the host itself, and of many.
+    return $bytes && !same_network($bytes, ipv6_bytes('::ffff:0:0'), 96) && !same_network($bytes, ipv6_bytes('::'), 127)
+        && $bytes[0] != 255;
+}
+
+// What is wrong with the address of another host, or ''.
+function host_error($text)
+{
+    if (!is_address($text)) {
+        return 'Enter an IPv4 or IPv6 address, such as 10.20.0.1 or 2001:db8:20::1.';
+    }
+    return is_host_address($text) ? '' : 'No other device can have this address. Enter one such as 10.20.0.1 or 2001:db8:20::1.';
+}
+
+// Whether two texts are the same address, or the same text.
+function same_value($one, $other)
+{
+    $bytes = ipv6_bytes($one);
+    return $bytes ? $bytes == ipv6_bytes($other) : $one == $other;
+}
+
 // Whether two addresses of one family agree in their first $length bits.
 function same_network($one, $other, $length)
 {
@@ -138,7 +167,7 @@ function ipv4_errors($ip, $netmask, $gateway)
     $gateway_bytes = ipv4_bytes($gateway);
     if (!$ip_bytes) {
         $errors['ip'] = 'Enter four numbers from 0 to 255 with dots between them, such as 10.20.0.7.';
-    } elseif ($ip_bytes[0] == 0 || $ip_bytes[0] == 127 || $ip_bytes[0] >= 224) {
+    } elseif (!is_host_address($ip)) {
         $errors['ip'] = 'A device cannot have this address. Choose one of your network, such as 10.20.0.7.';
     }
     $length = $mask_bytes ? netmask_length($mask_bytes) : -1;
@@ -182,13 +211,15 @@ function ipv6_errors($address, $prefix, $gateway)
     $gateway_bytes = ipv6_bytes($gateway);
     if (!$bytes) {
         $errors['ipStatic'] = 'Enter an IPv6 address, such as 2001:db8:20::7.';
-    } elseif ($bytes[0] == 255 || same_network($bytes, array_fill(0, 16, 0), 120)) {
+    } elseif (!is_host_address($address)) {
         $errors['ipStatic'] = 'A device cannot have this address. Choose one of your network, such as 2001:db8:20::7.';
+    } elseif (same_network($bytes, ipv6_bytes('fe80::'), 10)) {
+        $errors['ipStatic'] = 'The appliance has a link-local address of its own. Choose one of your network, such as 2001:db8:20::7.';
     }
-    if (!preg_match('/^[0-9]{1,3}$/D', $prefix) || $prefix < 1 || $prefix > 128) {
+    if (!preg_match('/^[1-9][0-9]{0,2}$/D', $prefix) || $prefix > 128) {
         $errors['prefix'] = 'Enter a number from 1 to 128; usual is 64.';
     }
-    if (!$gateway_bytes) {
+    if (!$gateway_bytes || !is_host_address($gateway)) {
         $errors['gateway'] = 'Enter the IPv6 address of the router, such as 2001:db8:20::1 or fe80::1.';
     }
     if ($errors) {

@@ -2,20 +2,25 @@
 // Changes that go on after the answer: what was wanted, until when it can be there, and how far it is.
 if (!defined('LIBRARY')) exit;
 
-// Kind of change => page it belongs to, seconds it usually takes, seconds after which it has failed, and the names
-// of its values. The module itself waits three seconds before it changes IPv4.
+// Kind of change => page it belongs to, seconds it usually takes, seconds after which it has failed, the names of its
+// values, and what the trace log says when one of this kind begins, is done, and has failed: each says one of the two
+// when it ends. The module itself waits three seconds before it changes IPv4.
 $kinds = array(
-    'ipv4' => array('page' => 'ipv4.php', 'expected' => 6, 'limit' => 45, 'labels' => array('mode' => 'Obtained by',
-        'ip' => 'Address', 'netmask' => 'Netmask', 'gateway' => 'Gateway')),
-    'ipv6' => array('page' => 'ipv6.php', 'expected' => 2, 'limit' => 15, 'labels' => array('mode' => 'Static address',
-        'ip' => 'Address', 'prefix' => 'Prefix length', 'gateway' => 'Gateway'))
+    'ipv4' => array('page' => 'ipv4.php', 'expected' => 6, 'limit' => 45,
+        'labels' => array('mode' => 'Obtained by', 'ip' => 'Address', 'netmask' => 'Netmask', 'gateway' => 'Gateway'),
+        'begun' => '/\]:Firing off the thread to Set Network settings:/', 'done' => '/\]:Leaving set_network_ipv4:/',
+        'failed' => '/\]:Could not set /'),
+    'ipv6' => array('page' => 'ipv6.php', 'expected' => 3, 'limit' => 15,
+        'labels' => array('mode' => 'Static address', 'ip' => 'Address', 'prefix' => 'Prefix length', 'gateway' => 'Gateway'),
+        'begun' => '/\]:Firing off the thread to Set Network settings for IPv6:/', 'done' => '/\]:Leaving set_network_ipv6:/',
+        'failed' => '/\]:Failed to (en|dis)able static IPv6 /')
 );
 
 // $values: name => wanted text. The appliance moves from the address $from to $to; '' when it is not known.
 function new_change($kind, $values, $from, $to)
 {
     return array('kind' => $kind, 'values' => $values, 'from' => $from, 'to' => $to, 'began' => time(),
-        'trace' => trace_size(), 'applied' => false);
+        'trace' => trace_size(), 'outcome' => 'waiting', 'lines' => array());
 }
 
 function follow_change($session, $change)
@@ -37,7 +42,7 @@ function values_now($session, $kind)
     }
     $now = get_network_configuration_ipv6($session);
     return array('mode' => $now->staticEnabled ? 'On' : 'Off', 'ip' => $now->ipStatic, 'prefix' => $now->prefix,
-        'gateway' => $now->gateway);
+        'gateway' => $now->gateway, 'enabled' => is_ipv6_enabled(), 'addresses' => get_all_ipv6_addresses());
 }
 
 // Each wanted value beside the one in force: arrays of label, wanted, now and whether they are the same.
@@ -52,7 +57,21 @@ function compare_values($change, $now)
         $address = present_value($now['ip']);
         $rows[] = array('Address', 'From the DHCP server', $address, $address != 'None' && $now['mode'] == 'DHCP');
     }
+    if ($change['kind'] == 'ipv6' && $change['values']['mode'] == 'On' && $now['enabled']) {
+        $used = is_among($change['to'], $now['addresses']);
+        $rows[] = array('In use', 'Yes', $used ? 'Yes' : 'No', $used);
+    }
     return $rows;
+}
+
+function is_among($address, $others)
+{
+    foreach ($others as $other) {
+        if (same_value($address, $other)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 // Zeros are how the module says that there is none.
@@ -62,69 +81,76 @@ function present_value($value)
     return $short == '::' || $short == '0.0.0.0' || $short == '' ? 'None' : $short;
 }
 
-function same_value($one, $other)
+function all_as_wanted($rows)
 {
-    $bytes = ipv6_bytes($one);
-    return $bytes ? $bytes == ipv6_bytes($other) : $one == $other;
-}
-
-// 'applied', 'failed' or 'waiting'. What was applied once stays so, whatever is changed later.
-function outcome_of($change, $rows, $seconds)
-{
-    if ($change['applied']) {
-        return 'applied';
-    }
-    $same = true;
     foreach ($rows as $row) {
-        $same = $same && $row[3];
-    }
-    if ($same) {
-        return 'applied';
-    }
-    return is_over($change, $seconds) || gave_up($change) ? 'failed' : 'waiting';
-}
-
-function is_over($change, $seconds)
-{
-    return $seconds >= $GLOBALS['kinds'][$change['kind']]['limit'];
-}
-
-// Whether the appliance has written down that a change failed. It may have been another one that went on at the same
-// time: until the time is over, this one can still be applied.
-function gave_up($change)
-{
-    foreach (lines_about($change) as $line) {
-        if (preg_match('/\]:(Could not set |Failed to (en|dis)able static )/', $line)) {
-            return true;
+        if (!$row[3]) {
+            return false;
         }
     }
-    return false;
+    return true;
+}
+
+// 'applied', 'failed' or 'waiting'. What a change has come to once stays so, whatever is changed later.
+function outcome_of($change, $rows, $seconds)
+{
+    if ($change['outcome'] != 'waiting') {
+        return $change['outcome'];
+    }
+    $kind = $GLOBALS['kinds'][$change['kind']];
+    $lines = lines_about($change);
+    $same = all_as_wanted($rows);
+    $done = count_matching($lines, $kind['done']);
+    $failed = count_matching($lines, $kind['failed']);
+    // The settings read as wanted some time before they are in force.
+    if ($same && $done > 0 && moved_to($change) == '') {
+        return 'applied';
+    }
+    // Another one may go on at the same time: which of them has failed is known when all have ended.
+    if ($failed > 0 && $failed + $done >= count_matching($lines, $kind['begun']) && !($same && $done > 0)) {
+        return 'failed';
+    }
+    if ($seconds < $kind['limit']) {
+        return 'waiting';
+    }
+    return $same ? 'applied' : 'failed';
+}
+
+function count_matching($lines, $pattern)
+{
+    $count = 0;
+    foreach ($lines as $line) {
+        $count += preg_match($pattern, $line);
+    }
+    return $count;
 }
 
 // What the trace log says about changes since this one began; what reading the settings writes is left out.
 function lines_about($change)
 {
-    $about = array();
-    $lines = trace_lines('', $change['trace']);
-    foreach ($lines ? $lines : array() as $line) {
-        if (preg_match('/set_network|Could not|Failed|setIPv6|IPv6 Static add|Network settings/', $line)) {
-            $about[] = $line;
-        }
+    if ($change['outcome'] != 'waiting') {
+        return $change['lines'];
     }
-    return $about;
+    $lines = trace_lines_since($change['trace'], '/set_network|Could not|Failed|setIPv6|IPv6 Static add|Network settings/');
+    return $lines ? $lines : array();
 }
 
 // Scheme and address under which the browser finds the appliance after the change, when it is using the address
 // that goes away; else ''.
 function moved_to($change)
 {
-    if ($change['to'] == '' || !preg_match('/^\[?([^\]]*?)\]?(:[0-9]+)?$/D', host_of_request(), $found)) {
+    if ($change['to'] == '' || $change['from'] == '' || same_value($change['from'], $change['to'])
+        || !preg_match('/^\[?([^\]]*?)\]?(:[0-9]+)?$/D', host_of_request(), $found)) {
         return '';
     }
-    if (!is_address($found[1]) || !same_value($found[1], $change['from']) || same_value($change['from'], $change['to'])) {
-        return '';
+    $here = $found[1];
+    $port = isset($found[2]) ? $found[2] : '';
+    // A name stands for the address that this request came to; under a port of its own the pages are published by another
+    // machine.
+    if (!is_address($here)) {
+        $here = $port == '' && $here != 'localhost' ? text_of($_SERVER, 'SERVER_ADDR') : '';
     }
-    return origin_of($change['to'], isset($found[2]) ? $found[2] : '');
+    return same_value($here, $change['from']) ? origin_of($change['to'], $port) : '';
 }
 
 function origin_of($address, $port)

@@ -13,7 +13,7 @@ function note_failure($level, $message, $file, $line)
     if (!(error_reporting() & $level)) {
         return true;
     }
-    $report = '/^(?:\w+\(\)(?: \[[^\]]*\])?: )?(.*) \(code (0x[0-9A-F]{8}), (http\/src\/network:[0-9]+)\)$/s';
+    $report = '/^(?:\w+\(\)(?: \[[^\]]*\])?: )?(.*) \(code (0x[0-9A-F]{8}), (\S+:[0-9]+)\)$/s';
     if (preg_match($report, $message, $found)) {
         $GLOBALS['failures'][] = array('message' => $found[1], 'code' => $found[2], 'place' => $found[3],
             'advice' => advice_on($found[1], $found[2]));
@@ -31,9 +31,10 @@ function failed()
 }
 
 // To be called just before the module is asked to change something: what could not be read until then is shown
-// as well, but is no failure of the change.
+// as well, but is no failure of the change. The rest of the session does not wait for the appliance.
 function begin_change()
 {
+    leave_session();
     $GLOBALS['failures_before_change'] = count($GLOBALS['failures']);
 }
 

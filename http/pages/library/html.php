@@ -63,6 +63,14 @@ function token_field()
     return '<input type="hidden" name="token" value="' . h($_SESSION['token']) . '">';
 }
 
+// What the module reported, with its code.
+function failure_message($failure)
+{
+    return message('bad', '<p><strong>' . h($failure['message']) . '</strong></p><p>' . h($failure['advice']) . '</p>'
+        . ($failure['code'] == '' ? '' : '<p class="code">Code ' . h($failure['code']) . ', reported at '
+        . h($failure['place']) . '</p>'));
+}
+
 // Begins a form for one kind of change. Who may not change anything sees its fields, but cannot use them.
 function form_begin($page, $change)
 {

@@ -90,6 +90,10 @@ function host_of_request()
 // The headers of every answer. $other_origin is one more that the page may ask for a sign of life.
 function send_headers($other_origin = '')
 {
+    // The policy knows no addresses in brackets.
+    if (strpos($other_origin, '[') !== false) {
+        $other_origin = substr($other_origin, 0, strpos($other_origin, '/'));
+    }
     header('Content-Type: text/html; charset=utf-8');
     header("Content-Security-Policy: default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self';"
         . " connect-src 'self' $other_origin; form-action 'self'; base-uri 'none'; frame-ancestors 'none'");
@@ -122,6 +126,7 @@ function render($template, $values)
 function go_to($page, $message = '')
 {
     if ($message != '') {
+        return_to_session();
         $_SESSION['message'] = $message;
     }
     send_headers();

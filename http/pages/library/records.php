@@ -13,32 +13,49 @@ function trace_size()
     return file_exists(TRACE_LOG) ? filesize(TRACE_LOG) : 0;
 }
 
-// The last lines of the trace log in which the text occurs, oldest first; false when it cannot be read. Lines
-// before the byte $from are left out.
-function trace_lines($text, $from = 0)
+function open_trace_log()
 {
-    $file = is_file(TRACE_LOG) && is_readable(TRACE_LOG) ? fopen(TRACE_LOG, 'rb') : false;
+    return is_file(TRACE_LOG) && is_readable(TRACE_LOG) ? fopen(TRACE_LOG, 'rb') : false;
+}
+
+// The last lines of the trace log in which the text occurs, oldest first; false when it cannot be read.
+function trace_lines($text)
+{
+    $file = open_trace_log();
     if (!$file) {
         return false;
     }
-    $start = max($from, trace_size() - TRACE_BYTES);
+    $start = max(0, trace_size() - TRACE_BYTES);
     fseek($file, $start);
-    if ($start > $from) {
+    if ($start > 0) {
         fgets($file, TRACE_BYTES); // the rest of a line
     }
-    $content = '';
-    while (!feof($file) && strlen($content) < TRACE_BYTES) {
-        $content .= fread($file, 8192);
-    }
-    fclose($file);
-    $lines = $content == '' ? array() : explode("\n", rtrim($content, "\n"));
     $found = array();
-    foreach ($lines as $line) {
+    while (($line = fgets($file, TRACE_BYTES)) !== false) {
         if ($text == '' || strpos(strtolower($line), strtolower($text)) !== false) {
-            $found[] = $line;
+            $found[] = rtrim($line, "\n");
         }
     }
+    fclose($file);
     return array_slice($found, -TRACE_LINES);
+}
+
+// The first lines behind the byte $from that match, oldest first; false when the trace log cannot be read.
+function trace_lines_since($from, $pattern)
+{
+    $file = open_trace_log();
+    if (!$file) {
+        return false;
+    }
+    fseek($file, trace_size() < $from ? 0 : $from); // it is shorter when it was begun anew
+    $found = array();
+    while (count($found) < TRACE_LINES && ($line = fgets($file, TRACE_BYTES)) !== false) {
+        if (preg_match($pattern, $line)) {
+            $found[] = rtrim($line, "\n");
+        }
+    }
+    fclose($file);
+    return $found;
 }
 
 // The newest changes of the management services, newest first: each an array of time, user, operation, values

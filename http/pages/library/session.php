@@ -12,7 +12,7 @@ class Session
     var $role;
 }
 
-// The identifier that has travelled unencrypted is of no use under HTTPS, nor the other way round.
+// Under HTTPS one that browsers let nobody but HTTPS set.
 function cookie_name()
 {
     return is_https() ? '__Host-settings' : 'settings';
@@ -31,6 +31,11 @@ function open_session()
     $id = text_of($_COOKIE, cookie_name());
     start_session(preg_match('/^[A-Za-z0-9,-]{22,128}$/D', $id) ? $id : random_hex(16));
     if (!isset($_SESSION['token'])) {
+        // An identifier that was not given out here is not taken up.
+        if (session_id() == $id) {
+            session_destroy();
+            start_session(random_hex(16));
+        }
         $_SESSION['token'] = random_hex(16);
     }
 }
@@ -40,7 +45,7 @@ function start_session($id)
     ini_set('session.use_cookies', '0');
     ini_set('session.use_strict_mode', '1');
     ini_set('session.gc_probability', '1');
-    ini_set('session.gc_divisor', '100');
+    ini_set('session.gc_divisor', '10');
     ini_set('session.gc_maxlifetime', (string) (2 * IDLE_SECONDS));
     make_private_folders();
     session_cache_limiter('');
@@ -57,7 +62,34 @@ function begin_session_of($user)
 {
     session_destroy();
     start_session(random_hex(16));
-    $_SESSION = array('user' => $user, 'seen' => time(), 'token' => random_hex(16));
+    $accounts = read_accounts();
+    $_SESSION = array('user' => $user, 'account' => md5($accounts[$user]['hash']), 'https' => is_https(), 'seen' => time(),
+        'token' => random_hex(16));
+}
+
+// Whether the session is that of an account which is still there, with the same password. One that has travelled
+// unencrypted is of no use under HTTPS.
+function is_session_of($accounts)
+{
+    if (!isset($_SESSION['user']) || !isset($accounts[$_SESSION['user']])) {
+        return false;
+    }
+    return $_SESSION['account'] == md5($accounts[$_SESSION['user']]['hash']) && $_SESSION['https'] == is_https();
+}
+
+// Lets other requests of this session go on, which wait for one another. What is stored in it later is lost.
+function leave_session()
+{
+    session_write_close();
+    $GLOBALS['session_left'] = true;
+}
+
+function return_to_session()
+{
+    if (!empty($GLOBALS['session_left'])) {
+        session_start();
+        $GLOBALS['session_left'] = false;
+    }
 }
 
 function end_session()
@@ -72,7 +104,7 @@ function signed_in()
 {
     open_session();
     $accounts = read_accounts();
-    if (!isset($_SESSION['user']) || !isset($accounts[$_SESSION['user']])) {
+    if (!is_session_of($accounts)) {
         ask_to_sign_in('');
     }
     if (time() - $_SESSION['seen'] > IDLE_SECONDS) {
@@ -82,7 +114,9 @@ function signed_in()
         }
         ask_to_sign_in('You were signed out after ' . (int) (IDLE_SECONDS / 60) . ' minutes without activity.');
     }
-    if (!is_background()) {
+    if (is_background()) {
+        leave_session();
+    } else {
         $_SESSION['seen'] = time();
     }
     $session = new Session();

@@ -2,11 +2,12 @@
 if (!defined('LIBRARY')) exit;
 $sentences = array(
     'waiting' => 'The appliance is changing its settings.',
-    'applied' => 'The settings are in force.',
-    'failed' => 'Not all settings are in force: the appliance still has the old values that are marked below.'
+    'applied' => $stored_only ? 'The settings are stored. They come into force when IPv6 is switched on.' : 'The settings are in force.',
+    'failed' => 'The appliance did not apply the change.' . (all_as_wanted($rows) ? '' : ' It still has the old values that are marked below.')
 );
 $kinds_of_state = array('waiting' => 'wait', 'applied' => 'good', 'failed' => 'bad');
-$polls = !$over ? ' data-poll="1000" data-parts="outcome values" data-expected="' . (int) $kind['expected']
+$new_address = origin_of($change['to'], '') . '/';
+$polls = $outcome == 'waiting' ? ' data-poll="1000" data-parts="outcome values" data-expected="' . (int) $kind['expected']
     . '" data-other-origin="' . h($moved_to) . '"' : '';
 ?>
 <section class="card" aria-label="The change"<?php echo $polls; ?>>
@@ -53,11 +54,14 @@ $polls = !$over ? ' data-poll="1000" data-parts="outcome values" data-expected="
   <p>If that address does not answer, the change has failed: come back to this one.</p>
 </div></div>
 <?php } ?>
-<?php if ($outcome != 'failed' && $change['to'] != '' && $moved_to == '' && !same_value($change['from'], $change['to'])) { ?>
-<p>From the network, the appliance is then at <a href="<?php echo h(origin_of($change['to'], '')); ?>/"><?php
-  echo h(origin_of($change['to'], '')); ?>/</a>.</p>
+<?php if ($outcome != 'failed' && $change['to'] != '' && $moved_to == '' && !$stored_only
+    && !same_value($change['from'], $change['to'])) { ?>
+<p>From the network, the appliance is then at <a href="<?php echo h($new_address); ?>"><?php echo h($new_address); ?></a>.</p>
 <?php } ?>
+<div role="status">
 <p class="message caution" data-when-lost hidden><?php echo icon('caution'); ?><span>The appliance does not answer at this address
-  at the moment. If it does not come back, it has another one now: the DHCP server, or the network's router, knows
-  which.</span></p>
+  at the moment. <?php if ($moved_to != '') { ?>If the page does not go on by itself, open
+  <a href="<?php echo h($moved_to); ?>/applying.php"><?php echo h($moved_to); ?>/</a>.<?php } else { ?>If it does not come back, it has
+  another one now: the DHCP server, or the network's router, knows which.<?php } ?></span></p>
+</div>
 </section>

@@ -1,7 +1,8 @@
 <?php
 // The frame around what is seen before signing in.
 if (!defined('LIBRARY')) exit;
-$name = get_network_hostname();
+// Not by the module's function: strangers are not to fill the trace log.
+$name = php_uname('n');
 ?>
 <!DOCTYPE html>
 <html lang="en">
@@ -12,9 +13,7 @@ $name = get_network_hostname();
 <main id="content">
   <p class="brand"><?php echo icon('library'); ?><span>Network settings</span></p>
   <h1><?php echo h($name); ?></h1>
-<?php foreach ($GLOBALS['failures'] as $failure) { ?>
-  <?php echo message('bad', '<p><strong>' . h($failure['message']) . '</strong></p><p>' . h($failure['advice']) . '</p>'); ?>
-<?php } ?>
+<?php foreach ($GLOBALS['failures'] as $failure) echo failure_message($failure); ?>
 <?php echo $content; ?>
 </main>
 </body>

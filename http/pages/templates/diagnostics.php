@@ -18,6 +18,8 @@ $same_filter = 'filter=' . urlencode($filter);
       <a class="button<?php if ($live != '1') echo ' scripted'; ?>" href="diagnostics.php?live=0&amp;<?php echo h($same_filter); ?>">Stop following</a>
     <?php } ?>
   </form>
+  <div role="status"><p class="message caution" data-when-lost hidden><?php echo icon('caution'); ?><span>The appliance does not
+    answer at this address at the moment: what you see is not the newest.</span></p></div>
   <div id="log">
 <?php if ($lines === false) { ?>
   <?php echo message('caution', '<p>The trace log cannot be read; there may be none yet.</p>'); ?>

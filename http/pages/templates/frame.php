@@ -7,8 +7,11 @@ if (!is_background() || !isset($_SESSION['name'])) {
     $_SESSION['name'] = get_network_hostname();
 }
 $name = $_SESSION['name'];
-$message = text_of($_SESSION, 'message');
-unset($_SESSION['message']);
+$message = '';
+if (!is_background()) {
+    $message = text_of($_SESSION, 'message');
+    unset($_SESSION['message']);
+}
 $wrong = failed() || !empty($errors);
 $current = isset($part_of) ? $part_of : $page;
 ?>
@@ -39,16 +42,12 @@ $current = isset($part_of) ? $part_of : $page;
     <h1><?php echo h($title); ?></h1>
     <?php if (isset($lead)) { ?><p class="lead"><?php echo h($lead); ?></p><?php } ?>
   </div>
-  <div id="messages" role="status"<?php if ($wrong) echo ' tabindex="-1" data-focus'; ?>>
+  <div id="messages" role="status"<?php if ($wrong || $message != '') echo ' tabindex="-1" data-focus'; ?>>
     <?php if ($message != '') echo message('good', '<p>' . h($message) . '</p>'); ?>
     <?php if (!empty($errors)) { ?>
       <?php echo message('bad', '<p><strong>Nothing was changed.</strong> Correct what is marked and save again.</p>'); ?>
     <?php } ?>
-    <?php foreach ($GLOBALS['failures'] as $failure) { ?>
-      <?php echo message('bad', '<p><strong>' . h($failure['message']) . '</strong></p><p>' . h($failure['advice']) . '</p>'
-        . ($failure['code'] == '' ? '' : '<p class="code">Code ' . h($failure['code']) . ', reported at '
-        . h($failure['place']) . '</p>')); ?>
-    <?php } ?>
+    <?php foreach ($GLOBALS['failures'] as $failure) echo failure_message($failure); ?>
   </div>
 <?php echo $content; ?>
 </main>

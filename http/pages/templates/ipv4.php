@@ -33,6 +33,6 @@ it is then at <span class="address" data-address-from="ip"><?php echo is_https()
 where you sign in again.</p>
 <p class="note when-dhcp">The change begins after three seconds. When the server gives another address than the present one, this
 page loses its connection; the server's list of leases then shows the new address beside the name <?php
-  echo h($settings->hostname); ?>.</p>
+  echo h($name); ?>.</p>
 <?php echo form_end('Apply'); ?>
 </section>

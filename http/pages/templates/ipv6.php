@@ -56,7 +56,8 @@ echo text_field('prefix', 'Prefix length', $typed['prefix'], $errors, '', 'input
 echo text_field('gateway', 'Gateway', $typed['gateway'], $errors, 'The router of the network; its link-local address (fe80…) will do.');
 ?>
 </div>
-<p class="note">The change begins at once. A page that was opened under the static address loses its connection when that
+<p class="note"><?php echo $enabled ? 'The change begins at once.'
+    : 'IPv6 is off: the address is stored, and comes into force when IPv6 is switched on.'; ?> A page that was opened under the static address loses its connection when that
 address changes or goes.</p>
 <?php echo form_end('Apply'); ?>
 </section>
