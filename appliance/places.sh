@@ -8,7 +8,7 @@ CORE_SERVICE=$LIBRARY/CoreService
 WEB_SERVER=$LIBRARY/HTTPService/lighttpd
 IN_PLACE=$APP_MANAGER/dat/in-place # tells the device scripts to leave the interfaces alone
 APP_RUN=/run/appmanager
-WEB_RUN=/run/lighttpd
+WEB_RUN=$APP_RUN/web
 COMMAND_WRAPPER=/usr/bin/cmdwrap
 MODULE_FILES=(network.so libTarn.so libVelm.so libdovan_util.so)
 MODULE_CONFIGURATION=50-network.ini # in the folders that the interpreters read settings from
@@ -29,7 +29,9 @@ install_program() {
   install -D -m 755 "$build/cmdwrap" "$root$COMMAND_WRAPPER" &&
     install -D -m 644 -t "$root$PHP_EXTENSION_DIR" "${MODULE_FILES[@]/#/$build/}" || return
   for directory in "${PHP_CONFIGURATION_DIRS[@]}"; do
-    mkdir -p "$root$directory" && echo 'extension=network.so' >"$root$directory/$MODULE_CONFIGURATION" || return
+    mkdir -p "$root$directory" &&
+      printf '%s\n' 'extension=network.so' '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
+        >"$root$directory/$MODULE_CONFIGURATION" || return
   done
   mkdir -p "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat} "$root$WEB_SERVER"/{conf/extra,htdocs,logs} &&
     install -m 755 -t "$root$APP_MANAGER/bin" "$source"/appliance/scripts/* &&

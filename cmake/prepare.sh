@@ -4,6 +4,9 @@
 #   prepare CHECKOUT    returns 1 after it has said why on standard error; what was built is in
 #                       CHECKOUT/build
 
+# A plain user's has no place for what manages networks and runs services.
+PATH=$PATH:/usr/sbin:/sbin
+
 prepare() {
   local checkout=$1
   mkdir -p "$checkout/build" || return

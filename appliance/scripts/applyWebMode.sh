@@ -13,7 +13,7 @@ MODE=$CONFIGURATION/mode.conf
 KEY=$CONFIGURATION/key.pem
 CERTIFICATE=$CONFIGURATION/certificate.pem
 CERTIFICATE_NAMES=$CONFIGURATION/certificate.names
-WEB_SERVER_PROCESS=/run/lighttpd/lighttpd.pid
+WEB_SERVER_PROCESS=$RUN/web/lighttpd.pid
 DAYS_VALID=825
 RENEWED_BEFORE=2592000 # seconds before its end
 

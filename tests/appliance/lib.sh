@@ -52,19 +52,19 @@ refused() {
 }
 
 # start OPTION...: starts an appliance in the background as $launcher, and returns when it has said where it
-# is, which is then in $url. Its processes carry the mark $mark in their environment.
+# is, which is then in $url; what it has said before is in $greeting. Its processes carry the mark $mark in their environment.
 start() {
   local line said
   mark=TEST_MARK=$BASHPID.$SRANDOM
-  url=''
+  url='' greeting=''
   # A job in the background would ignore interrupts, a test run without a terminal the end of that.
   exec {said}< <(exec env --default-signal=INT,HUP "$mark" "$CHECKOUT/appliance/launch" --build "$BUILD" "$@" 2>&1)
   launcher=$!
   while [[ -z $url ]] && read -r -t 60 line <&"$said"; do
-    if [[ $line =~ http://[0-9.:]+/ ]]; then url=${BASH_REMATCH[0]}; else echo "    $line"; fi
+    if [[ $line =~ http://[0-9.:]+/ ]]; then url=${BASH_REMATCH[0]}; else greeting+=$line$'\n'; fi
   done
   exec {said}<&-
-  [[ -n $url ]] || not_ok "an appliance starts with $*"
+  [[ -n $url ]] || not_ok "an appliance starts with $*" "$greeting"
 }
 
 processes_of() { grep -lzxF "$1" /proc/[0-9]*/environ 2>/dev/null | cut -d/ -f3; }

@@ -3,6 +3,7 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
+const http = require('node:http');
 const {addresses, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until, withScript} = require('./appliance.cjs');
 const {base, enterPassword, messages, open, press, signIn, test} = require('./browser.cjs');
 
@@ -103,6 +104,56 @@ test('A change that fails: the old values are marked, and the trace log says why
   assert.equal(await page.inputValue('#ip'), now);
 });
 
+// The setting is there before it is in force: stored by the first line, the script goes on for some seconds.
+const stored = 'SETTING=/home/embedded/library/AppManager/dat/ipv4; cp "$SETTING" "$SETTING.before"; printf "static %s\\n" "$3" >"$SETTING"; sleep 3;';
+
+test('What only reads as wanted is not yet applied, and a change that fails at its end is none', {user: 'admin'}, async (page) => {
+  const slow = `${stored} mv "$SETTING.before" "$SETTING"; exit 1`;
+  await withScript('ipv4Manager.sh', `case "$*" in "-c -s "*) ${slow} ;; *) exec sh "$ORIGINAL" "$@" ;; esac`, async () => {
+    await fillStatic(page, ipv4Address(), '10.20.0.2');
+    await press(page, 'Apply');
+    await until(async () => (await rows(page))[3] === 'Gateway|10.20.0.2|10.20.0.2|As wanted', 'the stored gateway');
+    assert.equal(await page.innerText('h1'), 'Applying');
+    await page.waitForSelector('h1:text-is("Not applied")', {timeout: 20000});
+  });
+  assert.equal((await rows(page))[3], 'Gateway|10.20.0.2|10.20.0.1|Old value');
+  const why = await page.innerText('pre');
+  // Whoever reads settings meanwhile: what was said about this change stays.
+  php('for ($i = 0; $i < 200; $i++) get_fw_settings($session);');
+  await page.reload();
+  assert.equal(await page.innerText('h1'), 'Not applied');
+  assert.equal(await page.innerText('pre'), why);
+});
+
+test('The page goes to the new address also when the old one answers for some time', {user: 'admin'}, async (page) => {
+  const slow = `${stored} exec sh "$ORIGINAL" "$@"`;
+  await withScript('ipv4Manager.sh', `case "$*" in "-c -s "*) ${slow} ;; *) exec sh "$ORIGINAL" "$@" ;; esac`, async () => {
+    await fillStatic(page, '10.20.0.9');
+    await press(page, 'Apply');
+    await page.waitForURL('http://10.20.0.9/applying.php', {timeout: 30000});
+  });
+  await setStatic('10.20.0.8');
+});
+
+test('Under a name the page offers the new address, unless another machine publishes it', {user: 'admin'}, async (page, context) => {
+  await fillStatic(page, '10.20.0.9');
+  const [{name, value}] = await context.cookies();
+  await withScript('ipv4Manager.sh', 'case "$*" in "-c -s "*) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await press(page, 'Apply');
+    const offered = (host) => new Promise((resolve) => {
+      http.get(`${base()}applying.php`, {headers: {cookie: `${name}=${value}`, host}}, (answer) => {
+        let body = '';
+        answer.on('data', (data) => { body += data; });
+        answer.on('end', () => resolve(body.match(/data-other-origin="([^"]*)"/)[1]));
+      });
+    });
+    assert.equal(await offered('library.example'), 'http://10.20.0.9');
+    assert.equal(await offered('localhost:8080'), '');
+    assert.equal(await offered('127.0.0.1'), '');
+    await ipv4ChangesOver();
+  });
+});
+
 test('A change that nobody writes down as failed is given up after its time', {user: 'admin'}, async (page) => {
   await withScript('ipv4Manager.sh', 'case "$*" in "-c -s "*) exit 0 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
     await fillStatic(page, '10.20.0.9');
@@ -165,6 +216,35 @@ test('A static IPv6 address that the appliance refuses', {user: 'admin'}, async 
   });
   assert.match(await page.innerText('pre'), /Failed to enable static IPv6 address: :<\d+>/);
   php('set_ipv6_enabled($session, false);');
+});
+
+test('From one static IPv6 address to another: the page follows', {}, async (page) => {
+  php('set_ipv6_enabled($session, true);');
+  ask('ipv6Manager.sh', '-c', '-s', '2001:db8:20::7/64?2001:db8:20::1');
+  await until(() => addresses('inet6').includes('2001:db8:20::7/64'), 'the address 2001:db8:20::7');
+  await page.goto('http://[2001:db8:20::7]/ipv6.php');
+  await enterPassword(page);
+  await page.fill('#ipStatic', '2001:db8:20::8');
+  await press(page, 'Apply');
+  await page.waitForURL('http://[2001:db8:20::8]/applying.php', {timeout: 30000});
+  await enterPassword(page);
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  assert.equal((await rows(page))[4], 'In use|Yes|Yes|As wanted');
+  ask('ipv6Manager.sh', '-r');
+  php('set_ipv6_enabled($session, false);');
+});
+
+test('A static IPv6 address while IPv6 is off is stored, and said to be no more than that', {user: 'admin'}, async (page) => {
+  await open(page, 'ipv6.php');
+  await page.check('#static');
+  assert.match(await page.innerText('[aria-labelledby=static-address] .note'), /IPv6 is off: the address is stored/);
+  await page.fill('#ipStatic', '2001:db8:20::7');
+  await page.fill('#gateway', '2001:db8:20::1');
+  await press(page, 'Apply');
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  assert.match(await page.innerText('#outcome'), /They come into force when IPv6 is switched on/);
+  assert.equal(await page.locator('main a[href*="2001"]').count(), 0);
+  ask('ipv6Manager.sh', '-r');
 });
 
 test('Nothing under way: the page says so', {user: 'monitor'}, async (page) => {

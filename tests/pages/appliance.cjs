@@ -66,7 +66,8 @@ function ipv4ChangesOver() {
 
 // Puts another script in the place of a device script while the work is done; $ORIGINAL is that script.
 async function withScript(name, text, work) {
-  const path = `${library}/AppManager/bin/${name}`;
+  // One of them lies elsewhere.
+  const path = [`${library}/AppManager/bin/${name}`, `${library}/${name}`].find((place) => fs.existsSync(place));
   const original = fs.readFileSync(path);
   fs.writeFileSync(`${path}.original.sh`, original, {mode: 0o755});
   fs.writeFileSync(path, `#!/bin/sh\nORIGINAL=${path}.original.sh\n${text}\n`);

@@ -112,6 +112,7 @@ test('DNS servers that cannot be', {user: 'admin'}, async (page) => {
     [{dnsPrimary: '10.20.0.1', dnsSecondary: '1::2::3'}, {dnsSecondary: /IPv4 or IPv6 address/}],
     [{dnsPrimary: '', dnsSecondary: '10.20.0.1'}, {dnsPrimary: /only server here/}],
     [{dnsPrimary: '10.20.0.1" x', dnsSecondary: ''}, {dnsPrimary: /IPv4 or IPv6 address/}],
+    [{dnsPrimary: '127.0.0.1', dnsSecondary: '::1'}, {dnsPrimary: /No other device/, dnsSecondary: /No other device/}],
   ]);
   await page.fill('#dnsPrimary', '192.168.250.5');
   await page.fill('#dnsSecondary', '');
@@ -339,6 +340,8 @@ test('Trap receivers that cannot be', {user: 'admin'}, async (page) => {
   await refused(page, 'Add', 'main', [
     [{ip: '', port: ''}, {ip: /IPv4 or IPv6/, port: /1 to 65535/}],
     [{ip: 'manager.example', port: '162'}, {ip: /IPv4 or IPv6/}],
+    [{ip: '0.0.0.0', port: '162'}, {ip: /No other device/}],
+    [{ip: 'ff02::1', port: '162'}, {ip: /No other device/}],
     [{ip: '10.20.0.1', port: '0'}, {port: /1 to 65535/}],
     [{ip: '10.20.0.1', port: '65536'}, {port: /1 to 65535/}],
     [{ip: '10.20.0.1', port: '-1'}, {port: /1 to 65535/}],
@@ -360,6 +363,23 @@ test('The twenty-first trap receiver is refused', {user: 'admin'}, async (page) 
   assert.match(await messages(page), /Could not create trap registration\n+The receiver was not added\. There can be 20/);
   assert.equal(await page.inputValue('#ip'), '10.20.0.21');
   php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
+});
+
+test('While receivers are tested the session is served all the same', {user: 'admin'}, async (page, context) => {
+  php('create_snmp_trap_reg($session, 1, "10.20.0.1", "162");');
+  await withScript('testTrapRegistration.sh', ': >/run/test.begun; until [ -e /run/test.end ]; do sleep 0.1; done', async () => {
+    await open(page, 'traps.php');
+    const tested = press(page, 'Send a test trap');
+    await until(() => fs.existsSync('/run/test.begun'), 'the test');
+    const other = await context.newPage();
+    await other.goto(new URL('dns.php', page.url()).href);
+    assert.equal(await other.innerText('h1'), 'DNS');
+    await other.close();
+    fs.writeFileSync('/run/test.end', '');
+    await tested;
+    assert.match(await messages(page), /^A test trap was sent to every receiver/);
+  });
+  php('delete_snmp_trap_reg($session, get_snmp_trap_regs($session)[0]->id);');
 });
 
 test('A receiver that cannot be sent to is reported', {user: 'admin'}, async (page) => {
@@ -458,6 +478,10 @@ test('Static IPv6 settings that cannot be', {user: 'admin'}, async (page) => {
     [{...good, ipStatic: '2001:db8::g'}, {ipStatic: /Enter an IPv6/}],
     [{...good, ipStatic: 'ff02::1'}, {ipStatic: /cannot have/}],
     [{...good, ipStatic: '::1'}, {ipStatic: /cannot have/}],
+    [{...good, ipStatic: '::ffff:10.20.0.7'}, {ipStatic: /cannot have/}],
+    [{...good, ipStatic: 'fe80::7'}, {ipStatic: /link-local address of its own/}],
+    [{...good, prefix: '064'}, {prefix: /1 to 128/}],
+    [{...good, gateway: 'ff02::1'}, {gateway: /router/}],
     [{...good, prefix: '0'}, {prefix: /1 to 128/}],
     [{...good, prefix: '129'}, {prefix: /1 to 128/}],
     [{...good, gateway: '2001:db8:21::1'}, {gateway: /same first 64 bits/}],

@@ -139,7 +139,12 @@ test('The keyboard alone is enough', {}, async (page) => {
   await page.keyboard.type('10.20.0.1');
   await page.keyboard.press('Enter');
   await page.waitForSelector('text=The DNS servers are set.');
-  assert.notEqual(await page.evaluate(() => getComputedStyle(document.querySelector(':focus-visible') ?? document.body).outlineStyle), 'auto');
+  await page.keyboard.press('Tab');
+  const ring = await page.evaluate(() => {
+    const {outlineStyle, outlineWidth} = getComputedStyle(document.querySelector(':focus-visible'));
+    return `${outlineStyle} ${outlineWidth}`;
+  });
+  assert.match(ring, /^solid [2-9]px$/);
   php('class Off { var $dnsPrimary = ""; var $dnsSecondary = ""; } set_network_dns($session, new Off());');
 });
 
@@ -165,6 +170,18 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
     await press(page, 'Save', '[aria-labelledby=switch]');
     assert.ok((await messages(page)).startsWith(mode), mode);
   }
+  await press(page, 'Save', '[aria-labelledby=sources]');
+  assert.match(await messages(page), /^The sources of addresses are set/);
+  await page.check('#static');
+  await page.fill('#ipStatic', '2001:db8:20::7');
+  await page.fill('#gateway', '2001:db8:20::1');
+  await press(page, 'Apply');
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  assert.match(await page.innerText('#outcome'), /^The settings are stored\. They come into force when IPv6 is switched on\./);
+  await open(page, 'ipv6.php');
+  await page.uncheck('#static');
+  await press(page, 'Apply');
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
   await open(page, 'port.php');
   await press(page, 'Save');
   assert.equal(await messages(page), 'The Ethernet port is set.');
@@ -174,6 +191,8 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
   await open(page, 'traps.php');
   await page.fill('#ip', '10.20.0.9');
   await press(page, 'Add');
+  await press(page, 'Send a test trap');
+  assert.match(await messages(page), /^A test trap was sent/);
   await page.click('main summary');
   await press(page, 'Delete 10.20.0.9');
   assert.equal(await messages(page), 'The receiver 10.20.0.9 is deleted.');

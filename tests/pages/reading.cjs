@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {ask, inAppliance, ipv4Address, php, traceLog, web, withScript} = require('./appliance.cjs');
-const {beside, messages, open, test} = require('./browser.cjs');
+const {beside, errorOf, messages, open, pages, press, test} = require('./browser.cjs');
 
 test('The overview', {user: 'admin'}, async (page) => {
   assert.equal(await page.innerText('.value >> nth=0'), ipv4Address());
@@ -83,6 +83,23 @@ test('A trace log that cannot be read is said, and is no fault', {user: 'admin'}
     fs.rmdirSync(`${web}/logs/php_extension.log`);
     fs.renameSync(`${web}/logs/away.log`, `${web}/logs/php_extension.log`);
   }
+});
+
+test('With no device script working every page still says what is wrong, with message and code', {user: 'admin'}, async (page) => {
+  await withScript('ipv4Manager.sh', 'exit 1', () => withScript('ipv6Manager.sh', 'exit 1', async () => {
+    for (const name of pages) {
+      await open(page, name);
+      assert.doesNotMatch(await page.content(), /This page has a fault|Warning:|htdocs/, name);
+      const wrong = await page.locator('#messages .message.bad').allInnerTexts();
+      for (const message of wrong) assert.match(message, /\nCode 0x[0-9A-F]{8}, reported at /, name);
+      if (['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php'].includes(name)) assert.ok(wrong.length > 0, name);
+    }
+    await open(page, 'ipv4.php');
+    await page.fill('#ip', '10.20.0.7').catch(() => {});
+    await page.check('#mode-dhcp');
+    await press(page, 'Apply');
+    assert.match(await errorOf(page, 'mode'), /^The host name cannot be read/);
+  }));
 });
 
 test('A setting that cannot be read is reported with message and code, never as the interpreter prints it', {user: 'admin'},

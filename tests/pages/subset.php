@@ -9,7 +9,7 @@ $old = array('array_fill', 'array_merge', 'array_slice', 'basename', 'bin2hex', 
     'dechex', 'define', 'defined', 'dirname', 'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof',
     'fflush', 'fgets', 'file', 'file_exists', 'filemtime', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftruncate', 'function_exists',
     'fwrite', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string',
-    'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'php_uname', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
+    'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
     'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start', 'session_write_close',
     'set_error_handler', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
     'trim', 'ucfirst', 'umask', 'unserialize', 'urlencode');
@@ -17,10 +17,11 @@ $old = array('array_fill', 'array_merge', 'array_slice', 'basename', 'bin2hex', 
 $guarded = array('get_magic_quotes_gpc', 'password_hash');
 
 // Words and signs of the language that came later.
-$late = array(T_ABSTRACT, T_CATCH, T_CLASS_C, T_CLONE, T_COALESCE, T_COALESCE_EQUAL, T_CONST, T_DIR, T_ELLIPSIS, T_FINAL,
-    T_FINALLY, T_FN, T_GOTO, T_IMPLEMENTS, T_INSTANCEOF, T_INTERFACE, T_MATCH, T_NAMESPACE, T_NS_SEPARATOR,
-    T_NULLSAFE_OBJECT_OPERATOR, T_OPEN_TAG_WITH_ECHO, T_PAAMAYIM_NEKUDOTAYIM, T_POW, T_PRIVATE, T_PROTECTED, T_PUBLIC,
-    T_SPACESHIP, T_STATIC, T_THROW, T_TRAIT, T_TRY, T_YIELD);
+$late = array(T_ABSTRACT, T_ATTRIBUTE, T_CATCH, T_CLASS_C, T_CLONE, T_COALESCE, T_COALESCE_EQUAL, T_CONST, T_DIR, T_ELLIPSIS,
+    T_ENUM, T_FINAL, T_FINALLY, T_FN, T_GOTO, T_IMPLEMENTS, T_INSTANCEOF, T_INTERFACE, T_MATCH, T_NAME_FULLY_QUALIFIED,
+    T_NAME_QUALIFIED, T_NAME_RELATIVE, T_NAMESPACE, T_NS_SEPARATOR, T_NULLSAFE_OBJECT_OPERATOR, T_OPEN_TAG_WITH_ECHO,
+    T_PAAMAYIM_NEKUDOTAYIM, T_POW, T_POW_EQUAL, T_PRIVATE, T_PROTECTED, T_PUBLIC, T_READONLY, T_SPACESHIP, T_STATIC, T_THROW,
+    T_TRAIT, T_TRY, T_USE, T_YIELD, T_YIELD_FROM);
 
 list(, $folder, $stub) = $argv;
 $declared = functions_of(file_get_contents($stub));
@@ -70,10 +71,33 @@ function functions_of($code)
 function check($file, $tokens)
 {
     $guards = array();
+    $openers = array(); // what stands before each parenthesis that is open
     foreach ($tokens as $i => $token) {
         list($number, $text, $line) = $token;
         $before = $i > 0 ? $tokens[$i - 1] : array(0, '', 0);
         $after = isset($tokens[$i + 1]) ? $tokens[$i + 1] : array(0, '', 0);
+        if ($text == '(') {
+            $openers[] = $before[0];
+        } elseif ($text == ')') {
+            array_pop($openers);
+        }
+        if ($text == ',' && $after[1] == ')' && end($openers) != T_ARRAY) {
+            report($file, $line, 'a comma before the closing parenthesis');
+        } elseif ($number == T_STRING && $after[1] == ':' && in_array($before[1], array('(', ','))) {
+            report($file, $line, 'an argument by its name');
+        } elseif ($number == T_STRING && $after[1] == '(' && $before[1] == '(' && in_array(end($openers), array(T_EMPTY, T_ISSET))) {
+            report($file, $line, 'empty() or isset() of what a function returns');
+        } elseif ($number == T_DOUBLE_ARROW && end($openers) == T_LIST) {
+            report($file, $line, 'keys in list()');
+        } elseif ($number == T_START_HEREDOC && strpos($text, "'") !== false) {
+            report($file, $line, 'a nowdoc text');
+        } elseif (in_array($number, array(T_LNUMBER, T_DNUMBER)) && preg_match('/_|^0[bo]/i', $text)) {
+            report($file, $line, "the number $text");
+        } elseif ($number == T_VARIABLE && $after[1] == '{') {
+            report($file, $line, 'an index in braces, which today\'s no longer knows');
+        } elseif ($number == T_FUNCTION && in_array($after[1], array('__construct', '__destruct'))) {
+            report($file, $line, $after[1] . '(), which 4.3 does not call');
+        }
         if (in_array($number, $GLOBALS['late'])) {
             report($file, $line, "\"$text\" is not known to 4.3");
         } elseif ($number == T_FUNCTION) {

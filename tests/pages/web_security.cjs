@@ -2,8 +2,9 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const {ipv4Address, php, until, withScript} = require('./appliance.cjs');
-const {certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
+const fs = require('node:fs');
+const {ipv4Address, library, php, until, withScript} = require('./appliance.cjs');
+const {base, certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
 
 test('HTTPS is switched on: the page comes back encrypted, with a cookie of its own', {user: 'admin'}, async (page, context) => {
   await open(page, 'security.php');
@@ -24,6 +25,21 @@ test('HTTPS is switched on: the page comes back encrypted, with a cookie of its 
   assert.ok(own.secure && own.httpOnly && own.sameSite === 'Strict');
   const before = cookies.find(({name}) => name === 'settings');
   assert.ok(!before || before.value !== own.value, 'what has travelled unencrypted is not used again');
+});
+
+test('A session that has travelled unencrypted is of no use under HTTPS, whatever the cookie is called', {}, async (page, context) => {
+  await served('https');
+  await signIn(page, 'admin', 'index.php', 'https');
+  const [{name, value}] = await context.cookies();
+  const asks = async (address, cookie) => {
+    const answer = await context.request.get(address, {headers: {cookie}});
+    return /action="signin\.php"/.test(await answer.text());
+  };
+  assert.equal(await asks(`${base('https')}dns.php`, `${name}=${value}`), false);
+  // As if it had been made before HTTPS was switched on.
+  const file = `${library}/HTTPService/dat/sessions/sess_${value}`;
+  fs.writeFileSync(file, fs.readFileSync(file, 'utf8').replace('https|b:1;', 'https|b:0;'));
+  assert.equal(await asks(`${base('https')}dns.php`, `${name}=${value}`), true);
 });
 
 test('A host name that changes gets a certificate of its own', {}, async (page) => {

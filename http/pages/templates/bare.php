@@ -1,8 +1,7 @@
 <?php
 // The frame around what is seen before signing in.
 if (!defined('LIBRARY')) exit;
-// Not by the module's function: strangers are not to fill the trace log.
-$name = php_uname('n');
+$name = get_network_hostname();
 ?>
 <!DOCTYPE html>
 <html lang="en">
