@@ -10,6 +10,8 @@ const screens = {wide: {width: 1280, height: 900}, narrow: {width: 360, height: 
 
 async function judge(page, name) {
   assert.deepEqual(await accessibilityFaults(page), [], name);
+  const bare = await page.locator('.state').evaluateAll((all) => all.filter((state) => !state.querySelector('svg') || !state.innerText.trim()).length);
+  assert.equal(bare, 0, `${name} tells a state by its colour alone`);
   const over = await page.evaluate(() => document.documentElement.scrollWidth - innerWidth);
   assert.ok(over <= 0, `${name} is ${over} pixels too wide`);
 }

@@ -1,5 +1,4 @@
-// The pictures of doc/pictures, taken anew: ./run --exec tests/pages/in_appliance FOLDER pictures.cjs, where
-// FOLDER is build/tests/pages as an absolute path.
+// The pictures of doc/pictures, taken anew: tests/pages/run pictures.cjs
 'use strict';
 
 const path = require('node:path');
