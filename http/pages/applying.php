@@ -8,21 +8,22 @@ if (!$change) {
     go_to('index.php', 'No change is under way.');
 }
 $kind = $kinds[$change['kind']];
-$seconds = max(0, time() - $change['began']);
+$seconds = seconds_since($change);
 $now = values_now($session, $change['kind']);
 $rows = compare_values($change, $now);
-$outcome = outcome_of($change, $rows, $seconds);
-if ($outcome != $change['outcome']) {
+$outcome = outcome_of($change, $rows);
+if ($change['outcome'] == 'waiting' && ($outcome == 'applied' || $outcome == 'failed')) {
     $change['lines'] = lines_about($change);
     $change['outcome'] = $outcome;
-    keep_applying($session, $change);
+    keep_outcome($session, $change);
 }
 $moved_to = moved_to($change);
-$titles = array('waiting' => 'Applying', 'applied' => 'Applied', 'failed' => 'Not applied');
-$values = array('title' => $titles[$outcome], 'part_of' => $kind['page'], 'kind' => $kind, 'rows' => $rows,
-    'outcome' => $outcome, 'change' => $change, 'moved_to' => $moved_to, 'other_origin' => $moved_to,
-    'percent' => (int) min(95, 100 * $seconds / $kind['expected']), 'lines' => lines_about($change),
-    'stored_only' => isset($now['enabled']) && !$now['enabled']);
+$titles = array('waiting' => 'Applying', 'applied' => 'Applied', 'failed' => 'Not applied', 'late' => 'Not applied');
+$stored_only = isset($now['enabled']) && !$now['enabled'];
+$values = array('title' => $titles[$outcome], 'part_of' => $kind['page'], 'kind' => $kind, 'rows' => $rows, 'stored_only' => $stored_only,
+    'outcome' => $outcome, 'sentence' => outcome_sentence($change, $outcome, $rows, $stored_only), 'change' => $change,
+    'moved_to' => $moved_to, 'other_origin' => $moved_to, 'percent' => (int) min(95, 100 * $seconds / $kind['expected']),
+    'lines' => lines_about($change), 'polls' => $change['outcome'] == 'waiting' && $seconds < 10 * $kind['limit']);
 if ($outcome == 'waiting') {
     // Without scripts nothing but going there shows whether the new address answers.
     $values['refresh'] = $moved_to == '' ? array(2, 'applying.php?background=1')

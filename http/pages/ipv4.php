@@ -80,7 +80,7 @@ function begin_ipv4($session, $settings, $wanted)
         $values = array('mode' => 'Static', 'ip' => $wanted->ip, 'netmask' => $wanted->netmask,
             'gateway' => $wanted->gateway);
     }
-    $change = new_change('ipv4', $values, $settings->ip, $wanted->dhcpEnabled !== null ? '' : $wanted->ip);
+    $change = new_change($session, 'ipv4', $values, $settings->ip, $wanted->dhcpEnabled !== null ? '' : $wanted->ip);
     begin_change();
     set_network_configuration_ipv4($session, $wanted);
     if (!change_failed()) {

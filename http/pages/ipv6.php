@@ -86,7 +86,7 @@ function begin_ipv6($session, $settings, $typed)
         $wanted->gateway = $settings->gateway;
         $values = array('mode' => 'Off');
     }
-    $change = new_change('ipv6', $values, $settings->ipStatic, $typed['static'] ? $typed['ipStatic'] : '');
+    $change = new_change($session, 'ipv6', $values, $settings->ipStatic, $typed['static'] ? $typed['ipStatic'] : '');
     begin_change();
     set_network_configuration_ipv6($session, $wanted);
     if (!change_failed()) {

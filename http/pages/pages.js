@@ -133,9 +133,11 @@ if (filter) {
     address.searchParams.set('filter', filter.value);
     history.replaceState(null, '', address);
     for (const link of filter.form.querySelectorAll('a')) link.search = withFilter(link.search);
+    const asked = location.href;
     const page = await fetchPage();
-    const log = page && page.getElementById('log');
-    if (!log) return location.reload();
+    if (!page || location.href !== asked) return undefined;
+    const log = page.getElementById('log');
+    if (!log) return location.reload(); // signed out
     replace(document.getElementById('log'), log);
     showEnd();
   };

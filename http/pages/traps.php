@@ -34,13 +34,9 @@ function test_receivers($session)
 
 function delete_receiver($session, $id)
 {
-    begin_change();
     $receiver = find_receiver(get_snmp_trap_regs($session), $id);
-    if (change_failed()) {
-        return; // the list cannot be read
-    }
     if (!$receiver) {
-        go_to('traps.php', 'This receiver was deleted already.');
+        go_to('traps.php', 'This receiver is not in the list any more.');
     }
     delete_snmp_trap_reg($session, $id);
     if (find_receiver(get_snmp_trap_regs($session), $id)) {

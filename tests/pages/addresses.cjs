@@ -20,6 +20,15 @@ function rows(page) {
     [...row.cells].map((cell) => cell.innerText.trim()).join('|')));
 }
 
+// Lets the change that was begun be so old that it should have come to its end.
+function timeIsOver() {
+  const [kept] = fs.readdirSync('/home/embedded/library/HTTPService/dat').filter((name) => name.startsWith('applying.'));
+  const path = `/home/embedded/library/HTTPService/dat/${kept}`;
+  const change = fs.readFileSync(path, 'utf8');
+  const [, began] = change.match(/"began";i:(\d+);/);
+  fs.writeFileSync(path, change.replace(began, String(began - 45)));
+}
+
 // As without a page: for the state a test begins with.
 async function setStatic(ip) {
   ask('ipv4Manager.sh', '-c', '-s', `${ip}?255.255.255.0?10.20.0.1`);
@@ -158,14 +167,29 @@ test('A change that nobody writes down as failed is given up after its time', {u
   await withScript('ipv4Manager.sh', 'case "$*" in "-c -s "*) exit 0 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
     await fillStatic(page, '10.20.0.9');
     await press(page, 'Apply');
-    const [kept] = fs.readdirSync('/home/embedded/library/HTTPService/dat').filter((name) => name.startsWith('applying.'));
-    const path = `/home/embedded/library/HTTPService/dat/${kept}`;
-    const change = fs.readFileSync(path, 'utf8');
-    const [, began] = change.match(/"began";i:(\d+);/);
-    fs.writeFileSync(path, change.replace(began, String(began - 45)));
+    timeIsOver();
     await page.waitForSelector('h1:text-is("Not applied")');
+    assert.match(await page.innerText('#outcome'), /^Not everything is as wanted, although the time for it is over\./);
+    assert.equal((await rows(page))[1], `Address|10.20.0.9|${ipv4Address()}|Not as wanted`);
     assert.doesNotMatch(await page.innerText('pre'), /Could not/);
     await ipv4ChangesOver();
+  });
+});
+
+test('A DHCP server that answers late is waited for, and one that does is enough', {user: 'admin'}, async (page) => {
+  const unknown = 'echo "0.0.0.0?0.0.0.0?0.0.0.0"; exit 0';
+  await withScript('ipv4Manager.sh', `case "$*" in "-c -d on") exit 0 ;; "-d status") if [ -e /run/no.server ]; then ${unknown}; fi; echo "10.20.0.140?255.255.255.0?10.20.0.1" ;; *) exec sh "$ORIGINAL" "$@" ;; esac`, async () => {
+    fs.writeFileSync('/run/no.server', '');
+    await open(page, 'ipv4.php');
+    await page.check('#mode-dhcp');
+    await press(page, 'Apply');
+    timeIsOver();
+    await page.waitForSelector('h1:text-is("Not applied")');
+    assert.match(await page.innerText('#outcome'), /^No DHCP server has answered yet\. The appliance goes on asking\./);
+    assert.deepEqual((await rows(page))[1], 'Address|From the DHCP server|None|Not as wanted');
+    await ipv4ChangesOver();
+    fs.unlinkSync('/run/no.server');
+    await page.waitForSelector('h1:text-is("Applied")');
   });
 });
 

@@ -300,7 +300,7 @@ function receivers() {
 
 test('A trap receiver is added, tested and deleted', {user: 'admin'}, async (page) => {
   await open(page, 'traps.php');
-  assert.match(await page.innerText('main'), /There are none yet/);
+  assert.match(await page.innerText('main'), /There are none, so/);
   await page.fill('#ip', '10.20.0.1');
   await page.fill('#port', '16200');
   await press(page, 'Add');
@@ -332,7 +332,7 @@ test('A receiver that somebody else has deleted meanwhile', {user: 'admin'}, asy
   php('delete_snmp_trap_reg($session, get_snmp_trap_regs($session)[0]->id);');
   await page.click('summary:has-text("10.20.0.9")');
   await press(page, 'Delete 10.20.0.9');
-  assert.equal(await messages(page), 'This receiver was deleted already.');
+  assert.equal(await messages(page), 'This receiver is not in the list any more.');
 });
 
 test('Trap receivers that cannot be', {user: 'admin'}, async (page) => {

@@ -106,6 +106,15 @@ test('A sign-in that was not sent by the form of its own session is refused', {}
   assert.equal(await asksToSignIn(page), '');
 });
 
+test('Who follows a link from elsewhere stays signed in', {}, async (page) => {
+  await signIn(page);
+  const address = `${base()}dns.php`;
+  await page.goto('about:blank');
+  await page.setContent(`<a href="${address}">DNS</a>`);
+  await page.click('a');
+  await page.waitForSelector('h1:text-is("DNS")');
+});
+
 test('Another site cannot sign anybody out', {}, async (page, context) => {
   await signIn(page);
   const {name, value} = await cookie(context);
@@ -157,7 +166,7 @@ test('The cookie is for the server alone, and the session gets a new identifier 
   const after = await cookie(context);
   assert.notEqual(after.value, before.value);
   assert.ok(after.httpOnly);
-  assert.equal(after.sameSite, 'Strict');
+  assert.equal(after.sameSite, 'Lax');
   assert.equal(after.expires, -1);
   assert.ok(!fs.existsSync(`${dat}/sessions/sess_${before.value}`), 'the session before is gone');
   assert.equal(fs.statSync(`${dat}/sessions/sess_${after.value}`).mode & 0o777, 0o600);

@@ -12,7 +12,7 @@ $old = array('array_fill', 'array_merge', 'array_slice', 'basename', 'bin2hex', 
     'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
     'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start', 'session_write_close',
     'set_error_handler', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
-    'trim', 'ucfirst', 'umask', 'unserialize', 'urlencode');
+    'trim', 'ucfirst', 'umask', 'unlink', 'unserialize', 'urlencode');
 // Only behind function_exists() of the same name, in the same function.
 $guarded = array('get_magic_quotes_gpc', 'password_hash');
 

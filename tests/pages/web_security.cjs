@@ -22,7 +22,7 @@ test('HTTPS is switched on: the page comes back encrypted, with a cookie of its 
   assert.match(await page.innerText('main'), /Encrypted: HTTPS is on/);
   const cookies = await context.cookies(`https://${ipv4Address()}/`);
   const own = cookies.find(({name}) => name === '__Host-settings');
-  assert.ok(own.secure && own.httpOnly && own.sameSite === 'Strict');
+  assert.ok(own.secure && own.httpOnly && own.sameSite === 'Lax');
   const before = cookies.find(({name}) => name === 'settings');
   assert.ok(!before || before.value !== own.value, 'what has travelled unencrypted is not used again');
 });

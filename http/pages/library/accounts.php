@@ -61,11 +61,18 @@ function give_up($reason)
 // A file is whole at every moment.
 function replace_file($path, $content)
 {
+    $new = $path . '.' . random_hex(4);
     $mask = umask(077);
-    $file = fopen($path . '.new', 'wb');
+    $file = fopen($new, 'wb');
     $written = $file && fwrite($file, $content) == strlen($content) && fflush($file) && fclose($file);
     umask($mask);
-    return $written && rename($path . '.new', $path);
+    if ($written && rename($new, $path)) {
+        return true;
+    }
+    if ($file) {
+        unlink($new);
+    }
+    return false;
 }
 
 function random_bytes_of_kernel($count)
@@ -168,7 +175,7 @@ function attempt_succeeded($client, $name)
 function attempt_key($client, $name)
 {
     $accounts = read_accounts();
-    return network_of($client) . '/' . (isset($accounts[$name]) ? urlencode($name) : '');
+    return network_of(plain_address($client)) . '/' . (isset($accounts[$name]) ? urlencode($name) : '');
 }
 
 // A client with IPv6 has a whole network of addresses to try from.

@@ -20,6 +20,12 @@ function ipv4_bytes($text)
     return $bytes;
 }
 
+// An IPv4 address in its own notation, also where a service listens for both families and sees it in that of IPv6.
+function plain_address($text)
+{
+    return preg_match('/^::ffff:([0-9.]+)$/Di', $text, $found) ? $found[1] : $text;
+}
+
 // The sixteen bytes of an IPv6 address in any notation, or false.
 function ipv6_bytes($text)
 {

@@ -16,11 +16,15 @@ $kinds = array(
         'failed' => '/\]:Failed to (en|dis)able static IPv6 /')
 );
 
-// $values: name => wanted text. The appliance moves from the address $from to $to; '' when it is not known.
-function new_change($kind, $values, $from, $to)
+// $values: name => wanted text. The appliance moves from the address $from to $to; '' when it is not known. Where the
+// change before may still be going on, its lines of the trace log are this one's too.
+function new_change($session, $kind, $values, $from, $to)
 {
-    return array('kind' => $kind, 'values' => $values, 'from' => $from, 'to' => $to, 'began' => time(),
-        'trace' => trace_size(), 'outcome' => 'waiting', 'lines' => array());
+    $before = kept_applying($session);
+    $may_go_on = $before && $before['kind'] == $kind && $before['outcome'] == 'waiting' && !has_ended($before);
+    $trace = $may_go_on ? $before['trace'] : trace_size();
+    return array('kind' => $kind, 'values' => $values, 'from' => $from, 'to' => $to, 'began' => time(), 'trace' => $trace,
+        'outcome' => 'waiting', 'lines' => array());
 }
 
 function follow_change($session, $change)
@@ -91,8 +95,9 @@ function all_as_wanted($rows)
     return true;
 }
 
-// 'applied', 'failed' or 'waiting'. What a change has come to once stays so, whatever is changed later.
-function outcome_of($change, $rows, $seconds)
+// What the change has come to: 'applied' or 'failed', which stays so whatever is changed later; else 'waiting', or 'late' when
+// its time is over, which may still become one of the others.
+function outcome_of($change, $rows)
 {
     if ($change['outcome'] != 'waiting') {
         return $change['outcome'];
@@ -102,18 +107,52 @@ function outcome_of($change, $rows, $seconds)
     $same = all_as_wanted($rows);
     $done = count_matching($lines, $kind['done']);
     $failed = count_matching($lines, $kind['failed']);
-    // The settings read as wanted some time before they are in force.
-    if ($same && $done > 0 && moved_to($change) == '') {
-        return 'applied';
+    // Several may go on at the same time: which of them has failed is known when all have ended.
+    if (has_ended($change)) {
+        // The settings read as wanted some time before they are in force.
+        if ($same && $done > 0 && moved_to($change) == '') {
+            return 'applied';
+        }
+        if ($failed > 0 && !$same || $done == 0) {
+            return 'failed';
+        }
     }
-    // Another one may go on at the same time: which of them has failed is known when all have ended.
-    if ($failed > 0 && $failed + $done >= count_matching($lines, $kind['begun']) && !($same && $done > 0)) {
-        return 'failed';
-    }
-    if ($seconds < $kind['limit']) {
+    if (seconds_since($change) < $kind['limit']) {
         return 'waiting';
     }
-    return $same ? 'applied' : 'failed';
+    return $same ? 'applied' : 'late';
+}
+
+function seconds_since($change)
+{
+    return max(0, time() - $change['began']);
+}
+
+// What the change has come to, in a sentence.
+function outcome_sentence($change, $outcome, $rows, $stored_only)
+{
+    if ($outcome == 'waiting') {
+        return 'The appliance is changing its settings.';
+    }
+    if ($outcome == 'applied') {
+        return $stored_only ? 'The settings are stored. They come into force when IPv6 is switched on.' : 'The settings are in force.';
+    }
+    if ($outcome == 'failed') {
+        return 'The appliance did not apply the change.' . (all_as_wanted($rows) ? '' : ' It has the values that are marked below.');
+    }
+    if ($change['values']['mode'] == 'DHCP') {
+        return 'No DHCP server has answered yet. The appliance goes on asking.';
+    }
+    return 'Not everything is as wanted, although the time for it is over.';
+}
+
+// Whether the trace log has the end of every change of the kind that it has the beginning of, since this one began.
+function has_ended($change)
+{
+    $kind = $GLOBALS['kinds'][$change['kind']];
+    $lines = lines_about($change);
+    $ended = count_matching($lines, $kind['done']) + count_matching($lines, $kind['failed']);
+    return $ended > 0 && $ended >= count_matching($lines, $kind['begun']);
 }
 
 function count_matching($lines, $pattern)
@@ -131,7 +170,7 @@ function lines_about($change)
     if ($change['outcome'] != 'waiting') {
         return $change['lines'];
     }
-    $lines = trace_lines_since($change['trace'], '/set_network|Could not|Failed|setIPv6|IPv6 Static add|Network settings/');
+    $lines = trace_lines_since($change['trace'], '/set_network|Could not set|Failed to (en|dis)able|setIPv6|IPv6 Static add|Network settings/');
     return $lines ? $lines : array();
 }
 
@@ -148,7 +187,7 @@ function moved_to($change)
     // A name stands for the address that this request came to; under a port of its own the pages are published by another
     // machine.
     if (!is_address($here)) {
-        $here = $port == '' && $here != 'localhost' ? text_of($_SERVER, 'SERVER_ADDR') : '';
+        $here = $port == '' && $here != 'localhost' ? plain_address(text_of($_SERVER, 'SERVER_ADDR')) : '';
     }
     return same_value($here, $change['from']) ? origin_of($change['to'], $port) : '';
 }

@@ -63,7 +63,7 @@ function advice_on($message, $code)
     }
     $advice = array(
         'Could not set library hostname' => 'The appliance refused the name and keeps the old one.',
-        'Could not get IPv4 network information' => 'What is shown as 0.0.0.0 is not known.'
+        'Could not get IPv4 network information' => 'Address, netmask and gateway are not known.'
             . ' Check that a DHCP server answers, or set a static address.',
         'Failed to set DNS addresses.' => 'The appliance refused the servers and keeps the old ones.',
         'Failed to set port settings.' => 'The port keeps its old settings.',
@@ -75,7 +75,7 @@ function advice_on($message, $code)
         'Could not restart SNMP' => 'The settings are stored, but the agent does not answer.',
         // The module's words for a question that has nothing to do with the host name.
         'Could not get hostname information' => 'The answer of a device script is missing: the host name, or, on'
-            . ' the page for IPv6, whether stateless addresses are on.'
+            . ' the page for IPv6, whether router advertisements are on.'
     );
     return isset($advice[$message]) ? $advice[$message] : 'The trace log under Diagnostics shows what was tried.';
 }

@@ -98,9 +98,19 @@ function keep_applying($session, $change)
     return replace_file(applying_file($session), serialize($change));
 }
 
+// Keeps what a change has come to, unless the user has set another one going meanwhile.
+function keep_outcome($session, $change)
+{
+    $kept = kept_applying($session);
+    if ($kept && $kept['began'] == $change['began'] && $kept['values'] == $change['values']) {
+        keep_applying($session, $change);
+    }
+}
+
 // As it was kept, or false.
 function kept_applying($session)
 {
     $path = applying_file($session);
-    return is_readable($path) ? unserialize(implode('', file($path))) : false;
+    $change = is_readable($path) ? unserialize(implode('', file($path))) : false;
+    return isset($change['kind'], $change['outcome'], $change['lines']) ? $change : false;
 }

@@ -18,10 +18,11 @@ function cookie_name()
     return is_https() ? '__Host-settings' : 'settings';
 }
 
-// PHP's own cookie has no HttpOnly and SameSite on every engine, so the cookie is sent here.
+// PHP's own cookie has no HttpOnly and SameSite on every engine, so the cookie is sent here. Lax: who comes by a link
+// from elsewhere stays signed in, and following a link changes nothing.
 function send_cookie($value)
 {
-    header('Set-Cookie: ' . cookie_name() . '=' . $value . '; Path=/; HttpOnly; SameSite=Strict'
+    header('Set-Cookie: ' . cookie_name() . '=' . $value . '; Path=/; HttpOnly; SameSite=Lax'
         . (is_https() ? '; Secure' : '') . ($value == '' ? '; Max-Age=0' : ''));
 }
 
@@ -71,7 +72,7 @@ function begin_session_of($user)
 // unencrypted is of no use under HTTPS.
 function is_session_of($accounts)
 {
-    if (!isset($_SESSION['user']) || !isset($accounts[$_SESSION['user']])) {
+    if (!isset($_SESSION['user'], $_SESSION['account'], $_SESSION['https']) || !isset($accounts[$_SESSION['user']])) {
         return false;
     }
     return $_SESSION['account'] == md5($accounts[$_SESSION['user']]['hash']) && $_SESSION['https'] == is_https();

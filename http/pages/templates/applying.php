@@ -1,19 +1,16 @@
 <?php
 if (!defined('LIBRARY')) exit;
-$sentences = array(
-    'waiting' => 'The appliance is changing its settings.',
-    'applied' => $stored_only ? 'The settings are stored. They come into force when IPv6 is switched on.' : 'The settings are in force.',
-    'failed' => 'The appliance did not apply the change.' . (all_as_wanted($rows) ? '' : ' It still has the old values that are marked below.')
-);
-$kinds_of_state = array('waiting' => 'wait', 'applied' => 'good', 'failed' => 'bad');
-$new_address = origin_of($change['to'], '') . '/';
-$polls = $outcome == 'waiting' ? ' data-poll="1000" data-parts="outcome values" data-expected="' . (int) $kind['expected']
+$kinds_of_state = array('waiting' => 'wait', 'applied' => 'good', 'failed' => 'bad', 'late' => 'caution');
+$is_over = $outcome == 'failed' || $outcome == 'late';
+$new_address = $change['to'] == '' || same_value($change['from'], $change['to']) || $stored_only ? ''
+    : origin_of($change['to'], '') . '/';
+$attributes = $polls ? ' data-poll="1000" data-parts="outcome values" data-expected="' . (int) $kind['expected']
     . '" data-other-origin="' . h($moved_to) . '"' : '';
 ?>
-<section class="card" aria-label="The change"<?php echo $polls; ?>>
+<section class="card" aria-label="The change"<?php echo $attributes; ?>>
 <div id="outcome" role="status">
-  <p class="outcome"><?php echo state($kinds_of_state[$outcome], $sentences[$outcome]); ?></p>
-<?php if ($outcome == 'failed') { ?>
+  <p class="outcome"><?php echo state($kinds_of_state[$outcome], $sentence); ?></p>
+<?php if ($is_over) { ?>
 <?php if ($lines) { ?>
   <h2>What the trace log says about it</h2>
   <pre class="log" tabindex="0" aria-label="Lines of the trace log"><?php echo h(implode("\n", $lines)); ?></pre>
@@ -23,7 +20,7 @@ $polls = $outcome == 'waiting' ? ' data-poll="1000" data-parts="outcome values" 
 <?php } ?>
 <?php if ($outcome != 'waiting') { ?>
   <p class="actions"><a class="button" href="<?php echo h($kind['page']); ?>"><?php
-    echo $outcome == 'failed' ? 'Back, to try again' : 'Back to the settings'; ?></a></p>
+    echo $is_over ? 'Back, to try again' : 'Back to the settings'; ?></a></p>
 <?php } ?>
 </div>
 <?php if ($outcome == 'waiting') { ?>
@@ -40,7 +37,7 @@ $polls = $outcome == 'waiting' ? ' data-poll="1000" data-parts="outcome values" 
     <td data-label="Now"><?php echo h($row[2]); ?></td>
     <td data-label="State"><?php echo $row[3] ? state('good', 'As wanted') : ($outcome == 'waiting'
       ? state('wait', 'Not yet') : ($outcome == 'applied' ? state('caution', 'Changed since')
-      : state('bad', 'Old value'))); ?></td>
+      : state('bad', $outcome == 'failed' && $row[2] != 'None' && $row[2] != 'No' ? 'Old value' : 'Not as wanted'))); ?></td>
   </tr>
 <?php } ?>
   </tbody>
@@ -54,14 +51,17 @@ $polls = $outcome == 'waiting' ? ' data-poll="1000" data-parts="outcome values" 
   <p>If that address does not answer, the change has failed: come back to this one.</p>
 </div></div>
 <?php } ?>
-<?php if ($outcome != 'failed' && $change['to'] != '' && $moved_to == '' && !$stored_only
-    && !same_value($change['from'], $change['to'])) { ?>
+<?php if ($outcome == 'waiting' && $new_address != '' && $moved_to == '') { ?>
 <p>From the network, the appliance is then at <a href="<?php echo h($new_address); ?>"><?php echo h($new_address); ?></a>.</p>
 <?php } ?>
 <div role="status">
 <p class="message caution" data-when-lost hidden><?php echo icon('caution'); ?><span>The appliance does not answer at this address
   at the moment. <?php if ($moved_to != '') { ?>If the page does not go on by itself, open
-  <a href="<?php echo h($moved_to); ?>/applying.php"><?php echo h($moved_to); ?>/</a>.<?php } else { ?>If it does not come back, it has
-  another one now: the DHCP server, or the network's router, knows which.<?php } ?></span></p>
+  <a href="<?php echo h($moved_to); ?>/applying.php"><?php echo h($moved_to); ?>/</a>.<?php
+  } elseif ($new_address != '') { ?>From the network it is at <a href="<?php echo h($new_address); ?>"><?php
+  echo h($new_address); ?></a> when the change is done.<?php
+  } elseif ($change['values']['mode'] == 'DHCP') { ?>If it does not come back, it has another one now: the DHCP server, or the
+  network's router, knows which.<?php } elseif ($change['values']['mode'] == 'Off') { ?>If it does not come back, open it under another of its
+  addresses.<?php } ?></span></p>
 </div>
 </section>

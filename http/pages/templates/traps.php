@@ -6,7 +6,7 @@ $may_change = may_change($GLOBALS['session']);
 <section class="card" aria-labelledby="list">
   <h2 id="list">Receivers</h2>
 <?php if (!$receivers) { ?>
-  <p class="empty">There are none yet, so the agent's traps go nowhere.</p>
+  <p class="empty">There are none, so the agent's traps go nowhere.</p>
 <?php } else { ?>
   <table class="stacks">
     <thead><tr><th scope="col">Address</th><th scope="col">Port</th><th scope="col">Transport</th>
