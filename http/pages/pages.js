@@ -154,7 +154,7 @@ function withFilter(search) {
 for (const link of document.querySelectorAll('[data-go-after-restart]')) goAfterRestart(link);
 
 async function goAfterRestart(link) {
-  const pause = () => new Promise((resolve) => setTimeout(resolve, 500));
+  const pause = () => new Promise((resolve) => setTimeout(resolve, 1000));
   for (;;) {
     await pause();
     try {
@@ -165,7 +165,6 @@ async function goAfterRestart(link) {
     }
   }
   // It may not listen everywhere yet.
-  await pause();
   await pause();
   location.assign(link.href);
 }

@@ -18,6 +18,7 @@ if (is_post()) {
         begin_change();
         set_ssl_settings($session, $wanted == '1');
         if (!change_failed()) {
+            forget_session();
             $address = address_after($wanted == '1');
             show('restarting', array('title' => 'Web security', 'on' => $wanted == '1', 'address' => $address,
                 'refresh' => array(5, $address)));

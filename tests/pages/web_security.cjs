@@ -3,11 +3,13 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
+const net = require('node:net');
 const {ipv4Address, library, php, until, withScript} = require('./appliance.cjs');
 const {base, certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
 
-test('HTTPS is switched on: the page comes back encrypted, with a cookie of its own', {user: 'admin'}, async (page, context) => {
-  await open(page, 'security.php');
+// Who switches is signed out: a session of its own each.
+test('HTTPS is switched on: the page comes back encrypted, with a cookie of its own', {}, async (page, context) => {
+  await signIn(page, 'admin', 'security.php');
   assert.ok(await page.isChecked('#https-0'));
   assert.match(await page.innerText('.note'), /restarts in the new mode, and you will sign in again/);
   await page.check('#https-1');
@@ -75,6 +77,17 @@ test('A web server that does not change its mode is reported with the code, and 
   });
   assert.match(await page.innerText('main'), /Not encrypted: HTTPS is off/);
   assert.equal(php('var_dump(get_ssl_settings($session)->isEnabled);'), 'bool(false)');
+});
+
+test('A connection on which nothing is asked does not hold up the change', {}, async () => {
+  await served('http');
+  const idle = net.connect({host: ipv4Address(), port: 80});
+  await new Promise((resolve) => idle.once('connect', resolve));
+  php('set_ssl_settings($session, true);');
+  await served('https');
+  php('set_ssl_settings($session, false);');
+  await served('http');
+  idle.destroy();
 });
 
 test('Without scripts the pages come back in the other mode as well', {javaScriptEnabled: false}, async (page) => {

@@ -140,7 +140,7 @@ function outcome_sentence($change, $outcome, $rows, $stored_only)
     if ($outcome == 'failed') {
         return 'The appliance did not apply the change.' . (all_as_wanted($rows) ? '' : ' It has the values that are marked below.');
     }
-    if ($change['values']['mode'] == 'DHCP') {
+    if ($change['values']['mode'] == 'DHCP' && $rows[0][3]) {
         return 'No DHCP server has answered yet. The appliance goes on asking.';
     }
     return 'Not everything is as wanted, although the time for it is over.';

@@ -93,6 +93,13 @@ function return_to_session()
     }
 }
 
+// Ends the session for later requests; this one goes on with what it knows of it.
+function forget_session()
+{
+    return_to_session();
+    session_destroy();
+}
+
 function end_session()
 {
     $_SESSION = array();
