@@ -11,9 +11,10 @@ $kind = $kinds[$change['kind']];
 $seconds = seconds_since($change);
 $now = values_now($session, $change['kind']);
 $rows = compare_values($change, $now);
-$outcome = outcome_of($change, $rows);
+$lines = lines_about($change);
+$outcome = outcome_of($change, $rows, $lines);
 if ($change['outcome'] == 'waiting' && ($outcome == 'applied' || $outcome == 'failed')) {
-    $change['lines'] = lines_about($change);
+    $change['lines'] = $lines;
     $change['outcome'] = $outcome;
     keep_outcome($session, $change);
 }
@@ -23,7 +24,7 @@ $stored_only = isset($now['enabled']) && !$now['enabled'];
 $values = array('title' => $titles[$outcome], 'part_of' => $kind['page'], 'kind' => $kind, 'rows' => $rows, 'stored_only' => $stored_only,
     'outcome' => $outcome, 'sentence' => outcome_sentence($change, $outcome, $rows, $stored_only), 'change' => $change,
     'moved_to' => $moved_to, 'other_origin' => $moved_to, 'percent' => (int) min(95, 100 * $seconds / $kind['expected']),
-    'lines' => lines_about($change), 'polls' => $change['outcome'] == 'waiting' && $seconds < 10 * $kind['limit']);
+    'lines' => $lines, 'polls' => $change['outcome'] == 'waiting' && $seconds < 10 * $kind['limit']);
 if ($outcome == 'waiting') {
     // Without scripts nothing but going there shows whether the new address answers.
     $values['refresh'] = $moved_to == '' ? array(2, 'applying.php?background=1')

@@ -21,7 +21,8 @@ $kinds = array(
 function new_change($session, $kind, $values, $from, $to)
 {
     $before = kept_applying($session);
-    $may_go_on = $before && $before['kind'] == $kind && $before['outcome'] == 'waiting' && !has_ended($before);
+    $may_go_on = $before && $before['kind'] == $kind && $before['outcome'] == 'waiting'
+        && !has_ended(progress_of($before, lines_about($before)));
     $trace = $may_go_on ? $before['trace'] : trace_size();
     return array('kind' => $kind, 'values' => $values, 'from' => $from, 'to' => $to, 'began' => time(), 'trace' => $trace,
         'outcome' => 'waiting', 'lines' => array());
@@ -96,28 +97,25 @@ function all_as_wanted($rows)
 }
 
 // What the change has come to: 'applied' or 'failed', which stays so whatever is changed later; else 'waiting', or 'late' when
-// its time is over, which may still become one of the others.
-function outcome_of($change, $rows)
+// its time is over, which may still become one of the others. $lines: what the trace log says about it.
+function outcome_of($change, $rows, $lines)
 {
     if ($change['outcome'] != 'waiting') {
         return $change['outcome'];
     }
-    $kind = $GLOBALS['kinds'][$change['kind']];
-    $lines = lines_about($change);
     $same = all_as_wanted($rows);
-    $done = count_matching($lines, $kind['done']);
-    $failed = count_matching($lines, $kind['failed']);
+    $progress = progress_of($change, $lines);
     // Several may go on at the same time: which of them has failed is known when all have ended.
-    if (has_ended($change)) {
+    if (has_ended($progress)) {
         // The settings read as wanted some time before they are in force.
-        if ($same && $done > 0 && moved_to($change) == '') {
+        if ($same && $progress['done'] > 0 && moved_to($change) == '') {
             return 'applied';
         }
-        if ($failed > 0 && !$same || $done == 0) {
+        if ($progress['failed'] > 0 && !$same || $progress['done'] == 0) {
             return 'failed';
         }
     }
-    if (seconds_since($change) < $kind['limit']) {
+    if (seconds_since($change) < $GLOBALS['kinds'][$change['kind']]['limit']) {
         return 'waiting';
     }
     return $same ? 'applied' : 'late';
@@ -146,22 +144,38 @@ function outcome_sentence($change, $outcome, $rows, $stored_only)
     return 'Not everything is as wanted, although the time for it is over.';
 }
 
-// Whether the trace log has the end of every change of the kind that it has the beginning of, since this one began.
-function has_ended($change)
+// How many changes of the kind have begun, are done and have failed, as these lines of the trace log say.
+function progress_of($change, $lines)
 {
-    $kind = $GLOBALS['kinds'][$change['kind']];
-    $lines = lines_about($change);
-    $ended = count_matching($lines, $kind['done']) + count_matching($lines, $kind['failed']);
-    return $ended > 0 && $ended >= count_matching($lines, $kind['begun']);
+    $progress = array();
+    foreach (array('begun', 'done', 'failed') as $step) {
+        $progress[$step] = 0;
+        foreach ($lines as $line) {
+            $progress[$step] += preg_match($GLOBALS['kinds'][$change['kind']][$step], $line);
+        }
+    }
+    return $progress;
 }
 
-function count_matching($lines, $pattern)
+function has_ended($progress)
 {
-    $count = 0;
-    foreach ($lines as $line) {
-        $count += preg_match($pattern, $line);
+    $ended = $progress['done'] + $progress['failed'];
+    return $ended > 0 && $ended >= $progress['begun'];
+}
+
+// The state of one value, as markup.
+function row_state($row, $outcome)
+{
+    if ($row[3]) {
+        return state('good', 'As wanted');
     }
-    return $count;
+    if ($outcome == 'waiting') {
+        return state('wait', 'Not yet');
+    }
+    if ($outcome == 'applied') {
+        return state('caution', 'Changed since');
+    }
+    return state('bad', $outcome == 'failed' && $row[2] != 'None' && $row[2] != 'No' ? 'Old value' : 'Not as wanted');
 }
 
 // What the trace log says about changes since this one began; what reading the settings writes is left out.

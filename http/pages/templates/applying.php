@@ -35,9 +35,7 @@ $attributes = $polls ? ' data-poll="1000" data-parts="outcome values" data-expec
     <th scope="row"><?php echo h($row[0]); ?></th>
     <td data-label="Wanted"><?php echo h($row[1]); ?></td>
     <td data-label="Now"><?php echo h($row[2]); ?></td>
-    <td data-label="State"><?php echo $row[3] ? state('good', 'As wanted') : ($outcome == 'waiting'
-      ? state('wait', 'Not yet') : ($outcome == 'applied' ? state('caution', 'Changed since')
-      : state('bad', $outcome == 'failed' && $row[2] != 'None' && $row[2] != 'No' ? 'Old value' : 'Not as wanted'))); ?></td>
+    <td data-label="State"><?php echo row_state($row, $outcome); ?></td>
   </tr>
 <?php } ?>
   </tbody>
