@@ -5,8 +5,8 @@
 set -u
 CHECKOUT=$(cd -P "${BASH_SOURCE[0]%/*}/../.." && pwd)
 BUILD=$CHECKOUT/build
-# shellcheck source=../../appliance/failures.sh
-source "$CHECKOUT/appliance/failures.sh"
+# shellcheck source=../../appliance/launcher/exit_statuses.sh
+source "$CHECKOUT/appliance/launcher/exit_statuses.sh"
 mkdir -p "$BUILD/tests"
 WORK=$(mktemp -d "$BUILD/tests/appliance.XXXXXX") || exit
 trap 'rm -rf "$WORK"' EXIT
@@ -33,7 +33,7 @@ holds() {
 finish() { echo end; }
 
 # The launcher itself: what ./run adds has been done before the suite.
-appliance() { "$CHECKOUT/appliance/launch" --build "$BUILD" "$@"; }
+appliance() { "$CHECKOUT/appliance/launcher/launch" --build "$BUILD" "$@"; }
 
 free_port() {
   php -n -r '$s = stream_socket_server("tcp://127.0.0.1:0"); echo substr(strrchr(stream_socket_get_name($s, false), ":"), 1);'
@@ -58,7 +58,7 @@ start() {
   mark=TEST_MARK=$BASHPID.$SRANDOM
   url='' greeting=''
   # A job in the background would ignore interrupts, a test run without a terminal the end of that.
-  exec {said}< <(exec env --default-signal=INT,HUP "$mark" "$CHECKOUT/appliance/launch" --build "$BUILD" "$@" 2>&1)
+  exec {said}< <(exec env --default-signal=INT,HUP "$mark" "$CHECKOUT/appliance/launcher/launch" --build "$BUILD" "$@" 2>&1)
   launcher=$!
   while [[ -z $url ]] && read -r -t 60 line <&"$said"; do
     if [[ $line =~ http://[0-9.:]+/ ]]; then url=${BASH_REMATCH[0]}; else greeting+=$line$'\n'; fi

@@ -132,7 +132,7 @@ test('Without a password hash that is strong enough no account is made, and no p
     // An engine whose crypt() knows the historic hash only.
     const {status, stdout, stderr} = spawnSync('php', ['-n', '-d', 'disable_functions=password_hash,crypt', '-r',
       'function crypt() { return "ab1234567890z"; } require $argv[1]; make_first_accounts();',
-      `${web}/htdocs/library/page.php`], {encoding: 'utf8'});
+      `${web}/shared/page.php`], {encoding: 'utf8'});
     assert.equal(stdout, '');
     assert.equal(status, 1);
     assert.match(stderr, /no password hash that is strong enough/);
@@ -237,7 +237,7 @@ test('Hashes of an older engine are as good, and an account may have any name', 
   const hashes = [execFileSync('openssl', ['passwd', '-6', 'older secret'], {encoding: 'utf8'}).trim(),
     // What an engine without password_hash() makes.
     execFileSync('php', ['-n', '-d', 'disable_functions=password_hash', '-r', 'require $argv[1]; echo hash_password("older secret");',
-      `${web}/htdocs/library/page.php`], {encoding: 'utf8'})];
+      `${web}/shared/page.php`], {encoding: 'utf8'})];
   for (const hash of hashes) {
     await withAccounts((users) => `${users}shift lead:monitor:${hash}\n`, async () => {
       await page.context().clearCookies();

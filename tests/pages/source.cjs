@@ -58,11 +58,13 @@ test('Nothing is fetched from another host, and no script or style stands in a p
   }
 });
 
-test('A file that is no page answers with nothing', async () => {
-  for (const folder of ['library', 'templates']) {
+test('What pages share cannot be asked for', async () => {
+  for (const folder of ['shared', 'templates']) {
     for (const name of fs.readdirSync(`${pages}/${folder}`)) {
-      const answer = await fetch(`${base()}${folder}/${name}`);
-      assert.equal((await answer.text()).trim(), '', `${folder}/${name}`);
+      for (const address of [`${folder}/${name}`, `%2e%2e/${folder}/${name}`, `..%2f${folder}/${name}`]) {
+        const answer = await fetch(`${base()}${address}`);
+        assert.ok(answer.status === 404 || answer.status === 400, `${address}: ${answer.status}`);
+      }
     }
   }
 });

@@ -25,7 +25,7 @@ $late = array(T_ABSTRACT, T_ATTRIBUTE, T_CATCH, T_CLASS_C, T_CLONE, T_COALESCE, 
 
 list(, $folder, $stub) = $argv;
 $declared = functions_of(file_get_contents($stub));
-$files = glob("$folder/{*,library/*,templates/*}.php", GLOB_BRACE);
+$files = glob("$folder/{htdocs,shared,templates}/*.php", GLOB_BRACE);
 foreach ($files as $file) {
     $declared = array_merge($declared, functions_of(file_get_contents($file)));
 }

@@ -1,5 +1,4 @@
 <?php
-if (!defined('LIBRARY')) exit;
 $kinds_of_state = array('waiting' => 'wait', 'applied' => 'good', 'failed' => 'bad', 'late' => 'caution');
 $is_over = $outcome == 'failed' || $outcome == 'late';
 $new_address = $change['to'] == '' || same_value($change['from'], $change['to']) || $stored_only ? ''

@@ -1,6 +1,5 @@
 <?php
 // The frame around what is seen before signing in.
-if (!defined('LIBRARY')) exit;
 $name = get_network_hostname();
 ?>
 <!DOCTYPE html>

@@ -1,5 +1,4 @@
 <?php
-if (!defined('LIBRARY')) exit;
 // Scripts keep the log up to date unless that is stopped; without scripts it has to be asked for.
 $polls = $live == '0' ? '' : ' data-poll="2000" data-parts="log"';
 $same_filter = 'filter=' . urlencode($filter);

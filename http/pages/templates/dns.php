@@ -1,4 +1,3 @@
-<?php if (!defined('LIBRARY')) exit; ?>
 <section class="card" aria-label="DNS servers">
 <?php
 echo form_begin('dns.php', 'dns');

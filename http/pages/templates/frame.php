@@ -1,6 +1,5 @@
 <?php
 // The frame around every page of a signed-in user.
-if (!defined('LIBRARY')) exit;
 $page = basename(text_of($_SERVER, 'SCRIPT_NAME'));
 // A page that fetches itself to follow the trace log is not to fill it.
 if (!is_background() || !isset($_SESSION['name'])) {

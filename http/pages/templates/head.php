@@ -1,4 +1,3 @@
-<?php if (!defined('LIBRARY')) exit; ?>
 <meta charset="utf-8">
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <meta name="color-scheme" content="light dark">

@@ -1,5 +1,4 @@
 <?php
-if (!defined('LIBRARY')) exit;
 $modes = array();
 if ($settings->statelessEnabled) $modes[] = 'router advertisements';
 if ($settings->ipv6DhcpEnabled) $modes[] = 'DHCP';

@@ -1,5 +1,4 @@
 <?php
-if (!defined('LIBRARY')) exit;
 // What is not known reads as zeros; what was typed stays.
 $known = posted('change') == 'addressing' || $settings->ip != '0.0.0.0';
 ?>

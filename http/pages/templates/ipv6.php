@@ -1,4 +1,3 @@
-<?php if (!defined('LIBRARY')) exit; ?>
 <section class="card" aria-labelledby="now">
   <h2 id="now">Now</h2>
   <dl class="states">

@@ -1,4 +1,3 @@
-<?php if (!defined('LIBRARY')) exit; ?>
 <nav aria-label="Settings">
   <ul>
 <?php foreach ($GLOBALS['pages'] as $page => $title) { ?>

@@ -1,4 +1,3 @@
-<?php if (!defined('LIBRARY')) exit; ?>
 <section class="card" aria-label="Ethernet port 2">
 <?php
 echo form_begin('port.php', 'port');

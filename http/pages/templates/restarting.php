@@ -1,4 +1,3 @@
-<?php if (!defined('LIBRARY')) exit; ?>
 <section class="card">
   <p><?php echo state('wait', 'The web server restarts with HTTPS ' . ($on ? 'on' : 'off')); ?></p>
   <progress aria-label="The web server restarts"></progress>

@@ -1,4 +1,3 @@
-<?php if (!defined('LIBRARY')) exit; ?>
 <p class="lead">Sign in to see and change its network settings.</p>
 <div role="status">
 <?php if ($error != '') echo message('bad', '<p>' . h($error) . '</p>'); ?>

@@ -1,5 +1,4 @@
 <?php
-if (!defined('LIBRARY')) exit;
 $traps_error = isset($errors['traps']) ? $errors['traps'] : '';
 ?>
 <section class="card" aria-label="SNMP agent">

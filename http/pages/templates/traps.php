@@ -1,5 +1,4 @@
 <?php
-if (!defined('LIBRARY')) exit;
 $transports = array(1 => 'UDP', 2 => 'TCP');
 $may_change = may_change($GLOBALS['session']);
 ?>

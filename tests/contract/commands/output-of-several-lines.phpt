@@ -2,7 +2,7 @@
 Line ends within an output stay: only the runner takes them away, and only at the end.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), "one\ntwo\n");
 show(get_network_hostname());
 show_transcript();

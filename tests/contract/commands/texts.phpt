@@ -2,8 +2,8 @@
 These are the command lines that the module runs; one that ends in a blank is completed by a value, except "-r ".
 --FILE--
 <?php
-include 'world.inc';
-echo shell_exec(world_file('command_texts'));
+include 'scripted_platform.inc';
+echo shell_exec(platform_file('command_texts'));
 --EXPECT--
 [/usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -d status]
 [/usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/ipv4Manager.sh -g static]

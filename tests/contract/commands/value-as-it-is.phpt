@@ -2,7 +2,7 @@
 A value is appended to the command as it is, whatever its characters: nothing is quoted, escaped or left out.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $values = array('new name', "it's", '"quoted"', 'a;b', 'a|b', 'a&b', '$(reboot)', '`reboot`', '$HOME', 'a*b?', '>out', '\\',
                 "two\nlines", "tab\there", '-n', '--', "\xC3\xBC", "\xFF", ' ', "\n", '%s%n', '#');
 answer('gethostname', 'library');

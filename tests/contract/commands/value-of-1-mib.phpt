@@ -2,7 +2,7 @@
 A value of 1 MiB reaches the command whole.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $name = str_repeat('0123456789abcdef', 65536);
 answer('gethostname', 'library');
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

@@ -2,7 +2,7 @@
 The message and each server end at the first NUL; the words are parted before.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(1), "10.1.1.1\0x 10.1.1.2\0");
 show(get_network_dns(new Session()));
 show_lines('/^report/');

@@ -2,7 +2,7 @@
 The word "disabled" in the first place stands for no primary server; the secondary one is read behind it.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(0), 'disabled 10.0.0.2');
 show(get_network_dns(new Session()));
 show_transcript();

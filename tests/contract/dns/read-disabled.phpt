@@ -2,7 +2,7 @@
 The word "disabled" alone stands for no server at all.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(0), 'disabled');
 show(get_network_dns(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A script that fails and prints nothing is reported with nothing behind the colon and its blank; both servers are empty.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(1), '');
 show(get_network_dns(new Session()));
 answer(IPV6 . '-g dns', killed_by(9), '');

@@ -2,7 +2,7 @@
 A failure is reported with what the script printed, and the object is built of that all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(1), 'no such file');
 show(get_network_dns(new Session()));
 show_transcript();

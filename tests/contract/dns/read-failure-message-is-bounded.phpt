@@ -2,7 +2,7 @@
 The report holds 1024 bytes of the output at most, then "..." where it was cut, never half of a character; the servers are whole.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 function show_message($letters, $rest) {
   $output = str_repeat('a', $letters) . $rest;
   answer(IPV6 . '-g dns', exits(1), $output);

@@ -2,7 +2,7 @@
 What the script printed is shown as it is, also where it looks like a format.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(1), "100%s %n\n%%");
 get_network_dns(new Session());
 show_lines('/^report/');

@@ -2,7 +2,7 @@
 The report of an output that is no UTF-8, nothing but continuation bytes, is bounded all the same, at most three bytes earlier.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $output = str_repeat("\x80", 2000);
 answer(IPV6 . '-g dns', exits(1), $output);
 $servers = get_network_dns(new Session());

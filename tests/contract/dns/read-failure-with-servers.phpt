@@ -2,7 +2,7 @@
 Servers that a failing script printed are returned after the report, whatever its exit status.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(44), 'disabled 10.0.0.2');
 show(get_network_dns(new Session()));
 show_transcript();

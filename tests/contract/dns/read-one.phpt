@@ -2,7 +2,7 @@
 A single word is the primary server; the secondary one is the empty text.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(0), '10.1.1.1');
 show(get_network_dns(new Session()));
 show_transcript();

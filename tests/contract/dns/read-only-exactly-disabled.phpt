@@ -2,7 +2,7 @@
 Only exactly "disabled" stands for no primary server.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('Disabled', 'DISABLED', 'disable', 'disabled2', "disabled\n", "\tdisabled", 'none') as $output) {
   answer(IPV6 . '-g dns', exits(0), $output);
   show(get_network_dns(new Session()));

@@ -2,7 +2,7 @@
 No output means no server, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(0), '');
 show(get_network_dns(new Session()));
 show_transcript();

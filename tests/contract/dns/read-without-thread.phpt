@@ -2,7 +2,7 @@
 A thread without a handle of its own reads the servers all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('thread', 'empty');
 answer(IPV6 . '-g dns', exits(0), '10.1.1.1 10.1.1.2');
 show(get_network_dns(new Session()));

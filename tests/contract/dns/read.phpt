@@ -2,7 +2,7 @@
 The servers are the words of the output, the primary first.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(0), '10.1.1.1 10.1.1.2');
 show(get_network_dns(new Session()));
 show_transcript();

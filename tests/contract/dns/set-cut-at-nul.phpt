@@ -2,7 +2,7 @@
 A server counts up to its first NUL; so does the trace of the output.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new stdClass();
 $settings->dnsPrimary = "10.1.1.1\0; reboot";
 $settings->dnsSecondary = "\0" . '10.1.1.2';

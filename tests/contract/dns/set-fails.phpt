@@ -2,7 +2,7 @@
 A failure is traced with the raw wait status and reported with the general code; the output is traced all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Servers {
   var $dnsPrimary = '10.1.1.1';
   var $dnsSecondary = '10.1.1.2';

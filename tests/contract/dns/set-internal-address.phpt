@@ -2,7 +2,7 @@
 Exit status 44 says that a server is an internal address: it is reported with a code of its own.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Servers {
   var $dnsPrimary = '192.168.250.1';
   var $dnsSecondary = '10.1.1.2';

@@ -2,7 +2,7 @@
 Neither the session nor the settings are changed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $session = new Session();
 $settings = new stdClass();
 $settings->dnsPrimary = 10;

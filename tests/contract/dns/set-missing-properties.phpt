@@ -2,7 +2,7 @@
 A missing server, and one that is no text, counts as the empty one; the blank between both stays.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new stdClass();
 answer(IPV6 . '-D " "', exits(0), '');
 set_network_dns(new Session(), $settings);

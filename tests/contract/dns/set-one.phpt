@@ -2,7 +2,7 @@
 An empty secondary server leaves the blank before the closing quote.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Servers {
   var $dnsPrimary = '10.1.1.1';
   var $dnsSecondary = '';

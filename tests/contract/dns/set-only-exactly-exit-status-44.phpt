@@ -2,7 +2,7 @@
 No other result has the code of an internal address: no neighbour of 44, and no signal.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Servers {
   var $dnsPrimary = '10.1.1.1';
   var $dnsSecondary = '10.1.1.2';

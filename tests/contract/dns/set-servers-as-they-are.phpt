@@ -2,7 +2,7 @@
 Servers are neither checked nor trimmed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new stdClass();
 $settings->dnsPrimary = ' disabled ';
 $settings->dnsSecondary = '2001:DB8::0053%eth0 300.1.1.1';

@@ -2,7 +2,7 @@
 Servers and an output of 1 MiB are passed on and traced whole.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $long = str_repeat('0123456789abcdef', 65536);
 $settings = new stdClass();
 $settings->dnsPrimary = $settings->dnsSecondary = $long;

@@ -2,7 +2,7 @@
 The object that was read can be set as it is; no primary server is then the empty text, not "disabled".
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g dns', exits(0), 'disabled 10.0.0.2');
 answer(IPV6 . '-D " 10.0.0.2"', exits(0), '');
 set_network_dns(new Session(), get_network_dns(new Session()));

@@ -2,7 +2,7 @@
 The connectivity service is not needed: without it the servers are set all the same, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new stdClass();
 $settings->dnsPrimary = '10.1.1.1';
 answer('IConnectivity', 'empty');

@@ -2,7 +2,7 @@
 Both servers are one quoted word of the command. The connectivity service is held but not asked, and released before the thread's handle.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Servers {
   var $dnsPrimary = '10.1.1.1';
   var $dnsSecondary = '10.1.1.2';

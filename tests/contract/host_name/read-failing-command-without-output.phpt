@@ -2,7 +2,7 @@
 A host-name command that fails without printing anything is reported and gives the empty text.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(127), '');
 show(get_network_hostname());
 show_transcript();

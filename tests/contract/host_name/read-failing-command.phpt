@@ -2,7 +2,7 @@
 A host-name command that fails is reported, and what it printed is returned all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(1), 'half a na');
 show(get_network_hostname());
 show_transcript();

@@ -2,7 +2,7 @@
 A host-name command that a signal ended is a failure like any other.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', killed_by(9), 'lib');
 show(get_network_hostname());
 show_transcript();

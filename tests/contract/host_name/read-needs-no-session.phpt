@@ -2,7 +2,7 @@
 Reading the host name takes no handle and attaches no session, also when a session is passed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 show(get_network_hostname(new Session()));
 show_transcript();

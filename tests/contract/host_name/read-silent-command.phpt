@@ -2,7 +2,7 @@
 A host-name command that succeeds and prints nothing gives the empty text, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), '');
 show(get_network_hostname());
 show_transcript();

@@ -2,7 +2,7 @@
 The host name is the whole output of the host-name command.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library-7');
 show(get_network_hostname());
 show_transcript();

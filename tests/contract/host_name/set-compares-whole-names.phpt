@@ -2,7 +2,7 @@
 Names are compared whole: neither the beginning of the current name nor a longer one equals it.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 foreach (array('librar', 'library', 'library7', '') as $name) {

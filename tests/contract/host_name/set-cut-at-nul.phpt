@@ -2,7 +2,7 @@
 A name counts up to its first NUL: compared like that, and set like that.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 show(set_network_hostname(new Session(), "library\0; reboot"));
 show_transcript();

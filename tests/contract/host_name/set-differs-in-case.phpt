@@ -2,7 +2,7 @@
 A name that differs from the current one in letter case only is a new name.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n Library', exits(0));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

@@ -2,7 +2,7 @@
 When the system has no host name, setting the empty text changes nothing.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', '');
 show(set_network_hostname(new Session(), ''));
 show_transcript();

@@ -2,7 +2,7 @@
 The empty text is a new name like any other: the script is run without one and decides.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n ', exits(2));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

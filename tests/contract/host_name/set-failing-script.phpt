@@ -2,7 +2,7 @@
 A script that fails to set the host name is reported after SSL has been switched on again.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(2));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 1);

@@ -2,7 +2,7 @@
 A script that a signal ended while it set the host name is reported as a failure.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', killed_by(15));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

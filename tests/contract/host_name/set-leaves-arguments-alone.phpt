@@ -2,7 +2,7 @@
 Neither the session object nor the name is changed by a call.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

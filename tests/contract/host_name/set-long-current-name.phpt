@@ -2,7 +2,7 @@
 A current name of 63 or more characters is compared as the 64-byte buffer holds it: 64 characters fill it, of a longer name it has the first 64.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 
 function set_changes($current, $name) {

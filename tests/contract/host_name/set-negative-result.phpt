@@ -2,7 +2,7 @@
 Any result of the script but zero is a failure, also a negative one.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', -1);
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

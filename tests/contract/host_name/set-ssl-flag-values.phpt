@@ -2,7 +2,7 @@
 Every value of the SSL flag but zero means on, and SSL is then switched on once with true.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');

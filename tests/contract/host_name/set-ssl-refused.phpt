@@ -2,7 +2,7 @@
 A failure to switch SSL on again is not reported: the host name is set.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 1);

@@ -2,7 +2,7 @@
 When the services do not say whether SSL is on, it counts as off, whatever the flag holds, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig.getSSLEnabled', 'Failed', 1);

@@ -2,7 +2,7 @@
 A second call starts afresh: handle, session, current name.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

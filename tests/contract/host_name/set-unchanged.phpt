@@ -2,7 +2,7 @@
 Setting the current host name runs no script, asks nothing about SSL and reports nothing.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library-7');
 show(set_network_hostname(new Session(), 'library-7'));
 show_transcript();

@@ -2,7 +2,7 @@
 With SSL off, a new host name leaves SSL alone.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

@@ -2,7 +2,7 @@
 A new host name is set by the script, and SSL, which is on, is switched on again.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 1);

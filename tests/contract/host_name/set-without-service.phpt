@@ -2,7 +2,7 @@
 When the configuration service is not there, the name is set and SSL counts as off.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig', 'empty');

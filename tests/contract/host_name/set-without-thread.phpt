@@ -2,7 +2,7 @@
 A thread without a handle of its own sets the name all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('thread', 'empty');
 answer('gethostname', 'library');
 show(set_network_hostname(new Session(), 'library'));

@@ -2,7 +2,7 @@
 Any text in "dhcpEnabled" means DHCP, also one that reads like a no.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 answer('gethostname', 'library');
 answer(IPV4 . '-c -d on', exits(0));

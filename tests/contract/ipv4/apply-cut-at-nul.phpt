@@ -2,7 +2,7 @@
 A text counts up to its first NUL, the host name's comparison included.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->hostname = "library\0; reboot";
 $settings->ip = "10.0.0.5\0; reboot";

@@ -2,7 +2,7 @@
 When DHCP cannot be switched on, the worker traces that and ends without a report and without its last line.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->dhcpEnabled = '1';
 answer('gethostname', 'library');

@@ -2,7 +2,7 @@
 With a text in "dhcpEnabled", DHCP is switched on and the static settings are not looked at.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->dhcpEnabled = '1';
 answer('gethostname', 'library');

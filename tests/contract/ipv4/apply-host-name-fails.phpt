@@ -2,7 +2,7 @@
 When the host name cannot be set, the worker ends after a trace, without a report and without touching the addressing; SSL is switched on again all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->hostname = 'library-8';
 answer('gethostname', 'library');

@@ -2,7 +2,7 @@
 A host-name script that a signal ended, or any result but zero, stops the worker before the addressing, with DHCP wanted, too.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->hostname = 'library-8';
 $settings->dhcpEnabled = '1';

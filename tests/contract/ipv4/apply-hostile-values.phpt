@@ -2,7 +2,7 @@
 Whatever a text holds, it reaches the command line as it is: nothing is quoted, escaped or left out.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $values = array('10.0.0.5; reboot', 'a|b', 'a && b', '$(reboot)', '`reboot`', '$HOME', '*', '?', '-n', '--', "it's",
                 '"quoted"', '"', '\\', "two\nlines", "tab\there", ' ', "\n", "\xC3\xBC", "\xFF", '%s%n', '#', '>out');
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

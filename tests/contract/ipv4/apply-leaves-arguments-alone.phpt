@@ -2,7 +2,7 @@
 Neither the session nor the settings are changed, by the call or by the worker.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $session = new Session();
 $settings = new Ipv4Settings();
 $settings->netmask = 24;

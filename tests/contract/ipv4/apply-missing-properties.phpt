@@ -2,7 +2,7 @@
 A missing text counts as the empty one, and its place between the question marks stays.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 function apply_without($property, $settings_text) {
   $settings = new Ipv4Settings();

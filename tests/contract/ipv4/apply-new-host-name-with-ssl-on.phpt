@@ -2,7 +2,7 @@
 After a new host name SSL, which is on, is switched on again; then DHCP is switched on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->hostname = 'library-8';
 $settings->dhcpEnabled = true;

@@ -2,7 +2,7 @@
 When the configuration service is not there, the new host name is set and the addressing follows.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->hostname = 'library-8';
 answer('gethostname', 'library');

@@ -2,7 +2,7 @@
 A new host name is set before the addressing; SSL, which is off, is left alone. The worker takes no thread handle and attaches no session.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->hostname = 'library-8';
 answer('gethostname', 'library');

@@ -2,7 +2,7 @@
 When neither the system nor the settings have a host name, there is no new one to set.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 unset($settings->hostname);
 answer('gethostname', '');

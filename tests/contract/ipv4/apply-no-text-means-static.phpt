@@ -2,7 +2,7 @@
 Null, false, zero, the empty text and what is no text at all in "dhcpEnabled", and none of it, mean a static address.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(0));

@@ -2,7 +2,7 @@
 Of an object without any property, the empty host name and three empty fields go to the script, which decides.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n ', exits(0));
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);

@@ -2,7 +2,7 @@
 The number in the traces of a failure is always 0, whatever the result of the script.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 answer('gethostname', 'library');
 foreach (array(exits(1), exits(255), killed_by(15), -1) as $result) {

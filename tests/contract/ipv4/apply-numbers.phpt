@@ -2,7 +2,7 @@
 A number or true where a text is wanted is the text that the engine makes of it.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->hostname = 7;
 $settings->ip = 10;

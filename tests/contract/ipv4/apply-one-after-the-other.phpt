@@ -2,7 +2,7 @@
 A second call after the first one's worker has ended starts afresh.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(1));

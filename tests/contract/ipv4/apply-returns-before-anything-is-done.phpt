@@ -2,7 +2,7 @@
 The function has returned null before the worker does its first step, and the worker first waits three seconds.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(0));
 show(set_network_configuration_ipv4(new Session(), new Ipv4Settings()));

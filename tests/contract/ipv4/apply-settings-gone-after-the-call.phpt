@@ -2,7 +2,7 @@
 The worker has texts of its own: the page's may be gone, and their memory used again, before it reads them.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 function apply() {
   $settings = new Ipv4Settings();
   foreach (array('hostname', 'ip', 'netmask', 'gateway') as $name) $settings->$name = strrev(str_repeat("$name ", 5));

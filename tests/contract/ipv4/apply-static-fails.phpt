@@ -2,7 +2,7 @@
 When the static settings cannot be set, the worker traces that and ends without a report and without its last line.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(2));
 show(set_network_configuration_ipv4(new Session(), new Ipv4Settings()));

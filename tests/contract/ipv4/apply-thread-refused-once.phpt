@@ -2,13 +2,13 @@
 After a refused thread the next call is as good as any.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.6?255.0.0.0?10.0.0.1', exits(0));
 $settings = new Ipv4Settings();
 answer('pthread_create', 12);
 set_network_configuration_ipv4(new Session(), $settings);
-fclose(fopen(world_file('answers'), 'w'));
+fclose(fopen(platform_file('answers'), 'w'));
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.6?255.0.0.0?10.0.0.1', exits(0));
 $settings->ip = '10.0.0.6';

@@ -2,7 +2,7 @@
 When no thread can be had, that is reported, the exit is traced all the same, and nothing is run.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('pthread_create', 11);
 show(set_network_configuration_ipv4(new Session(), new Ipv4Settings()));
 show_transcript();

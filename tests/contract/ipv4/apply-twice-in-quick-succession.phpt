@@ -2,7 +2,7 @@
 Two quick calls make two workers, each with the settings of its own call.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(0));

@@ -2,7 +2,7 @@
 An unchanged host name runs no command of its own and asks nothing about SSL: the addressing follows at once.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv4Settings();
 $settings->hostname = 'library-7';
 answer('gethostname', 'library-7');

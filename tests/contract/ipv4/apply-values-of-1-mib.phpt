@@ -2,7 +2,7 @@
 Texts of 1 MiB reach the command line whole.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $long = str_repeat('0123456789abcdef', 65536);
 $settings = new Ipv4Settings();
 $settings->ip = $settings->netmask = $settings->gateway = $long;

@@ -2,7 +2,7 @@
 The object that was read can be applied as it is: static settings stay static, and DHCP stays on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-g host', exits(0), 'library');
 answer(IPV4 . '-d status', exits(0), '??');

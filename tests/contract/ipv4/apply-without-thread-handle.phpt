@@ -2,7 +2,7 @@
 A request without a thread handle of its own starts the worker all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('thread', 'empty');
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(0));

@@ -2,7 +2,7 @@
 Each read asks again and gives an object of its own, which the page may change.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '10.1.1.9?255.255.255.0?10.1.1.1');
 answer(IPV4 . '-g host', exits(0), 'first');
 $first = get_network_configuration_ipv4(new Session());

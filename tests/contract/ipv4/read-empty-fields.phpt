@@ -2,7 +2,7 @@
 An empty field is an empty text and no reason for zeros.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), '');
 foreach (array('?255.0.0.0?10.0.0.1', '10.0.0.5??10.0.0.1', '10.0.0.5?255.0.0.0?') as $status) {
   answer(IPV4 . '-d status', exits(0), $status);

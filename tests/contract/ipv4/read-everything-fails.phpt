@@ -2,7 +2,7 @@
 When all three commands fail, each is reported in turn with its code, and the object has all its properties.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(1), '??');
 answer(IPV4 . '-g static', exits(1), '');
 answer(IPV4 . '-g host', exits(1), '');

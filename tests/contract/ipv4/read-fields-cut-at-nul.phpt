@@ -2,7 +2,7 @@
 Each text, like its trace, ends at its first NUL; the fields are parted before.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), "10.1.1.9\0x?255.255.255.0?10.1.1.1\0");
 answer(IPV4 . '-g host', exits(0), "library-7\0hidden");
 show(get_network_configuration_ipv4(new Session()));

@@ -2,7 +2,7 @@
 Of settings of four fields the first three are used, and the line about the zeros is traced all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '10.1.1.9?255.255.255.0?10.1.1.1?10.1.1.2');
 answer(IPV4 . '-g host', exits(0), 'library-7');
 show(get_network_configuration_ipv4(new Session()));

@@ -2,7 +2,7 @@
 A host-name command that fails and prints nothing leaves the host name empty: the settings printed before do not stay in its place.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '10.1.1.9?255.255.255.0?10.1.1.1');
 answer(IPV4 . '-g host', killed_by(9), '');
 show(get_network_configuration_ipv4(new Session()));

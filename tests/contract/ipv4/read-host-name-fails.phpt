@@ -2,7 +2,7 @@
 A failing host-name command is reported with its own code; the settings are returned, and what it printed is the host name.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '10.1.1.9?255.255.255.0?10.1.1.1');
 answer(IPV4 . '-g host', exits(1), 'half a na');
 show(get_network_configuration_ipv4(new Session()));

@@ -2,7 +2,7 @@
 Fields behind the third are never returned, however many there are, and a question mark at the end makes one more.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library-7');
 foreach (array('a?b?c?', '?a?b?c', 'a?b?c?0.0.0.0', 'a?b?c' . str_repeat('?x', 1000)) as $status) {
   answer(IPV4 . '-d status', exits(0), $status);

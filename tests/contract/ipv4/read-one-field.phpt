@@ -2,7 +2,7 @@
 Settings without a question mark are the address; netmask and gateway are zeros.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), 'none');
 answer(IPV4 . '-g host', exits(0), 'library-7');
 show(get_network_configuration_ipv4(new Session()));

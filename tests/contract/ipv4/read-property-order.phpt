@@ -2,7 +2,7 @@
 The properties come in a fixed order, the gateway before the netmask, in an object of no class of its own.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '10.1.1.9?255.255.255.0?10.1.1.1');
 answer(IPV4 . '-g host', exits(0), 'library-7');
 $settings = get_network_configuration_ipv4(new Session());

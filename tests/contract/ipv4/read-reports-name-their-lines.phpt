@@ -2,7 +2,7 @@
 The two reports with the same message name different lines, the first one's before the second one's.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(1), '??');
 answer(IPV4 . '-g static', exits(1), '');
 answer(IPV4 . '-g host', exits(0), '');

@@ -2,7 +2,7 @@
 A command for the static settings that fails and prints nothing gives zeros: the two question marks of the DHCP status are gone.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '??');
 answer(IPV4 . '-g static', killed_by(15), '');
 answer(IPV4 . '-g host', exits(0), 'library-7');

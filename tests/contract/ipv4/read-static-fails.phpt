@@ -2,7 +2,7 @@
 A failing command for the static settings is reported with a code of its own, and what it printed is used all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '??');
 answer(IPV4 . '-g static', exits(1), '10.1.1.5?255.255.0.0?10.1.0.1');
 answer(IPV4 . '-g host', exits(0), 'library-7');

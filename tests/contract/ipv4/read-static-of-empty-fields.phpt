@@ -2,7 +2,7 @@
 Static settings of three empty fields are three empty texts, not zeros: the number of fields is what counts.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '??');
 answer(IPV4 . '-g static', exits(0), '??');
 answer(IPV4 . '-g host', exits(0), 'library-7');

@@ -2,7 +2,7 @@
 Only exactly two question marks mean that DHCP is off; any other status is itself taken as the settings.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library-7');
 foreach (array('?', '???', '?? ', ' ??', "??\n", '??0', "??\0") as $status) {
   answer(IPV4 . '-d status', exits(0), $status);

@@ -2,7 +2,7 @@
 A DHCP status command that fails but says that DHCP is off is believed after the report.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(1), '??');
 answer(IPV4 . '-g static', exits(0), '10.1.1.5?255.255.0.0?10.1.0.1');
 answer(IPV4 . '-g host', exits(0), 'library-7');

@@ -2,7 +2,7 @@
 A DHCP status command that fails and prints nothing gives zeros, with DHCP counted as on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(127), '');
 answer(IPV4 . '-g host', exits(0), 'library-7');
 show(get_network_configuration_ipv4(new Session()));

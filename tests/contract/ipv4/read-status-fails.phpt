@@ -2,7 +2,7 @@
 A failing DHCP status command is reported with the general code, and what it printed is used all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(1), '10.1.1.9?255.255.255.0?10.1.1.1');
 answer(IPV4 . '-g host', exits(0), 'library-7');
 show(get_network_configuration_ipv4(new Session()));

@@ -2,7 +2,7 @@
 A DHCP status command that a signal ended is a failure like any other.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', killed_by(9), '10.1.1.9?255');
 answer(IPV4 . '-g host', exits(0), 'library-7');
 show(get_network_configuration_ipv4(new Session()));

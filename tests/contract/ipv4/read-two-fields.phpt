@@ -2,7 +2,7 @@
 Settings of two fields keep address and netmask; the gateway is zeros.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '??');
 answer(IPV4 . '-g static', exits(0), '10.1.1.5?255.255.0.0');
 answer(IPV4 . '-g host', exits(0), 'library-7');

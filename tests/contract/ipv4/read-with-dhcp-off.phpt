@@ -2,7 +2,7 @@
 A DHCP status of three empty fields means that DHCP is off: the static settings are asked for and returned.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-d status', exits(0), '??');
 answer(IPV4 . '-g static', exits(0), '10.1.1.5?255.255.0.0?10.1.0.1');
 answer(IPV4 . '-g host', exits(0), 'library-7');

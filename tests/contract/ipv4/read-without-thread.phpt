@@ -2,7 +2,7 @@
 A thread without a handle of its own reads the settings all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('thread', 'empty');
 answer(IPV4 . '-d status', exits(0), '10.1.1.9?255.255.255.0?10.1.1.1');
 answer(IPV4 . '-g host', exits(0), 'library-7');

@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_network_configuration_ipv4());
 show(get_network_configuration_ipv4(new Session(), new Session()));
 show(get_network_configuration_ipv4('admin'));

@@ -2,7 +2,7 @@
 Addresses and prefix go to the script in the page's notation, neither expanded nor checked.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 $settings->ipStatic = '2001:0DB8::00AB%eth0';
 $settings->prefix = '999';

@@ -2,7 +2,7 @@
 Any text in "staticEnabled" means a static address, also one that reads like a no.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 answer(IPV6 . '-c -s 2001:db8::10/64?2001:db8::1', exits(0));
 foreach (array('0', 'FALSE', 'false', 'off', 'no', ' ', "\n", true, 1, -1, 0.5) as $flag) {

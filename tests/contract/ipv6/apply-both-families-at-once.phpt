@@ -2,7 +2,7 @@
 The workers of the IPv4 and the IPv6 function go their ways side by side.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-c -s 10.0.0.5?255.0.0.0?10.0.0.1', exits(0));
 answer(IPV6 . '-c -s 2001:db8::10/64?2001:db8::1', exits(0));

@@ -2,7 +2,7 @@
 A text counts up to its first NUL.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 $settings->ipStatic = "2001:db8::10\0; reboot";
 $settings->prefix = "64\0";

@@ -2,7 +2,7 @@
 Whatever a text holds, it reaches the command line as it is: nothing is quoted, escaped or left out.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $values = array('2001:db8::10; reboot', 'a|b', 'a && b', '$(reboot)', '`reboot`', '$HOME', '*', '?', '-n', '--', "it's",
                 '"quoted"', '"', '\\', "two\nlines", "tab\there", ' ', "\n", "\xC3\xBC", "\xFF", '%s%n', '#', '>out');
 // The table holds the whole command line: a command that is not exactly this one has no answer, and the worker

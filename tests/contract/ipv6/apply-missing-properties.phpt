@@ -2,7 +2,7 @@
 A missing text counts as the empty one; its place in the settings stays, and there is no prefix by default.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 function apply_without($property, $settings_text) {
   $settings = new Ipv6Settings();
   unset($settings->$property);

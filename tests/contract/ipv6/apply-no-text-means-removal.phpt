@@ -2,7 +2,7 @@
 Null, false, zero, the empty text and what is no text at all in "staticEnabled", and none of it, mean removal.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 answer(IPV6 . '-r ', exits(0));
 foreach (array(null, false, 0, 0.0, '', array(), array('1'), new Session()) as $flag) {

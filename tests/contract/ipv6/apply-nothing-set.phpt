@@ -2,7 +2,7 @@
 Of an object without any property, static addressing is removed; of one with the flag alone, the separators go to the script, which decides.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class FlagAlone {
   var $staticEnabled = '1';
 }

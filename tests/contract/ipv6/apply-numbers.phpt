@@ -2,7 +2,7 @@
 A number or true where a text is wanted is the text that the engine makes of it; zero, for one, is no text.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 $settings->ipStatic = true;
 $settings->gateway = 0.5;

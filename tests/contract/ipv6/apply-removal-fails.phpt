@@ -2,7 +2,7 @@
 When the static address cannot be removed, the trace carries the script's result, and neither a report nor the lines of success follow.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 $settings->staticEnabled = false;
 foreach (array(exits(1), killed_by(15), -1) as $result) {

@@ -2,7 +2,7 @@
 Without a text in "staticEnabled", the static address is removed at once; the script is given no address, only the blank behind its option.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 $settings->staticEnabled = null;
 answer(IPV6 . '-r ', exits(0));

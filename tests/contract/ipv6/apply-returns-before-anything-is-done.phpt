@@ -2,7 +2,7 @@
 The function has returned null before the worker does its first step, also where that will fail.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-c -s 2001:db8::10/64?2001:db8::1', exits(1));
 show(set_network_configuration_ipv6(new Session(), new Ipv6Settings()));
 show_transcript();

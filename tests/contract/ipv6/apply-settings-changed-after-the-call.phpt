@@ -2,7 +2,7 @@
 The worker applies what the settings were at the call, not what the page makes of them afterwards.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 answer(IPV6 . '-c -s 2001:db8::10/64?2001:db8::1', exits(0));
 set_network_configuration_ipv6(new Session(), $settings);

@@ -2,7 +2,7 @@
 When the static address cannot be set, the trace carries the script's result, and neither a report nor the lines of success follow.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array(exits(2), exits(255), killed_by(9), -1) as $result) {
   answer(IPV6 . '-c -s 2001:db8::10/64?2001:db8::1', $result);
   set_network_configuration_ipv6(new Session(), new Ipv6Settings());

@@ -2,7 +2,7 @@
 With a text in "staticEnabled", address, prefix and gateway are set at once, and also written to standard error; the host name is not looked at and no service asked.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-c -s 2001:db8::10/64?2001:db8::1', exits(0));
 show(set_network_configuration_ipv6(new Session(), new Ipv6Settings()));
 run_thread();

@@ -2,7 +2,7 @@
 The texts on standard error are shown as they are, also where they look like a format.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 $settings->ipStatic = '%s%n';
 $settings->gateway = '%d';

@@ -2,7 +2,7 @@
 When no thread can be had, that is reported in the words of the IPv4 function, the exit is traced all the same, and nothing is run.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('pthread_create', 11);
 show(set_network_configuration_ipv6(new Session(), new Ipv6Settings()));
 show_transcript();

@@ -2,7 +2,7 @@
 Two quick calls make two workers, each with the settings of its own call.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $settings = new Ipv6Settings();
 answer(IPV6 . '-c -s 2001:db8::10/64?2001:db8::1', exits(0));
 answer(IPV6 . '-r ', exits(0));

@@ -2,7 +2,7 @@
 Texts of 1 MiB reach the command line, the trace and standard error whole.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $long = str_repeat('0123456789abcdef', 65536);
 $settings = new Ipv6Settings();
 $settings->ipStatic = $settings->prefix = $settings->gateway = $long;

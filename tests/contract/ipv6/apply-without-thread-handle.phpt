@@ -2,7 +2,7 @@
 A request without a thread handle of its own starts the worker all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('thread', 'empty');
 answer(IPV6 . '-c -s 2001:db8::10/64?2001:db8::1', exits(0));
 show(set_network_configuration_ipv6(new Session(), new Ipv6Settings()));

@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, null, and no worker.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_network_configuration_ipv6());
 show(set_network_configuration_ipv6(new Session()));
 show(set_network_configuration_ipv6(new Session(), new Ipv6Settings(), 1));

@@ -2,7 +2,7 @@
 IPv6 and its DHCP are told by a file each: neither says anything about the other.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_DHCP_FILE, '');
 show(is_ipv6_enabled());
 show(is_ipv6_dhcp_enabled());

@@ -2,7 +2,7 @@
 The flag file of IPv6 DHCP is the script's: it is neither made, removed nor looked at when DHCP is switched.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-c -d on', exits(0));
 answer(IPV6 . '-c -d off', exits(0));
 set_ipv6_dhcp_enabled(new Session(), true);

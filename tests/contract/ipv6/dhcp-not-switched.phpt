@@ -2,7 +2,7 @@
 A failure to switch IPv6 DHCP is reported with a code of its own, in either direction.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array(exits(1), killed_by(9), -1) as $result) {
   answer(IPV6 . '-c -d on', $result);
   answer(IPV6 . '-c -d off', $result);

@@ -2,7 +2,7 @@
 IPv6 DHCP is off while there is no flag file; no script is asked.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(is_ipv6_dhcp_enabled());
 show_transcript();
 --EXPECT--

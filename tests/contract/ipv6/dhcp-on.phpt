@@ -2,7 +2,7 @@
 IPv6 DHCP is on while its flag file is there; no script is asked.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_DHCP_FILE, '');
 show(is_ipv6_dhcp_enabled());
 show_transcript();

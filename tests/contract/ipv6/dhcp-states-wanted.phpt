@@ -2,7 +2,7 @@
 The wanted state is a truth value as the engine understands one, and becomes "on" or "off" whatever it was.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-c -d on', exits(0));
 answer(IPV6 . '-c -d off', exits(0));
 foreach (array(7, 256, 'off', '0', '', 0.0) as $state) set_ipv6_dhcp_enabled(new Session(), $state);

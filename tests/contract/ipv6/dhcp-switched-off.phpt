@@ -2,7 +2,7 @@
 Switching IPv6 DHCP off passes "off" to the script, also when it is off already.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-c -d off', exits(0));
 show(set_ipv6_dhcp_enabled(new Session(), false));
 show_transcript();

@@ -2,7 +2,7 @@
 Switching IPv6 DHCP on passes "on" to the script. No service is asked and no session attached.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-c -d on', exits(0));
 show(set_ipv6_dhcp_enabled(new Session(), true));
 show_transcript();

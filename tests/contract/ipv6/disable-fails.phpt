@@ -2,7 +2,7 @@
 A failure to remove the flag file is reported, whatever ended the command.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 foreach (array(exits(1), killed_by(15), -1) as $result) {
   answer(WRAPPER . '/bin/rm ' . IPV6_ENABLED_FILE, $result);

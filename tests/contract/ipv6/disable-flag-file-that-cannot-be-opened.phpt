@@ -2,7 +2,7 @@
 A flag file that cannot be opened counts as none: nothing is run, nothing is reported, and it stays.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 symlink(IPV6_ENABLED_FILE, IPV6_ENABLED_FILE);
 show(set_ipv6_enabled(new Session(), false));
 show_transcript();

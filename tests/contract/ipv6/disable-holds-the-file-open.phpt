@@ -4,12 +4,12 @@ The flag file is held open while it is removed, and no longer.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 // Which of the interpreter's files are the flag file, while the command runs.
 unlink('/bin/rm');
 write_script('/bin/rm', '#!/bin/sh
-find /proc/$PPID/fd -lname "$1" -printf "open at removal: %l\n" >>"$WORLD/transcript"
+find /proc/$PPID/fd -lname "$1" -printf "open at removal: %l\n" >>"$SCRIPTED_PLATFORM/transcript"
 ');
 chmod('/bin/rm', 0755);
 set_ipv6_enabled(new Session(), false);

@@ -2,7 +2,7 @@
 Disabling IPv6 that is not enabled runs no command and reports nothing.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_ipv6_enabled(new Session(), false));
 show_transcript();
 --EXPECT--

@@ -2,7 +2,7 @@
 Disabling IPv6 removes its flag file.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 answer(WRAPPER . '/bin/rm ' . IPV6_ENABLED_FILE, exits(0));
 show(set_ipv6_enabled(new Session(), false));

@@ -2,7 +2,7 @@
 Enabling IPv6 that is enabled already touches the flag file again.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 answer(WRAPPER . '/bin/touch ' . IPV6_ENABLED_FILE, exits(0));
 show(set_ipv6_enabled(new Session(), true));

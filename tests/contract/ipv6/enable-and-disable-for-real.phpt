@@ -4,7 +4,7 @@ Enabled, IPv6 is enabled; disabled, it is not.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(is_ipv6_enabled());
 set_ipv6_enabled(new Session(), true);
 show(is_ipv6_enabled());

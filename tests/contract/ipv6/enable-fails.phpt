@@ -2,7 +2,7 @@
 A failure to touch the flag file is reported, whatever ended the command.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array(exits(1), killed_by(9), -1) as $result) {
   answer(WRAPPER . '/bin/touch ' . IPV6_ENABLED_FILE, $result);
   show(set_ipv6_enabled(new Session(), true));

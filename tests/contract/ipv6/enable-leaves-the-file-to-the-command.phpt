@@ -2,7 +2,7 @@
 The flag file is made and removed by the commands alone: where these do nothing, nothing changes.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(WRAPPER . '/bin/touch ' . IPV6_ENABLED_FILE, exits(0));
 answer(WRAPPER . '/bin/rm ' . IPV6_ENABLED_FILE, exits(0));
 set_ipv6_enabled(new Session(), true);

@@ -2,7 +2,7 @@
 The wanted state is a truth value as the engine understands one: the text "FALSE" is true, "0" and the empty text are not.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 answer(WRAPPER . '/bin/touch ' . IPV6_ENABLED_FILE, exits(0));
 answer(WRAPPER . '/bin/rm ' . IPV6_ENABLED_FILE, exits(0));

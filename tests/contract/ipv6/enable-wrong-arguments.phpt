@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 show(set_ipv6_enabled());
 show(set_ipv6_enabled(new Session()));

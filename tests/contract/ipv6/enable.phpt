@@ -2,7 +2,7 @@
 Enabling IPv6 touches its flag file. No service is asked and no session attached.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(WRAPPER . '/bin/touch ' . IPV6_ENABLED_FILE, exits(0));
 show(set_ipv6_enabled(new Session(), true));
 show_transcript();

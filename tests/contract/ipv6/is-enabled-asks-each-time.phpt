@@ -2,7 +2,7 @@
 Each call looks at the flag file again.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(is_ipv6_enabled());
 append_to(IPV6_ENABLED_FILE, '');
 show(is_ipv6_enabled());

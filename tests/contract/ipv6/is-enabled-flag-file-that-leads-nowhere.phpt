@@ -2,10 +2,10 @@
 A link in the flag file's place counts as what it leads to.
 --FILE--
 <?php
-include 'world.inc';
-symlink(world_file('elsewhere'), IPV6_ENABLED_FILE);
+include 'scripted_platform.inc';
+symlink(platform_file('elsewhere'), IPV6_ENABLED_FILE);
 show(is_ipv6_enabled());
-append_to(world_file('elsewhere'), '');
+append_to(platform_file('elsewhere'), '');
 show(is_ipv6_enabled());
 --EXPECT--
 false

@@ -2,7 +2,7 @@
 Asking whether IPv6 is enabled ignores any arguments, and neither needs nor attaches a session.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 show(is_ipv6_enabled(new Session()));
 show(is_ipv6_enabled(false, 'two', array(3), null));

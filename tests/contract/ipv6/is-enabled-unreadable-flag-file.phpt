@@ -2,15 +2,15 @@
 A flag file that is there but may not be read does not count, neither for IPv6 nor for its DHCP.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 append_to(IPV6_DHCP_FILE, '');
 chmod(IPV6_ENABLED_FILE, 0);
 chmod(IPV6_DHCP_FILE, 0);
-append_to(world_file('unprivileged.php'),
-          '<?php include "world.inc"; show(is_ipv6_enabled()); show(is_ipv6_dhcp_enabled()); show_transcript();');
-echo shell_exec('setpriv --inh-caps=-all --bounding-set=-all ' . getenv('WORLD_PHP') . ' -n -d extension=' .
-                getenv('WORLD_MODULE') . ' -d include_path=' . getenv('WORLD') . ' ' . world_file('unprivileged.php'));
+append_to(platform_file('unprivileged.php'),
+          '<?php include "scripted_platform.inc"; show(is_ipv6_enabled()); show(is_ipv6_dhcp_enabled()); show_transcript();');
+echo shell_exec('setpriv --inh-caps=-all --bounding-set=-all ' . getenv('SCRIPTED_PLATFORM_PHP') . ' -n -d extension=' .
+                getenv('SCRIPTED_PLATFORM_MODULE') . ' -d include_path=' . getenv('SCRIPTED_PLATFORM') . ' ' . platform_file('unprivileged.php'));
 --EXPECT--
 false
 false

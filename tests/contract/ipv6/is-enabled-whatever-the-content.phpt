@@ -2,7 +2,7 @@
 The content of the flag file of IPv6 has no meaning and stays as it is.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('0', "off\n", "\0", str_repeat('no', 100000)) as $content) {
   fclose(fopen(IPV6_ENABLED_FILE, 'w'));
   append_to(IPV6_ENABLED_FILE, $content);

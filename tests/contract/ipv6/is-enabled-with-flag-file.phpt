@@ -2,7 +2,7 @@
 IPv6 is enabled while its flag file is there.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 append_to(IPV6_ENABLED_FILE, '');
 show(is_ipv6_enabled());
 show_transcript();

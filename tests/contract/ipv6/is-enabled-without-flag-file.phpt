@@ -2,7 +2,7 @@
 IPv6 is not enabled while there is no flag file.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(is_ipv6_enabled());
 show_transcript();
 --EXPECT--

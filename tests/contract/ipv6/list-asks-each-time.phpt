@@ -2,7 +2,7 @@
 Each call runs the script again and gives an array of its own; arguments are ignored.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g all', exits(0), '2001:db8::10?2001:db8::11');
 $first = get_all_ipv6_addresses();
 $first[0] = 'changed';

@@ -2,7 +2,7 @@
 An address, like its trace, ends at its first NUL; the pieces are parted before.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g all', exits(0), "2001:db8::10\0x?\0?2001:db8::11");
 show(get_all_ipv6_addresses());
 show_lines('/Adding/');

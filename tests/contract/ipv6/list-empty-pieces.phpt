@@ -2,7 +2,7 @@
 Two question marks in a row, and one at the start or the end, make an empty element each.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('?', '??', 'a?', '?a', 'a??b') as $output) {
   answer(IPV6 . '-g all', exits(0), $output);
   show(get_all_ipv6_addresses());

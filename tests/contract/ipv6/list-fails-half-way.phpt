@@ -2,7 +2,7 @@
 A script that fails after part of its output is reported once; that part is returned.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g all', exits(1), '2001:db8::10?2001:d');
 show(get_all_ipv6_addresses());
 show_transcript();

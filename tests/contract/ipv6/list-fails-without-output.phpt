@@ -2,7 +2,7 @@
 A script that fails and prints nothing is reported once and gives an empty array.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g all', exits(1), '');
 show(get_all_ipv6_addresses());
 answer(IPV6 . '-g all', killed_by(9), '');

@@ -2,7 +2,7 @@
 Of a thousand addresses none is lost, and each has its place and its trace.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $wanted = array();
 for ($i = 0; $i < 1000; ++$i) $wanted[] = '2001:db8::' . dechex($i);
 answer(IPV6 . '-g all', exits(0), implode('?', $wanted));

@@ -2,7 +2,7 @@
 No output gives an empty array.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g all', exits(0), '');
 show(get_all_ipv6_addresses());
 show_transcript();

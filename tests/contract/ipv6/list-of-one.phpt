@@ -2,7 +2,7 @@
 An output without a question mark is one address.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g all', exits(0), '2001:db8::10');
 show(get_all_ipv6_addresses());
 show_transcript();

@@ -2,7 +2,7 @@
 Pieces are neither checked nor trimmed, reformatted, sorted or made unique, and are always texts.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g all', exits(0), "none? FE80::0001%eth0 ?7?10.0.0.1?b?a?a?\xC3\xBC?two\nlines");
 show(get_all_ipv6_addresses());
 --EXPECT--

@@ -2,7 +2,7 @@
 The addresses come as an array in the script's order, each traced before it is added. No service is asked and no session attached.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g all', exits(0), '2001:db8::10?2001:db8::150?fe80::1');
 show(get_all_ipv6_addresses());
 show_transcript();

@@ -2,7 +2,7 @@
 Each read asks again and gives an object of its own, which the page may change.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64?2001:db8::1');
 $first = get_network_configuration_ipv6(new Session());
 $first->gateway = 'changed';

@@ -2,7 +2,7 @@
 The prefix, also in the summary, ends at its first NUL; the other fields and the summary's two line ends stay.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array("6\0004", "\00064", "64\0") as $prefix) {
   answer(IPV6 . '-g static', exits(0), "2001:db8::10/$prefix?2001:db8::1");
   show(get_network_configuration_ipv6(new Session()));

@@ -2,7 +2,7 @@
 What a failing script printed is read like any other output, after the report.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(1), '2001:db8::10/64?2001:db8::1');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A script that fails and prints nothing is reported and gives the object of static addressing that is off.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(1), '');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

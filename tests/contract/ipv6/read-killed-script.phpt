@@ -2,7 +2,7 @@
 A script that a signal ended half-way makes all three reports, and the object is complete.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', killed_by(9), '2001:d');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 However many pieces there are, each count is reported once and the first ones are used.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64' . str_repeat('/x', 1000) . '?2001:db8::1' . str_repeat('?x', 1000));
 show(get_network_configuration_ipv6(new Session()));
 show_lines('/^report/');

@@ -2,7 +2,7 @@
 A text of another form altogether is reported twice, the gateway first, and static addressing is on all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), 'none');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

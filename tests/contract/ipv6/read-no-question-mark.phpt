@@ -2,7 +2,7 @@
 Without a question mark there is no gateway: that is reported, it reads as zero groups, and static addressing is on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 Without a slash there is no prefix: that is reported, it reads as the empty text, not 64, and static addressing is on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10?2001:db8::1');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 No output means that static addressing is off: zero groups, and 64 for the prefix.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

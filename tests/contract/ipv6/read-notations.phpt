@@ -2,7 +2,7 @@
 Every notation of an address becomes eight groups in lower case, without leading zeros and without a zone.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $notations = array('2001:0DB8:0000:0000:0000:0000:00AB:0010', '1:2:3:4:5:6:7:8', '::1', '1::', '::ffff:10.0.0.1',
                    'fe80::1%eth0', '2001:db8::a:0:0:b');
 foreach ($notations as $address) {

@@ -2,7 +2,7 @@
 The prefix is not checked and stays a text.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('0', '128', '129', '-1', '064', 'abc', '', '64.5', "6\n4") as $prefix) {
   answer(IPV6 . '-g static', exits(0), "2001:db8::10/$prefix?2001:db8::1");
   $settings = get_network_configuration_ipv6(new Session());

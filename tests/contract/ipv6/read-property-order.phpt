@@ -2,7 +2,7 @@
 The properties come in a fixed order, in an object of no class of its own.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('', '2001:db8::10/64?2001:db8::1') as $output) {
   answer(IPV6 . '-g static', exits(0), $output);
   $settings = get_network_configuration_ipv6(new Session());

@@ -2,7 +2,7 @@
 Of a single question mark, both pieces are empty: only the prefix is missed, and nothing is read beyond the pieces.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '?');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A slash behind the question mark belongs to the gateway, which is no address with it; the prefix is not looked for there.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10?2001:db8::1/64');
 show(get_network_configuration_ipv6(new Session()));
 show_lines('/^report/');

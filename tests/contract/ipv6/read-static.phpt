@@ -2,7 +2,7 @@
 With static addressing on, address and gateway come as eight groups each, and the prefix as printed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64?2001:db8::1');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

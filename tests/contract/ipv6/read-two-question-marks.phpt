@@ -2,7 +2,7 @@
 A second question mark is reported; address, prefix and gateway are read from the first two pieces, and static addressing is on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64?2001:db8::1?2001:db8::2');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A second slash is reported; address and prefix are read from the first two pieces, and static addressing is on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64/128?2001:db8::1');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 Blanks stay where they are: in the prefix, and in an address, which is none with them.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('2001:db8::10/64 ?2001:db8::1', '2001:db8::10/ 64?2001:db8::1', ' 2001:db8::10/64?2001:db8::1', '2001:db8::10/64?2001:db8::1 ') as $output) {
   answer(IPV6 . '-g static', exits(0), $output);
   show(get_network_configuration_ipv6(new Session()));

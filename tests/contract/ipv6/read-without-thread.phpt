@@ -2,7 +2,7 @@
 A thread without a handle of its own reads the settings all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('thread', 'empty');
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64?2001:db8::1');
 show(get_network_configuration_ipv6(new Session()));

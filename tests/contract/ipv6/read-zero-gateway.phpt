@@ -2,7 +2,7 @@
 The prefix is kept as printed, and the gateway "::" becomes eight zero groups.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), 'fe80::1/48?::');
 show(get_network_configuration_ipv6(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 Each call runs the script again; arguments are ignored.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-l', exits(0), '1');
 show(is_stateless_enabled());
 answer(IPV6 . '-l', exits(0), '0');

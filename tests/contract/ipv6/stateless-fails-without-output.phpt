@@ -2,7 +2,7 @@
 A script that fails and prints nothing means that stateless addressing is off.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-l', killed_by(9), '');
 show(is_stateless_enabled());
 show_transcript();

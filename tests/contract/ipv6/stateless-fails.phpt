@@ -2,7 +2,7 @@
 A failure to read the stateless mode is reported in words about the host name; the output decides all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-l', exits(1), '1');
 show(is_stateless_enabled());
 answer(IPV6 . '-l', exits(1), '0');

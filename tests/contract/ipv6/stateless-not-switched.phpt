@@ -2,7 +2,7 @@
 A failure to switch stateless addressing is reported with the general code, in either direction.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array(exits(1), killed_by(9), -1) as $result) {
   answer(IPV6 . '-L 1', $result);
   answer(IPV6 . '-L 0', $result);

@@ -2,7 +2,7 @@
 Stateless addressing is off when the script prints "0".
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-l', exits(0), '0');
 show(is_stateless_enabled());
 show_transcript();

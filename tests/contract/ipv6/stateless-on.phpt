@@ -2,7 +2,7 @@
 Stateless addressing is on when the script prints "1". No service is asked and no session attached.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-l', exits(0), '1');
 show(is_stateless_enabled());
 show_transcript();

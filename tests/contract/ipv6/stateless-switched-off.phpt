@@ -2,7 +2,7 @@
 Switching stateless addressing off passes "0" to the script, also when it is off already.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-L 0', exits(0));
 show(set_stateless_enabled(new Session(), false));
 show_transcript();

@@ -2,7 +2,7 @@
 Switching stateless addressing on passes "1" to the script. No service is asked and no session attached.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-L 1', exits(0));
 show(set_stateless_enabled(new Session(), true));
 show_transcript();

@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_stateless_enabled());
 show(set_stateless_enabled(new Session()));
 show(set_stateless_enabled(new Session(), true, true));

@@ -2,7 +2,7 @@
 A script that fails and prints nothing is reported, and means that static IPv6 addressing is off.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(1), '');
 show(is_ipv6_static_enabled());
 answer(IPV6 . '-g static', killed_by(9), '');

@@ -2,7 +2,7 @@
 A failure to read the static address is reported; what was printed counts all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(1), 'cannot read');
 show(is_ipv6_static_enabled());
 show_transcript();

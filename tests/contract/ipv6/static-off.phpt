@@ -2,7 +2,7 @@
 Static IPv6 addressing is off when the script prints nothing.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '');
 show(is_ipv6_static_enabled());
 show_transcript();

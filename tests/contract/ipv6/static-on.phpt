@@ -2,7 +2,7 @@
 Static IPv6 addressing is on when the script prints anything. No service is asked and no session attached.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64?2001:db8::1');
 show(is_ipv6_static_enabled());
 show_transcript();

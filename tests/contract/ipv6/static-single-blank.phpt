@@ -2,7 +2,7 @@
 A single blank is an output, too: static IPv6 addressing is on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV6 . '-g static', exits(0), ' ');
 show(is_ipv6_static_enabled());
 show_transcript();

@@ -2,11 +2,11 @@
 A report carries the line of the statement in the module's sources that makes it; where a test of the service makes it, the line of that test in its function.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 
 // Whether the statement with the message, from the word "report" to its semicolon, lies on the line.
 function is_made_at($message, $line) {
-  foreach (glob(world_file('src') . '/*.cc') as $source) {
+  foreach (glob(platform_file('src') . '/*.cc') as $source) {
     $lines = file($source);
     for ($first = $line; $first > 0 && $first > $line - 3; --$first) {
       $statement = implode('', array_slice($lines, $first - 1, $line - $first + 3));
@@ -19,7 +19,7 @@ function is_made_at($message, $line) {
 
 // The function that tests on the line whether the service is there.
 function function_that_tests_at($line) {
-  $lines = file(world_file('src/services.cc'));
+  $lines = file(platform_file('src/services.cc'));
   if (!preg_match('/\bisThere\(/', $lines[$line - 1])) return "a line without a test, $line";
   for ($above = $line - 1; $above > 0; --$above) {
     if (preg_match('/^HANDLER\((\w+)\)/', $lines[$above - 1], $found)) return $found[1];

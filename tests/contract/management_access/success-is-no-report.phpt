@@ -4,7 +4,7 @@ Where every step succeeds, the page is warned of nothing, also of no code that s
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'echo library-7');
 show(get_network_hostname());
 show(set_network_hostname(new Session(), 'library-8'));

@@ -2,7 +2,7 @@
 A code with the top bit set is a success; every other, 0 included, is a failure.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer(IPV4 . '-n library-8', exits(0));
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');

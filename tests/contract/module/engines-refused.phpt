@@ -4,13 +4,13 @@ Configuring the build refuses a thread-safe engine, a debug engine and one that 
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 mkdir('/tmp/engine');
 write_script('/tmp/engine/php-config', "#!/bin/sh\necho -I/tmp/engine\n");
 chmod('/tmp/engine/php-config', 0755);
 write_script('/tmp/engine/CMakeLists.txt', 'cmake_minimum_required(VERSION 3.25)
 project(engine LANGUAGES CXX)
-include(' . world_file('cmake/Engine.cmake') . ')');
+include(' . platform_file('cmake/Engine.cmake') . ')');
 
 function configure($header, $php_config = '/tmp/engine/php-config') {
   write_script('/tmp/engine/php.h', $header);

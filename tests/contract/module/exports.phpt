@@ -2,8 +2,8 @@
 The module exports its entry point and those of its two workers, and nothing else.
 --FILE--
 <?php
-include 'world.inc';
-foreach (explode("\n", trim(shell_exec('nm --dynamic --defined-only ' . getenv('WORLD_MODULE')))) as $line) {
+include 'scripted_platform.inc';
+foreach (explode("\n", trim(shell_exec('nm --dynamic --defined-only ' . getenv('SCRIPTED_PLATFORM_MODULE')))) as $line) {
   echo preg_replace('/^[0-9a-f]+ /', '', $line), "\n";
 }
 --EXPECT--

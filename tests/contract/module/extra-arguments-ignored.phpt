@@ -2,7 +2,7 @@
 The six functions that parse no arguments ignore any that are passed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 answer(IPV6 . '-g static', exits(0), '2001:db8::10/64?2001:db8::1');
 answer(IPV6 . '-l', exits(0), '1');

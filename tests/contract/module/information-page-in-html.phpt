@@ -4,8 +4,8 @@ A page's information block is one table with one header row.
 development
 --FILE--
 <?php
-include 'world.inc';
-$page = shell_exec('echo "<?php phpinfo(INFO_MODULES);" | php-cgi -q -n -d extension=' . getenv('WORLD_MODULE'));
+include 'scripted_platform.inc';
+$page = shell_exec('echo "<?php phpinfo(INFO_MODULES);" | php-cgi -q -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE'));
 preg_match('|<h2>.*>network</a></h2>\n(.*?)<h2>|s', $page, $block);
 echo trim($block[1]), "\n";
 --EXPECT--

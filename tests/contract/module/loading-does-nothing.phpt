@@ -2,9 +2,9 @@
 Loading the module and starting and ending a request leave no trace and ask nothing of the platform.
 --FILE--
 <?php
-include 'world.inc';
-echo shell_exec('LD_PRELOAD=' . dirname(getenv('WORLD_MODULE')) . '/libdovan_util.so ' . getenv('WORLD_PHP') .
-                ' -n -d extension=' . getenv('WORLD_MODULE') . ' -r "echo 1;" 2>&1'), "\n";
+include 'scripted_platform.inc';
+echo shell_exec('LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' . getenv('SCRIPTED_PLATFORM_PHP') .
+                ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' -r "echo 1;" 2>&1'), "\n";
 show_transcript();
 --EXPECT--
 1

@@ -4,8 +4,8 @@ The module loads from its own folder without any environment variable, and bring
 development
 --FILE--
 <?php
-include 'world.inc';
-echo shell_exec('cd / && env -i ' . getenv('WORLD_PHP') . ' -n -d extension=' . getenv('WORLD_MODULE') .
+include 'scripted_platform.inc';
+echo shell_exec('cd / && env -i ' . getenv('SCRIPTED_PLATFORM_PHP') . ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') .
                 ' -r "echo extension_loaded(\'network\');" 2>&1'), "\n";
 --EXPECT--
 1

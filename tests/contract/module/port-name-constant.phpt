@@ -2,9 +2,9 @@
 The name of the primary port is a platform text that is built when the module is loaded and goes when the process does.
 --FILE--
 <?php
-include 'world.inc';
-echo shell_exec('WORLD_SHOWS_TEXTS=1 LD_PRELOAD=' . dirname(getenv('WORLD_MODULE')) . '/libdovan_util.so ' .
-                getenv('WORLD_PHP') . ' -n -d extension=' . getenv('WORLD_MODULE') . ' -r "echo \'page\', PHP_EOL;" 2>&1');
+include 'scripted_platform.inc';
+echo shell_exec('WORLD_SHOWS_TEXTS=1 LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' .
+                getenv('SCRIPTED_PLATFORM_PHP') . ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' -r "echo \'page\', PHP_EOL;" 2>&1');
 --EXPECT--
 text "Primary Ethernet Connector" built
 page

@@ -2,7 +2,7 @@
 A worker starts with all signals blocked, and the calling thread has its own mask back, also when there is no thread to be had.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 
 function blocked_signals() {
   preg_match('/^SigBlk:\s*(\w+)$/m', implode('', file('/proc/self/status')), $mask);

@@ -4,7 +4,7 @@ Without scripts and without a readable database, every source that is asked is r
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 mkdir('/home/embedded/library/CoreService/dat/management.db');
 show(get_fw_settings(new Session()));
 show_lines('/^Warning/');

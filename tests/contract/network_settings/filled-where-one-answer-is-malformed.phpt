@@ -4,7 +4,7 @@ An answer without its fields is reported like one that cannot be read, and its p
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $ipv4 = array('-g host' => 'library-7', '-d status' => '10.20.0.105?255.255.255.0?10.20.0.1',
               '-g static' => '10.20.0.42?255.255.0.0?10.20.0.2', '-g port' => 'on?10?full');
 $ipv6 = array('-l' => '1', '-g static' => '2001:db8:20::10/48?fe80::1', '-g dns' => '10.20.0.1 2001:db8:20::1',

@@ -4,18 +4,18 @@ Whether the lease cannot be read or is malformed: the static settings, which are
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $ipv4 = array('-g host' => 'library-7', '-d status' => '10.20.0.105?255.255.255.0?10.20.0.1',
               '-g static' => '10.20.0.42?255.255.0.0?10.20.0.2', '-g port' => 'on?10?full');
 $ipv6 = array('-l' => '0', '-g static' => '', '-g dns' => 'disabled', '-g all' => '');
 answer_by_script(IPV6_SCRIPT, $ipv6);
 
 function show_asked() {
-  if (file_exists(world_file('asked'))) unlink(world_file('asked'));
+  if (file_exists(platform_file('asked'))) unlink(platform_file('asked'));
   $settings = get_fw_settings(new Session());
   show(array($settings->dhcpEnabled, $settings->ip, $settings->netmask, $settings->gateway));
   show_lines('/^Warning/');
-  $asked = preg_grep('/^ipv4/', file(world_file('asked')));
+  $asked = preg_grep('/^ipv4/', file(platform_file('asked')));
   sort($asked);
   echo implode('', $asked);
 }

@@ -4,7 +4,7 @@ What is switched off has its "off" value, of the same type, and nothing is repor
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $ipv4 = array('-g host' => 'library-7', '-d status' => '??', '-g static' => '10.20.0.42?255.255.0.0?10.20.0.2',
               '-g port' => 'off?100?half');
 $ipv6 = array('-l' => '0', '-g static' => '', '-g dns' => 'disabled', '-g all' => '');

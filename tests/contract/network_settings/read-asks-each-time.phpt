@@ -2,7 +2,7 @@
 Each call makes an object of its own: one that the page has got stays what it was.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('getNetworkSettings', 'name', 'first');
 $first = get_fw_settings(new Session());
 answer('getNetworkSettings', 'name', 'second', 'other', 'third');

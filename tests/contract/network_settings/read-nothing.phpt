@@ -2,7 +2,7 @@
 Where the utility library adds nothing, the object is empty.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('getNetworkSettings');
 show(get_fw_settings(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A thread without a handle of its own reads all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('thread', 'empty');
 answer('getNetworkSettings', 'name', 'value');
 show(get_fw_settings(new Session()));

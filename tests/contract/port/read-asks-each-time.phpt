@@ -2,7 +2,7 @@
 Each read asks again and gives an object of its own, which the page may change.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g port', exits(0), 'on?100?full');
 $first = get_eth2_port_settings(new Session());
 $first->Speed = 7;

@@ -2,7 +2,7 @@
 Words behind the third are left out.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('on?10?half?off', 'on?10?half?', '?on?10?half', 'on?10?full' . str_repeat('?half', 1000)) as $output) {
   answer(IPV4 . '-g port', exits(0), $output);
   show(get_eth2_port_settings(new Session()));

@@ -2,7 +2,7 @@
 A script that fails and prints nothing gives three unknown words: 0, 100 and -1.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g port', killed_by(9), '');
 show(get_eth2_port_settings(new Session()));
 show_transcript();

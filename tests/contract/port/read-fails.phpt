@@ -2,7 +2,7 @@
 A failure is reported, and what the script printed is read all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g port', exits(1), 'on?10');
 show(get_eth2_port_settings(new Session()));
 show_transcript();

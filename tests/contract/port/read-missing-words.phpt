@@ -2,7 +2,7 @@
 A missing word reads as an unknown one.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('', 'on', 'on?10', '?', '??', '?10?', 'half', '?half') as $output) {
   answer(IPV4 . '-g port', exits(0), $output);
   show(get_eth2_port_settings(new Session()));

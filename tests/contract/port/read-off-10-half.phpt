@@ -2,7 +2,7 @@
 Off, 10 and half are read as 0, 10 and 0.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g port', exits(0), 'off?10?half');
 show(get_eth2_port_settings(new Session()));
 show_transcript();

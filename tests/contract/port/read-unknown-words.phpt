@@ -2,7 +2,7 @@
 Of unknown words only the duplex is told to be unknown; another speed reads as 100, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g port', exits(0), 'on?1000?auto');
 show(get_eth2_port_settings(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_eth2_port_settings());
 show(get_eth2_port_settings(new Session(), 2));
 show(get_eth2_port_settings('admin'));

@@ -2,7 +2,7 @@
 The three words of the output become numbers. No service is asked and no session attached; the command is traced before it is run.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g port', exits(0), 'on?100?full');
 show(get_eth2_port_settings(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 Any number but zero means autonegotiation on and full duplex; the traces carry the numbers as they are.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-P on?100?full', exits(0), '');
 foreach (array(5, -1, 256, 65536, 2147483647, -2147483647 - 1) as $number) set_eth2_port_settings(new Session(), $number, 100, $number);
 show_lines('/^read|Parameter/');

@@ -2,7 +2,7 @@
 Each of the three settings is passed on by itself.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('on', 'off') as $autonegotiation) {
   foreach (array(10, 100) as $speed) {
     foreach (array('half', 'full') as $duplex) {

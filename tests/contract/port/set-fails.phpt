@@ -2,7 +2,7 @@
 A failure is reported; what the script printed is not traced.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array(exits(2), killed_by(9), -1) as $result) {
   answer(IPV4 . '-P on?100?full', $result, 'no such interface');
   show(set_eth2_port_settings(new Session(), 1, 100, 1));

@@ -2,7 +2,7 @@
 A speed that the port does not have is traced, between the other two, and replaced by 10; that is no failure.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-P off?10?half', exits(0), '');
 show(set_eth2_port_settings(new Session(), 0, 1000, 0));
 show_transcript();

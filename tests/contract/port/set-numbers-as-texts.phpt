@@ -2,7 +2,7 @@
 A text of digits, true and false are the numbers that the engine makes of them.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-P on?100?half', exits(0), '');
 set_eth2_port_settings(new Session(), true, '100', false);
 answer(IPV4 . '-P off?10?full', exits(0), '');

@@ -2,7 +2,7 @@
 Only 10 and 100 are speeds of the port; any other number is traced and becomes 10.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array(10, 100, 0, 1, 11, 99, 101, 1000, -10, -100, 2147483647) as $speed) {
   foreach (array(10, 100) as $possible) answer(IPV4 . "-P on?$possible?full", exits(0), '');
   set_eth2_port_settings(new Session(), 1, $speed, 1);

@@ -2,7 +2,7 @@
 What was read can be set as it is; an unknown duplex, -1, is then full.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('on?100?full', 'off?10?half', 'on?10?auto') as $output) {
   answer(IPV4 . '-g port', exits(0), $output);
   $settings = get_eth2_port_settings(new Session());

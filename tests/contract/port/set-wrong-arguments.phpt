@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_eth2_port_settings());
 show(set_eth2_port_settings(new Session(), 1, 100));
 show(set_eth2_port_settings(new Session(), 1, 100, 1, 1));

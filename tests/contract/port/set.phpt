@@ -2,7 +2,7 @@
 The settings go to the script as three words joined by question marks. No service is asked and no session attached, and the output is not traced.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-P on?100?full', exits(0), 'done');
 show(set_eth2_port_settings(new Session(), 1, 100, 1));
 show_transcript();

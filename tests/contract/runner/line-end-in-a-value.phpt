@@ -4,7 +4,7 @@ A line end in a value begins no new command.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'echo run >>/tmp/runs');
 set_network_hostname(new Session(), "library-8\ntouch /tmp/canary\n");
 echo implode('', file('/tmp/runs'));

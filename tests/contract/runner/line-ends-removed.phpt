@@ -4,7 +4,7 @@ All line ends at the end of an output are removed, and nothing else.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('library', 'library\n', 'library\n\n\n', 'library\r\n', '', '\n', '1\n', 'two\nlines\n', ' blanks \n', '\nfirst') as $output) {
   write_script(IPV4_SCRIPT, "printf '$output'");
   echo "$output -> ", text_of(get_network_hostname()), "\n";

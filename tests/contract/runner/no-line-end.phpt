@@ -4,7 +4,7 @@ Of an output without a line end nothing is removed.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'printf library');
 show(get_network_hostname());
 write_script(IPV6_SCRIPT, 'printf 1');

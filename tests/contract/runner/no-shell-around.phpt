@@ -4,7 +4,7 @@ Between the server and the script there is no further process: neither a shell n
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'echo $PPID');
 show(get_network_hostname() == getmypid());
 --EXPECT--

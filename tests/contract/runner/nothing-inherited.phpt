@@ -4,7 +4,7 @@ A script inherits no descriptor but the three standard ones.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $open = fopen('/etc/passwd', 'r');
 // The fourth descriptor is the listing's own.
 write_script(IPV4_SCRIPT, 'exec ls /proc/self/fd');

@@ -4,7 +4,7 @@ Many calls leave neither an open descriptor nor a child behind, whether their sc
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 function descriptors() {
   return count(glob('/proc/self/fd/*'));
 }

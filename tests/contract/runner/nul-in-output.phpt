@@ -4,7 +4,7 @@ What a script prints behind a NUL is not part of a text.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, "printf 'library\\000hidden'");
 show(get_network_hostname());
 show_lines('/^(TRACE|Warning)/');

@@ -4,7 +4,7 @@ A script that exits with 1 is reported, and what it printed counts all the same.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'echo library-7; exit 1');
 show(get_network_hostname());
 show(set_network_hostname(new Session(), 'library-8'));

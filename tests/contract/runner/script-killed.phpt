@@ -4,7 +4,7 @@ A script that a signal ends is reported, and what it printed until then counts.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'echo library-7; kill -KILL $$; echo not reached');
 show(get_network_hostname());
 show(set_network_hostname(new Session(), 'library-8'));

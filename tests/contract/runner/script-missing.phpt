@@ -4,7 +4,7 @@ A missing script is reported, and reading gives the empty text.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_network_hostname());
 show(set_network_hostname(new Session(), 'library-8'));
 show_lines('/^(TRACE|Warning)/');

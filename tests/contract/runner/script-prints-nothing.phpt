@@ -4,7 +4,7 @@ A script that succeeds and prints nothing gives the empty text; nothing is repor
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'exit 0');
 show(get_network_hostname());
 show(set_network_hostname(new Session(), 'library-8'));

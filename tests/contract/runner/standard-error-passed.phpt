@@ -4,7 +4,7 @@ What a script says on standard error reaches the server's, between the traces of
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'echo "what went wrong" >&2; echo library-7');
 show(get_network_hostname());
 show_transcript();

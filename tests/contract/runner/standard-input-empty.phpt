@@ -4,7 +4,7 @@ A script that reads standard input finds its end at once.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'cat; readlink /proc/self/fd/0');
 show(get_network_hostname());
 --EXPECT--

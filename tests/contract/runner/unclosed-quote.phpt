@@ -4,7 +4,7 @@ A value that leaves a double quote open makes no command: nothing runs, and the 
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'touch /tmp/canary');
 show(set_network_hostname(new Session(), 'library"8'));
 show(file_exists('/tmp/canary'));

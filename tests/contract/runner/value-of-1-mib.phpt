@@ -4,7 +4,7 @@ A value of 1 MiB, which the kernel takes in no command line, is reported as a fa
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'touch /tmp/canary');
 show(set_network_hostname(new Session(), str_repeat('n', 1048576)));
 show(file_exists('/tmp/canary'));

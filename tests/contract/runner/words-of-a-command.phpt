@@ -4,7 +4,7 @@ A value comes to the script as the words that blanks and double quotes make of i
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 // Prints what it was called with to a file: what it prints itself goes nowhere.
 write_script(IPV4_SCRIPT, 'printf "[%s]" "$@" >/tmp/words; echo >>/tmp/words');
 $values = array('library-8', 'two words', '  many   blanks  ', '"in quotes"', 'half" quoted"', '""', "it's", "'single quotes'",

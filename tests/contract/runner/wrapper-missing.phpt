@@ -4,7 +4,7 @@ Without the command wrapper no command can be run: that is reported, and the run
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'echo library-7');
 unlink('/usr/bin/cmdwrap');
 show(get_network_hostname());

@@ -4,7 +4,7 @@ A command wrapper that cannot be executed is reported, and the runner names it.
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 write_script(IPV4_SCRIPT, 'echo library-7');
 chmod('/usr/bin/cmdwrap', 0644);
 show(get_network_hostname());

@@ -2,7 +2,7 @@
 A number or true passed for a text is the text that the engine makes of it.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 foreach (array(42, -1, 1.5, true, false) as $name) {

@@ -2,7 +2,7 @@
 A property that refers to a variable carries what the variable holds.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 $session = new Session();
 $name = 'first';

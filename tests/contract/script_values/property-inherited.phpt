@@ -2,7 +2,7 @@
 A property that a class inherits is found like one of its own.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Child extends Session {
   var $page = 'network';
 }

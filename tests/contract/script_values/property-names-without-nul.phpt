@@ -2,7 +2,7 @@
 A script finds a boolean, an integer and a string property of a result under the plain name, without a NUL behind it.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 1);
 $settings = get_ssl_settings(new Session());
 show(isset($settings->isEnabled));

@@ -2,7 +2,7 @@
 A property that the page has added to a plain object is found.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', 'library');
 $session = new stdClass();
 set_network_hostname($session, 'library');

@@ -2,7 +2,7 @@
 True carries "1", a number its decimal text, any non-empty text itself.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class AnyUser {
   var $user;
 }

@@ -2,7 +2,7 @@
 A property that is missing, null, false, the empty text, zero, an array or an object carries no text.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class NoUser {
   var $name = 'admin';
 }

@@ -2,7 +2,7 @@
 A text result, like the trace of it, ends at its first NUL.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), "library\0hidden");
 show(get_network_hostname());
 answer(IPV4 . '-g host', exits(0), "\0hidden");

@@ -2,7 +2,7 @@
 A text result belongs to the page: changing it, or getting another, leaves the first as it is.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 $first = get_network_hostname();
 $changed = get_network_hostname();

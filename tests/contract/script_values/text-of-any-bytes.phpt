@@ -2,7 +2,7 @@
 Every byte but NUL comes back as it was printed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $bytes = '';
 for ($i = 1; $i < 256; ++$i) $bytes .= chr($i);
 answer(IPV4 . '-g host', exits(0), $bytes);

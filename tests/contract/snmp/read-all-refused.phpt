@@ -2,7 +2,7 @@
 When the services refuse everything, each failure with a report of its own is reported, and the settings are complete all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Failed');
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Failed');
 answer('IMgmtAppConfig.getReadCommunity', 'Failed');

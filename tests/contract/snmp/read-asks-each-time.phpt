@@ -2,7 +2,7 @@
 Each read asks the services again: nothing is remembered between calls.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3, 1, 2, 4, 5);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');

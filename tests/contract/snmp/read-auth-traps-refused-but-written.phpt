@@ -2,7 +2,7 @@
 Authentication traps are what the services have written, also when they then say that they failed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3, 4);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Failed', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');

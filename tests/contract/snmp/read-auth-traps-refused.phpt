@@ -2,7 +2,7 @@
 Authentication traps that the services refuse to tell about are reported and off.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3, 4);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Failed');
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');

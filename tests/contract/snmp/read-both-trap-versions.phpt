@@ -2,7 +2,7 @@
 An agent that sends traps of both versions is shown with both.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 5, 4);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');

@@ -2,7 +2,7 @@
 A report carries the code that the operation answered, also when that is zero.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', '0x00012345');
 answer('IMgmtAppConfig.getReadCommunity', '0x00000000');

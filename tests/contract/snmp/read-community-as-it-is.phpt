@@ -2,7 +2,7 @@
 The community is shown as it is, whatever characters it has.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'a b"c<%s%n>\'?\\d');

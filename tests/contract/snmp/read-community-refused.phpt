@@ -2,7 +2,7 @@
 A community that the services refuse to give is reported and empty.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3, 4);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Failed');

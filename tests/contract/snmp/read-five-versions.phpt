@@ -2,7 +2,7 @@
 Five versions, one more than a page of the list holds, are all read, in any order.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 5, 4, 3, 2, 1);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');

@@ -2,7 +2,7 @@
 Versions that are reported again and again, over three pages of the list, are each logged and change nothing more.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 3, 3, 3, 3, 1, 1, 1, 5, 3);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');

@@ -2,7 +2,7 @@
 Settings that are all off and an empty community are shown like that; version 1 traps are on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded');
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 0);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', '');

@@ -2,7 +2,7 @@
 Every code with the top bit set is a success: nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', '0x80000001', 1);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', '0xC0050006', 0);
 answer('IMgmtAppConfig.getReadCommunity', '0xFFFFFFFF', 'secret');

@@ -2,7 +2,7 @@
 Unknown version numbers do not hide the known ones around them.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 6, 2, 0, 5, '0xFFFFFFFF', 1);
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');

@@ -2,7 +2,7 @@
 Version numbers that mean nothing are logged, as integers, and set no property.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSNMPVersions', 'Succeeded', 0, 6, 7, 256, 260, '0x7FFFFFFF', '0x80000001', '0xFFFFFFFF');
 answer('IMgmtAppConfig.getAuthTrapsEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.getReadCommunity', 'Succeeded', 'public');

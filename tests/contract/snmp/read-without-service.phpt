@@ -2,7 +2,7 @@
 When the configuration service is not there, its operations fail like refused ones.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig', 'empty');
 show(get_snmp_settings(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 The caller's session is attached before the script runs; no interface is taken.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(TRAP_TEST, exits(0));
 $session = new Session();
 $session->user = 'operator';

@@ -2,7 +2,7 @@
 Every exit status but zero is the same failure, and the page gets no value in any case.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array(0, 1, 2, 126, 127, 128, 255) as $status) {
   answer(TRAP_TEST, exits($status), 0);
   show(restart_snmp(new Session()));

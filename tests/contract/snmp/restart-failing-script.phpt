@@ -2,7 +2,7 @@
 A script that exits with 1 is a failure: the error number, often 0, goes to standard error, and a report is made.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(TRAP_TEST, exits(1), 0);
 show(restart_snmp(new Session()));
 show_transcript();

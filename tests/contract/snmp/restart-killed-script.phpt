@@ -2,7 +2,7 @@
 A script that a signal ended is a failure like any other.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(TRAP_TEST, killed_by(9), 4);
 show(restart_snmp(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A shell that cannot be started is a failure like any other.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(TRAP_TEST, -1, 12);
 show(restart_snmp(new Session()));
 show_transcript();

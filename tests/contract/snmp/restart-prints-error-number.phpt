@@ -2,7 +2,7 @@
 What goes to standard error is the error number, not what the call returned.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(TRAP_TEST, exits(44), 11);
 show(restart_snmp(new Session()));
 show_transcript();

@@ -4,7 +4,7 @@ The script runs to its end without arguments, its output is not captured, and it
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 function restart_with($body) {
   write_script('/home/embedded/library/testTrapRegistration.sh', $body);
   show(restart_snmp(new Session()));

@@ -2,7 +2,7 @@
 A script that exits with 0 has succeeded, whatever error number is left.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(TRAP_TEST, exits(0), 5);
 show(restart_snmp(new Session()));
 show_transcript();

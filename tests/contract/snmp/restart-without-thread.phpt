@@ -2,7 +2,7 @@
 A thread without a handle of its own restarts all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('thread', 'empty');
 answer(TRAP_TEST, exits(1), 2);
 show(restart_snmp(new Session()));

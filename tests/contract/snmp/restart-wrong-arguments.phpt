@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(restart_snmp());
 show(restart_snmp(new Session(), 1));
 show(restart_snmp('admin'));

@@ -2,7 +2,7 @@
 A script that exits with 0 leaves the two trace lines: no other output, no report.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(TRAP_TEST, exits(0), 0);
 show(restart_snmp(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 When the services refuse everything, each step is tried and reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', 'Failed');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Failed');
 answer('IMgmtAppConfig.setReadCommunity', 'Failed');

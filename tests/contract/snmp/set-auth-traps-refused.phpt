@@ -2,7 +2,7 @@
 An authentication trap setting that the services refuse is reported; the other settings are made.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', 'Succeeded');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Failed');
 answer('IMgmtAppConfig.setReadCommunity', 'Succeeded');

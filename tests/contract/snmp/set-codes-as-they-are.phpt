@@ -2,7 +2,7 @@
 A report carries the code that the operation answered, also when that is zero.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', '0x00000000');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', '0x00012345');
 answer('IMgmtAppConfig.setReadCommunity', '0x7FFFFFFF');

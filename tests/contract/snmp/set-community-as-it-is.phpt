@@ -2,7 +2,7 @@
 The community is handed over as it is, whatever characters it has.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', 'Succeeded');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Succeeded');
 answer('IMgmtAppConfig.setReadCommunity', 'Succeeded');

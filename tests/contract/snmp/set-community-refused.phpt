@@ -2,7 +2,7 @@
 A community that the services refuse is reported; the agent is restarted all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', 'Succeeded');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Succeeded');
 answer('IMgmtAppConfig.setReadCommunity', 'Failed');

@@ -2,7 +2,7 @@
 The community is the text that its property carries, up to the first NUL, and empty where it carries none.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', 'Succeeded');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Succeeded');
 answer('IMgmtAppConfig.setReadCommunity', 'Succeeded');

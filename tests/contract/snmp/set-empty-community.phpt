@@ -2,7 +2,7 @@
 An empty community is handed over like any other: the services decide.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', 'Succeeded');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Succeeded');
 answer('IMgmtAppConfig.setReadCommunity', 'Succeeded');

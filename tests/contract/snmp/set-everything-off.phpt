@@ -2,7 +2,7 @@
 With everything off, version 3 is set alone; the community is set and the agent restarted all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', 'Succeeded');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Succeeded');
 answer('IMgmtAppConfig.setReadCommunity', 'Succeeded');

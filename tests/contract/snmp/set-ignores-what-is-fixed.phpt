@@ -2,7 +2,7 @@
 Versions 2 and 3, algorithm, encryption and port are not read: version 2 is not switched on without version 1, version 3 not off.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', 'Succeeded');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', 'Succeeded');
 answer('IMgmtAppConfig.setReadCommunity', 'Succeeded');

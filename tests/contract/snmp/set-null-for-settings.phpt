@@ -2,7 +2,7 @@
 Null for the settings changes nothing: no service is asked, and null is returned.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_snmp_settings(new Session(), null));
 show_refusals();
 --EXPECT--

@@ -2,7 +2,7 @@
 Every code with the top bit set is a success: nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSNMPVersions', '0x80000001');
 answer('IMgmtAppConfig.setAuthTrapsEnabled', '0xC0050006');
 answer('IMgmtAppConfig.setReadCommunity', '0xFFFFFFFF');

@@ -2,7 +2,7 @@
 Reading and setting take thread and configuration handles and attach no session; the thread handle is released last.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
 get_ssl_settings(new Session());

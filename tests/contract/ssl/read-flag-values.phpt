@@ -2,7 +2,7 @@
 Every value of the 32-bit flag but zero means on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('0', '1', '2', '0x100', '0x10000', '0x80000000', '0xFFFFFFFF') as $flag) {
   answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', $flag);
   show(get_ssl_settings(new Session()));

@@ -2,7 +2,7 @@
 SSL that is off is shown as off, with the same port and cipher.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 show(get_ssl_settings(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 SSL that is on is shown as on, with port and cipher.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 1);
 show(get_ssl_settings(new Session()));
 show_transcript();

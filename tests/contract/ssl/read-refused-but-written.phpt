@@ -2,7 +2,7 @@
 The mode is what the services have written, also when they then say that they failed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Failed', 1);
 show(get_ssl_settings(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A mode that the services refuse to tell is off, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Failed');
 show(get_ssl_settings(new Session()));
 show_transcript();

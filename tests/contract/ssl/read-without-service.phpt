@@ -2,7 +2,7 @@
 When the configuration service is not there, that is reported, and the mode is off.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig', 'empty');
 show(get_ssl_settings(new Session()));
 show_transcript();

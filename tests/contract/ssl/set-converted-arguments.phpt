@@ -2,7 +2,7 @@
 The wanted mode is on when the value is true to the engine.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 2);
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
 foreach (array(true, 1, -1, 256, 0.5, '1', 'on', 'false', false, 0, 0.0, '', '0') as $value) {

@@ -2,7 +2,7 @@
 The wanted mode is compared, as 0 or 1, with the whole 32-bit flag: any other value differs from both.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
 foreach (array(true, false) as $wanted) {
   foreach (array('0', '1', '2', '0x100', '0x10000', '0x80000000', '0xFFFFFFFF') as $flag) {

@@ -2,7 +2,7 @@
 SSL that has been switched off reads as off, with port and cipher, and is not switched off again.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
 set_ssl_settings(new Session(), false);

@@ -2,7 +2,7 @@
 SSL that is off already is not touched, though the restart has been announced.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 show(set_ssl_settings(new Session(), false));
 show_transcript();

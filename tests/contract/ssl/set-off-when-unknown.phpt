@@ -2,7 +2,7 @@
 A mode that the services refuse to tell counts as off: it is not switched off.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Failed');
 show(set_ssl_settings(new Session(), false));
 show_transcript();

@@ -2,7 +2,7 @@
 When the configuration service is not there, switching off is no different.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig', 'empty');
 show(set_ssl_settings(new Session(), false));
 show_transcript();

@@ -2,7 +2,7 @@
 Switching SSL off announces the restart, then changes the mode.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
 show(set_ssl_settings(new Session(), false));

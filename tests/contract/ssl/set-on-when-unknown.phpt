@@ -2,7 +2,7 @@
 A mode that the services refuse to tell counts as off: SSL is switched on.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Failed');
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
 show(set_ssl_settings(new Session(), true));

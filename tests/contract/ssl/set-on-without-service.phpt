@@ -2,7 +2,7 @@
 When the configuration service is not there, that is reported, the restart is announced all the same, and nothing is changed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig', 'empty');
 show(set_ssl_settings(new Session(), true));
 show_transcript();

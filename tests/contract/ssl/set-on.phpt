@@ -2,7 +2,7 @@
 Switching SSL on announces the restart, then changes the mode.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
 show(set_ssl_settings(new Session(), true));

@@ -2,7 +2,7 @@
 Every code with the top bit set is a success: nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 answer('IMgmtAppConfig.setSSLEnabled', '0xC0050006');
 show(set_ssl_settings(new Session(), true));

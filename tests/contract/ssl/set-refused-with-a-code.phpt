@@ -2,7 +2,7 @@
 A report carries the code that the change answered.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 1);
 answer('IMgmtAppConfig.setSSLEnabled', '0x00012345');
 show(set_ssl_settings(new Session(), false));

@@ -2,7 +2,7 @@
 A change that the services refuse is reported; the call ends as ever.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Succeeded', 0);
 answer('IMgmtAppConfig.setSSLEnabled', 'Failed');
 show(set_ssl_settings(new Session(), true));

@@ -2,7 +2,7 @@
 The current mode is what the services have written, also when they then say that they failed.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getSSLEnabled', 'Failed', 1);
 answer('IMgmtAppConfig.setSSLEnabled', 'Succeeded');
 show(set_ssl_settings(new Session(), false));

@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_ssl_settings());
 show(set_ssl_settings(new Session()));
 show(set_ssl_settings(new Session(), true, 1));

@@ -2,7 +2,7 @@
 What the log file holds already stays in front.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 unlink(TRACE_LOG);
 append_to(TRACE_LOG, "an older line\n");

@@ -2,16 +2,16 @@
 Lines of processes that write at the same time do not mix.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 unlink(TRACE_LOG);
-append_to(world_file('ask.php'), '<?php for ($i = 0; $i < 100; ++$i) get_network_hostname();');
+append_to(platform_file('ask.php'), '<?php for ($i = 0; $i < 100; ++$i) get_network_hostname();');
 $processes = array();
 for ($i = 0; $i < 8; ++$i) {
-  mkdir(world_file("of$i"));
+  mkdir(platform_file("of$i"));
   $words = array(rawurlencode(IPV4 . '-g host'), exits(0), str_repeat(chr(ord('a') + $i), 5000));
-  append_to(world_file("of$i/answers"), implode(' ', $words) . "\n");
-  $command = 'WORLD=' . world_file("of$i") . ' LD_PRELOAD=' . dirname(getenv('WORLD_MODULE')) . '/libdovan_util.so ' .
-             getenv('WORLD_PHP') . ' -n -d extension=' . getenv('WORLD_MODULE') . ' ' . world_file('ask.php');
+  append_to(platform_file("of$i/answers"), implode(' ', $words) . "\n");
+  $command = 'SCRIPTED_PLATFORM=' . platform_file("of$i") . ' LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' .
+             getenv('SCRIPTED_PLATFORM_PHP') . ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' ' . platform_file('ask.php');
   $processes[] = popen("$command 2>/dev/null", 'r');
 }
 foreach ($processes as $process) pclose($process);

@@ -2,7 +2,7 @@
 A missing log file is created.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 unlink(TRACE_LOG);
 get_network_hostname();

@@ -2,7 +2,7 @@
 On a full file system the log is lost in silence, and the calls work.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 $directory = dirname(TRACE_LOG);
 echo shell_exec("mount -t tmpfs -o size=4k log $directory 2>&1; head -c 4096 /dev/zero 2>&1 >$directory/filler");

@@ -2,7 +2,7 @@
 Without its directory the log is lost in silence: the directory is not made, and the calls work.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 answer('gethostname', 'library');
 rename(dirname(TRACE_LOG), dirname(TRACE_LOG) . '.away');

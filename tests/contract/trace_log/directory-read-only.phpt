@@ -2,7 +2,7 @@
 On a read-only file system the log is lost in silence, and the calls work.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 echo shell_exec('mount -t tmpfs -o ro log ' . dirname(TRACE_LOG) . ' 2>&1');
 show(@fopen(TRACE_LOG, 'a'));

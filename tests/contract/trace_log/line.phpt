@@ -2,7 +2,7 @@
 A line is the level, the time in brackets, the message, and the extra text between ":<" and ">".
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library-7');
 get_network_hostname();
 foreach (preg_grep('/^TRACE/', file(TRACE_LOG)) as $line) {

@@ -2,7 +2,7 @@
 No call keeps the log file open: one that is moved away is followed by a new one.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 unlink(TRACE_LOG);
 get_network_hostname();

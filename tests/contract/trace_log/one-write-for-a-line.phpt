@@ -2,14 +2,14 @@
 Each line is one open for appending, which no child inherits, one write and one close.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
-append_to(world_file('ask.php'), '<?php get_network_hostname();');
-shell_exec('strace -f -o ' . world_file('calls') . ' -e trace=openat,open,write,writev,pwrite64,close,fsync ' .
-           '-E LD_PRELOAD=' . dirname(getenv('WORLD_MODULE')) . '/libdovan_util.so ' . getenv('WORLD_PHP') .
-           ' -n -d extension=' . getenv('WORLD_MODULE') . ' ' . world_file('ask.php') . ' 2>/dev/null');
+append_to(platform_file('ask.php'), '<?php get_network_hostname();');
+shell_exec('strace -f -o ' . platform_file('calls') . ' -e trace=openat,open,write,writev,pwrite64,close,fsync ' .
+           '-E LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' . getenv('SCRIPTED_PLATFORM_PHP') .
+           ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' ' . platform_file('ask.php') . ' 2>/dev/null');
 $descriptor = null;
-foreach (file(world_file('calls')) as $call) {
+foreach (file(platform_file('calls')) as $call) {
   if (preg_match('/open.*php_extension\.log", ([A-Z_|]+).* = (\d+)/', $call, $parts)) {
     $flags = explode('|', $parts[1]);
     sort($flags);

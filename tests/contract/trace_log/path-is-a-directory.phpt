@@ -2,7 +2,7 @@
 When a directory stands in the log's place, the log is lost in silence.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-g host', exits(0), 'library');
 unlink(TRACE_LOG);
 mkdir(TRACE_LOG);

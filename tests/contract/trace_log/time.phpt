@@ -4,7 +4,7 @@ The time in a line is the local time at which it was written.
 date.timezone=Asia/Kathmandu
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 putenv('TZ=Asia/Kathmandu');
 answer(IPV4 . '-g host', exits(0), 'library');
 $before = time();

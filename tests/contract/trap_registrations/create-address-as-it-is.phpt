@@ -2,7 +2,7 @@
 An address is handed over as it is, whatever characters it has.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 show(create_snmp_trap_reg(new Session(), 1, '%s%n <"> \'a; $(reboot)', '162'));

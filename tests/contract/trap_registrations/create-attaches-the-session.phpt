@@ -2,7 +2,7 @@
 The caller's session is attached before the services are asked.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 $session = new Session();

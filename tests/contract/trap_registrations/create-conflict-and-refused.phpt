@@ -2,7 +2,7 @@
 A conflict and a refused creation are both reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Failed');
 answer('IMgmtAppConfig.createTrapRegistration', 'Failed');
 show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));

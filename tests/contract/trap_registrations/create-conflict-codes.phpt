@@ -2,7 +2,7 @@
 Whatever code but a success the check answers, the conflict has a code of its own.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 $codes = array('Failed', 'ElementNotFound', '0', '0x50040', '0x7FFFFFFF', '0x80000000', '0x80000001', '0xFFFFFFFF');

@@ -2,7 +2,7 @@
 An address that conflicts with the internal ones is reported after its handle is released, and the creation is tried all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Failed');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));

@@ -2,7 +2,7 @@
 A number for a text and a text for a number are what the engine makes of them.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 create_snmp_trap_reg(new Session(), '2', '192.0.2.9', 162);

@@ -2,7 +2,7 @@
 An empty address and an empty port are handed over: the services decide.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 show(create_snmp_trap_reg(new Session(), 0, '', ''));

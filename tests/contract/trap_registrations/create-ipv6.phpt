@@ -2,7 +2,7 @@
 An IPv6 address is handed over as it is.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 show(create_snmp_trap_reg(new Session(), 2, '2001:DB8::9', '1162'));

@@ -2,7 +2,7 @@
 A negative port is sent as its unsigned 32-bit form, all bits set for -1.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '-1'));

@@ -2,7 +2,7 @@
 A port text is read as the C library reads a number: blanks and a sign before the digits, nothing behind them; no range is checked.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 $ports = array('162', '0162', ' 162', '+162', '162abc', '16 2', '0x10', '1e3', '1.9', '65536',

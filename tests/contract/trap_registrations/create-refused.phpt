@@ -2,7 +2,7 @@
 A creation that the services refuse is reported with their code.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', '0x00012345');
 show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));

@@ -2,7 +2,7 @@
 Address and port count up to their first NUL.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 show(create_snmp_trap_reg(new Session(), 1, "192.0.2.9\0more", "16\0" . '2'));

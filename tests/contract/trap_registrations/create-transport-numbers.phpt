@@ -2,7 +2,7 @@
 The transport is handed over as it is: only the services give its numbers a meaning.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 foreach (array(0, 1, 2, 3, 99, -1, 2147483647, -2147483647 - 1) as $transport) {

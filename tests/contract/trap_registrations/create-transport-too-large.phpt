@@ -2,7 +2,7 @@
 A transport that no 32 bits hold does not turn into another one that has a meaning.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 create_snmp_trap_reg(new Session(), 4294967297, '192.0.2.9', '162');

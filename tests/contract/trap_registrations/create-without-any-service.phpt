@@ -2,7 +2,7 @@
 When neither service is there, both operations fail like refused ones.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary', 'empty');
 answer('IMgmtAppConfig', 'empty');
 show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));

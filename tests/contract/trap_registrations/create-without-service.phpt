@@ -2,7 +2,7 @@
 When the configuration service is not there, its operation fails like a refused one.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig', 'empty');
 show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));

@@ -2,7 +2,7 @@
 When the storage library is not there, its check fails like a conflict, and the creation is tried all the same.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary', 'empty');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));

@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $session = new Session();
 show(create_snmp_trap_reg());
 show(create_snmp_trap_reg($session, 1, '192.0.2.9'));

@@ -2,7 +2,7 @@
 A receiver is sent to the services with transport, address and port, and without an identifier, when its address conflicts with none.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IStorageLibrary.checkAddressConflict', 'Succeeded');
 answer('IMgmtAppConfig.createTrapRegistration', 'Succeeded');
 show(create_snmp_trap_reg(new Session(), 1, '192.0.2.9', '162'));

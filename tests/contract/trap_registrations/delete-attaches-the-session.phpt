@@ -2,7 +2,7 @@
 The caller's session is attached before the services are asked.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.deleteTrapRegistration', 'Succeeded');
 $session = new Session();
 $session->user = 'operator';

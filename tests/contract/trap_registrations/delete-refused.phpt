@@ -2,7 +2,7 @@
 A deletion that fails is not reported, whatever its code.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 foreach (array('Failed', 'MemoryAllocationFailure', '0', '0x12345', '0x7FFFFFFF') as $code) {
   answer('IMgmtAppConfig.deleteTrapRegistration', $code);
   show(delete_snmp_trap_reg(new Session(), '01020304-05060708-090a0b0c'));

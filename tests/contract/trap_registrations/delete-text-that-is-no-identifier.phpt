@@ -2,7 +2,7 @@
 A text that is no identifier asks to delete the one of all zeros, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.deleteTrapRegistration', 'ElementNotFound');
 $texts = array(
   '',

@@ -2,7 +2,7 @@
 Deleting an identifier that no receiver has reports nothing.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.deleteTrapRegistration', 'ElementNotFound');
 show(delete_snmp_trap_reg(new Session(), '01020304-05060708-090a0b0c'));
 show_transcript();

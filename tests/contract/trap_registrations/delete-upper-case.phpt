@@ -2,7 +2,7 @@
 An identifier in upper case is the same one.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.deleteTrapRegistration', 'Succeeded');
 show(delete_snmp_trap_reg(new Session(), 'FEDCBA98-76543210-ABCDEF00'));
 show_transcript();

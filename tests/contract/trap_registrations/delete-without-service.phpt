@@ -2,7 +2,7 @@
 When the configuration service is not there, nothing is deleted and nothing reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig', 'empty');
 show(delete_snmp_trap_reg(new Session(), '01020304-05060708-090a0b0c'));
 show_transcript();

@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(delete_snmp_trap_reg());
 show(delete_snmp_trap_reg(new Session()));
 show(delete_snmp_trap_reg(new Session(), '01020304-05060708-090a0b0c', 1));

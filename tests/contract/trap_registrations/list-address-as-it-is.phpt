@@ -2,7 +2,7 @@
 An address is shown as it is, whatever characters it has, also those that a format gives a meaning.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '00000000-00000000-00000000', 1, '%s%n%d - <\'&>\\', 162);
 show(get_snmp_trap_regs(new Session()));

@@ -2,7 +2,7 @@
 Each call asks the services again, and an array that the page has got stays what it was.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '01020304-05060708-090a0b0c', 1, '192.0.2.1', 162,
        '00000000-00000000-00000002', 2, '192.0.2.2', 65535);

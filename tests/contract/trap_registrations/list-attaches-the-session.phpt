@@ -2,7 +2,7 @@
 The caller's session is attached before the services are asked.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '01020304-05060708-090a0b0c', 1, '192.0.2.1', 162);
 $session = new Session();

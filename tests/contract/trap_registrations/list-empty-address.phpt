@@ -2,7 +2,7 @@
 A receiver without an address is listed with the empty text.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '00000000-00000000-00000001', 1, '', 162);
 show(get_snmp_trap_regs(new Session()));

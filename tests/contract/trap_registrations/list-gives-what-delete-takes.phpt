@@ -2,7 +2,7 @@
 Each identifier of the list, passed to the deletion as it is, is the one that the services gave.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '01020304-05060708-090a0b0c', 1, '192.0.2.1', 162,
        '00000000-00000000-00000002', 2, '192.0.2.2', 65535,

@@ -2,7 +2,7 @@
 The largest numbers that every integer holds are shown as they are.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '00000000-00000000-00000000', 2147483647, '192.0.2.1', 2147483647);
 show(get_snmp_trap_regs(new Session()));

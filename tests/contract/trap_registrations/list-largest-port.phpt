@@ -2,7 +2,7 @@
 A port of all bits is listed as that unsigned number; on standard error it is the signed one.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '00000000-00000000-00000000', 1, '192.0.2.1', 4294967295);
 foreach (get_snmp_trap_regs(new Session()) as $receiver) show($receiver->port);

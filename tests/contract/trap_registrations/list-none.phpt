@@ -2,7 +2,7 @@
 Without receivers, the list is an empty array, the count is traced, and nothing goes to standard error.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded');
 show(get_snmp_trap_regs(new Session()));
 show_transcript();

@@ -2,7 +2,7 @@
 A receiver is an object of transport, address, port and identifier, and a line on standard error.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '01020304-05060708-090a0b0c', 1, '192.0.2.1', 162);
 show(get_snmp_trap_regs(new Session()));

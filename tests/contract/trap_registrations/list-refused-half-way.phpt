@@ -2,7 +2,7 @@
 What the list holds counts, also when the services then say that they failed; nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Failed',
        '01020304-05060708-090a0b0c', 1, '192.0.2.1', 162,
        '00000000-00000000-00000002', 2, '192.0.2.2', 65535);

@@ -2,7 +2,7 @@
 A list that the services refuse is empty, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Failed');
 show(get_snmp_trap_regs(new Session()));
 show_transcript();

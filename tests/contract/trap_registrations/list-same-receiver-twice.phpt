@@ -2,7 +2,7 @@
 Receivers that differ in nothing are listed each.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '01020304-05060708-090a0b0c', 1, '192.0.2.1', 162,
        '01020304-05060708-090a0b0c', 1, '192.0.2.1', 162);

@@ -2,7 +2,7 @@
 Twenty receivers, over five pages of the list, are in the order of the services.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '00000001-00000000-00000001', 1, '192.0.2.1', 1001,
        '00000002-00000000-00000002', 1, '192.0.2.2', 1002,

@@ -2,7 +2,7 @@
 A receiver that cannot be read from the list is in the array with the values of a new record, not with those of the one before.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig.getTrapRegistrations', 'Succeeded',
        '01020304-05060708-090a0b0c', 1, '192.0.2.1', 162,
        '00000000-00000000-00000002', 2, '192.0.2.2', 65535,

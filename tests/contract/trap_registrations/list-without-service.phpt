@@ -2,7 +2,7 @@
 When the configuration service is not there, the list is empty, and nothing is reported.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('IMgmtAppConfig', 'empty');
 show(get_snmp_trap_regs(new Session()));
 show_transcript();

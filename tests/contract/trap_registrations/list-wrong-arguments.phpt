@@ -2,7 +2,7 @@
 A wrong argument is refused before anything else is done: the entry trace only, and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_snmp_trap_regs());
 show(get_snmp_trap_regs(new Session(), 1));
 show(get_snmp_trap_regs('admin'));

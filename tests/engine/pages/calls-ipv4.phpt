@@ -2,7 +2,7 @@
 The IPv4 settings are read as an object and applied by a worker that runs to its end.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Settings {
   var $hostname = 'library-8';
   var $dhcpEnabled = false;

@@ -2,7 +2,7 @@
 The IPv6 functions answer with objects, arrays and booleans, and the worker runs to its end.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Settings {
   var $staticEnabled = true;
   var $ipStatic = '2001:db8::10';

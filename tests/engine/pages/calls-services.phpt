@@ -2,7 +2,7 @@
 DNS servers, host name, SSL, the settings object and the secondary port are read and set.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Servers {
   var $dnsPrimary = '10.1.1.1';
   var $dnsSecondary = '192.168.250.2';

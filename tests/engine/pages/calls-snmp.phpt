@@ -2,7 +2,7 @@
 SNMP versions and trap receivers travel in lists that reach a second page, identifiers, ports and codes with their bytes in order.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Settings {
   var $version1 = true;
   var $trap1 = true;

@@ -2,7 +2,7 @@
 A numeric text, a fraction, a flag or null passed for a number is what the engine converts it to.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $port = IPV4 . '-P ';
 answer($port . 'on?100?full', exits(0), '');
 answer($port . 'off?10?half', exits(0), '');

@@ -2,7 +2,7 @@
 A function that takes arguments and gets none warns in the engine's words, does nothing and returns null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_network_configuration_ipv4());
 show(set_network_configuration_ipv4());
 show(get_network_configuration_ipv6());

@@ -2,7 +2,7 @@
 One argument more than a function takes is as wrong as one less.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_network_configuration_ipv4(new Session(), 1));
 show(set_network_configuration_ipv4(new Session(), new Session(), 1));
 show(get_network_configuration_ipv6(new Session(), 1));

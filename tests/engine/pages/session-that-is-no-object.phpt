@@ -2,7 +2,7 @@
 The first argument has to be an object; the others are not looked at before it.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_network_configuration_ipv4('admin'));
 show(set_network_configuration_ipv4('admin', new Session()));
 show(get_network_configuration_ipv6('admin'));

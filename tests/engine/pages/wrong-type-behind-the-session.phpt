@@ -2,7 +2,7 @@
 An argument behind the session that the engine cannot convert warns with its position and the type it should have.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_network_configuration_ipv4(new Session(), 'text'));
 show(set_network_configuration_ipv6(new Session(), 'text'));
 show(set_ipv6_enabled(new Session(), array()));

@@ -4,7 +4,7 @@ A page whose error handler throws when something is reported gets its own except
 development
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 function throw_warning($level, $message) {
   echo "handler called\n";
   throw new ErrorException($message, 0, $level);

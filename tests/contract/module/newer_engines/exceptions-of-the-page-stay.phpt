@@ -2,7 +2,7 @@
 An exception out of the page's own code, which runs while an argument is turned into a text, stays an exception, of whatever class.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Name {
   var $thrown;
   function __toString() {

@@ -2,7 +2,7 @@
 These are the functions, in the order of the table, with the names and types of their arguments; none is passed by reference.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $module = new ReflectionExtension('network');
 foreach ($module->getFunctions() as $function) {
   $arguments = array();

@@ -2,7 +2,7 @@
 Without an argument, each function that parses any leaves its entry trace only, warns and returns null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_network_configuration_ipv4());
 show(set_network_configuration_ipv4());
 show(get_network_configuration_ipv6());

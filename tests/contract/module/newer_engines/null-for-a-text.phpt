@@ -2,7 +2,7 @@
 Null for a text is what the engine makes of it, the empty text; nothing but the engine's own remark is added.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer('gethostname', '');
 show(set_network_hostname(new Session(), null));
 show_transcript();

@@ -2,7 +2,7 @@
 An object that can be turned into a text is accepted as one.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 class Name {
   function __toString() {
     return 'library';

@@ -2,7 +2,7 @@
 With one argument too many, each function that parses any leaves its entry trace only, warns and returns null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_network_configuration_ipv4(new Session(), 1));
 show(set_network_configuration_ipv4(new Session(), new Session(), 1));
 show(get_network_configuration_ipv6(new Session(), 1));

@@ -2,7 +2,7 @@
 The module is "network" 0.1, without settings, constants, classes or dependencies.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 $module = new ReflectionExtension('network');
 show($module->getName());
 show($module->getVersion());

@@ -2,7 +2,7 @@
 A session that is no object leaves the entry trace only, a warning and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(get_network_configuration_ipv4('admin'));
 show(set_network_configuration_ipv4('admin', new Session()));
 show(get_network_configuration_ipv6('admin'));

@@ -2,7 +2,7 @@
 The stub for editors has the module's functions in the same order, each with its arguments and a comment.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 function argument_text($argument) {
   return ($argument->isPassedByReference() ? '&' : '') . $argument->getType() . ' $' . $argument->getName();
 }
@@ -12,7 +12,7 @@ foreach ($module->getFunctions() as $function) {
   $arguments = implode(', ', array_map('argument_text', $function->getParameters()));
   $of_module[] = 'function ' . $function->getName() . "($arguments): " . $function->getReturnType() . ' {}';
 }
-$stub = implode('', file(world_file('src') . '/network.stub.php'));
+$stub = implode('', file(platform_file('src') . '/network.stub.php'));
 preg_match_all('/^function .*/m', $stub, $of_stub);
 preg_match_all('|^ \*/\nfunction .*|m', $stub, $commented);
 foreach (array_diff_assoc($of_module, $of_stub[0]) as $line) echo "only the module has: $line\n";

@@ -2,7 +2,7 @@
 A wrong argument is no exception: nothing is there to be caught.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 try {
   show(set_network_hostname('admin', 'library-8'));
   echo "went on\n";

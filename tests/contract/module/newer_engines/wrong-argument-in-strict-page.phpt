@@ -7,5 +7,5 @@ $result = set_network_hostname(new stdClass(), 42);
 echo $result === null ? "null\n" : "not null\n";
 --EXPECT--
 
-Warning: set_network_hostname(): Argument #2 ($name) must be of type string, int given in /tmp/world/page.php on line 3
+Warning: set_network_hostname(): Argument #2 ($name) must be of type string, int given in /tmp/scripted_platform/page.php on line 3
 null

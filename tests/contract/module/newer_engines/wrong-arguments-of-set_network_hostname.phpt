@@ -2,7 +2,7 @@
 Wrong arguments of set_network_hostname are a warning in the engine's own words; the call leaves its entry trace and returns null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_network_hostname());
 show(set_network_hostname(new Session()));
 show(set_network_hostname(new Session(), 'library-8', 'more'));

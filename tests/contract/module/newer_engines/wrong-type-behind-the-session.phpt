@@ -2,7 +2,7 @@
 An argument behind the session of a type that the engine does not convert leaves the entry trace only, a warning and null.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 show(set_network_configuration_ipv4(new Session(), 'text'));
 show(set_network_configuration_ipv6(new Session(), 'text'));
 show(set_ipv6_enabled(new Session(), array()));

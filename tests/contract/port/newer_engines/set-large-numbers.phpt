@@ -2,7 +2,7 @@
 On engines with 64-bit integers, a number beyond 32 bits is neither taken for its lower half nor for zero; the traces carry the nearest number that they can.
 --FILE--
 <?php
-include 'world.inc';
+include 'scripted_platform.inc';
 answer(IPV4 . '-P on?10?full', exits(0), '');
 foreach (array(4294967296, -4294967296, PHP_INT_MAX, PHP_INT_MIN) as $number) {
   set_eth2_port_settings(new Session(), $number, 10, $number);

@@ -1,0 +1,46 @@
+# shellcheck shell=bash disable=SC2034
+# Where the appliance's files are, and putting the program there. To be sourced by bash.
+
+EMBEDDED=/home/embedded
+LIBRARY=$EMBEDDED/library
+APP_MANAGER=$LIBRARY/AppManager
+CORE_SERVICE=$LIBRARY/CoreService
+WEB_SERVER=$LIBRARY/HTTPService/lighttpd
+PAGES_FOLDERS=(htdocs shared templates) # the document root, and what its pages share
+IN_PLACE=$APP_MANAGER/dat/in-place # tells the device scripts to leave the interfaces alone
+APP_RUN=/run/appmanager
+WEB_RUN=$APP_RUN/web
+COMMAND_WRAPPER=/usr/bin/cmdwrap
+MODULE_FILES=(network.so libTarn.so libVelm.so libdovan_util.so)
+MODULE_CONFIGURATION=50-network.ini # in the folders that the interpreters read settings from
+
+# Sets PHP_EXTENSION_DIR, and PHP_CONFIGURATION_DIRS of the command line and of the web service.
+ask_php_for_its_places() {
+  local ask='<?php echo PHP_EXTENSION_DIR, "\n", PHP_CONFIG_FILE_SCAN_DIR, "\n";' interpreter directory
+  PHP_CONFIGURATION_DIRS=()
+  for interpreter in php php-cgi; do
+    { read -r PHP_EXTENSION_DIR && read -r directory; } < <("$interpreter" -n -q <<<"$ask")
+    PHP_CONFIGURATION_DIRS+=("$directory")
+  done
+}
+
+# What belongs to the program, put in place afresh below ROOT; settings that are there stay.
+install_program() {
+  local root=$1 source=$2 build=$3 directory
+  install -D -m 755 "$build/cmdwrap" "$root$COMMAND_WRAPPER" &&
+    install -D -m 644 -t "$root$PHP_EXTENSION_DIR" "${MODULE_FILES[@]/#/$build/}" || return
+  for directory in "${PHP_CONFIGURATION_DIRS[@]}"; do
+    mkdir -p "$root$directory" &&
+      printf '%s\n' 'extension=network.so' '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
+        >"$root$directory/$MODULE_CONFIGURATION" || return
+  done
+  mkdir -p "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat} "$root$WEB_SERVER"/{conf/extra,logs} &&
+    mkdir -p "${PAGES_FOLDERS[@]/#/$root$WEB_SERVER/}" &&
+    install -m 755 -t "$root$APP_MANAGER/bin" "$source"/appliance/device/scripts/* &&
+    install -m 755 -t "$root$CORE_SERVICE/bin" "$build/management_database" &&
+    install -D -m 644 -t "$root$APP_MANAGER/etc" "$source/appliance/device/etc/internal_networks" &&
+    install -m 644 -t "$root$WEB_SERVER/conf" "$source/appliance/device/etc/lighttpd.conf" || return
+  # The one script that the device keeps elsewhere.
+  local trap_test=$root$APP_MANAGER/bin/testTrapRegistration.sh
+  [[ ! -e $trap_test ]] || mv "$trap_test" "$root$LIBRARY/"
+}

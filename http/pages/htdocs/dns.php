@@ -1,0 +1,53 @@
+<?php
+require dirname(dirname(__FILE__)) . '/shared/page.php';
+
+class DnsSettings
+{
+    var $dnsPrimary;
+    var $dnsSecondary;
+}
+
+$session = signed_in();
+$settings = get_network_dns($session);
+$errors = array();
+if (is_post()) {
+    $settings = new DnsSettings();
+    $settings->dnsPrimary = posted('dnsPrimary');
+    $settings->dnsSecondary = posted('dnsSecondary');
+    $errors = dns_errors($settings);
+    if (!$errors) {
+        begin_change();
+        set_network_dns($session, $settings);
+        if (!change_failed()) {
+            go_to('dns.php', $settings->dnsPrimary == '' ? 'The DNS servers are removed.' : 'The DNS servers are set.');
+        }
+        $errors = is_internal_address() ? internal_address_errors($settings) : array();
+    }
+}
+show('dns', array('title' => 'DNS', 'lead' => 'The servers that the appliance asks for the addresses of names.',
+    'settings' => $settings, 'errors' => $errors));
+
+function dns_errors($settings)
+{
+    $errors = array();
+    foreach (array('dnsPrimary', 'dnsSecondary') as $field) {
+        $error = $settings->$field == '' ? '' : host_error($settings->$field);
+        if ($error != '') {
+            $errors[$field] = $error;
+        }
+    }
+    if ($settings->dnsPrimary == '' && $settings->dnsSecondary != '') {
+        $errors['dnsPrimary'] = 'Enter the only server here and leave the second one empty.';
+    }
+    return $errors;
+}
+
+// The appliance does not say which of them it refuses.
+function internal_address_errors($settings)
+{
+    if ($settings->dnsSecondary == '') {
+        return array('dnsPrimary' => 'This address is used inside the appliance. Enter a server of your own network.');
+    }
+    $error = 'This address or the other one is used inside the appliance. Enter servers of your own network.';
+    return array('dnsPrimary' => $error, 'dnsSecondary' => $error);
+}

@@ -1,0 +1,80 @@
+<?php
+// What the module reports, collected so that a page can say it.
+
+define('INTERNAL_ADDRESS', '0x00050040'); // the module's code
+
+$failures = array(); // each an array of 'message', 'code', 'place', 'advice'
+$failures_before_change = 0;
+
+// The error handler: a failure of the module is a warning with a code; anything else is a fault of the pages.
+function note_failure($level, $message, $file, $line)
+{
+    if (!(error_reporting() & $level)) {
+        return true;
+    }
+    $report = '/^(?:\w+\(\)(?: \[[^\]]*\])?: )?(.*) \(code (0x[0-9A-F]{8}), (\S+:[0-9]+)\)$/s';
+    if (preg_match($report, $message, $found)) {
+        $GLOBALS['failures'][] = array('message' => $found[1], 'code' => $found[2], 'place' => $found[3],
+            'advice' => advice_on($found[1], $found[2]));
+    } else {
+        error_log($message . ' in ' . $file . ' on line ' . $line);
+        $GLOBALS['failures'][] = array('message' => 'This page has a fault', 'code' => '', 'place' => '',
+            'advice' => 'What it shows may be incomplete. The web server\'s error log has the details.');
+    }
+    return true;
+}
+
+function failed()
+{
+    return count($GLOBALS['failures']) > 0;
+}
+
+// To be called just before the module is asked to change something: what could not be read until then is shown
+// as well, but is no failure of the change. The rest of the session does not wait for the appliance.
+function begin_change()
+{
+    leave_session();
+    $GLOBALS['failures_before_change'] = count($GLOBALS['failures']);
+}
+
+function change_failed()
+{
+    return count($GLOBALS['failures']) > $GLOBALS['failures_before_change'];
+}
+
+// Whether the change was refused because an address belongs to the network inside the appliance.
+function is_internal_address()
+{
+    foreach (array_slice($GLOBALS['failures'], $GLOBALS['failures_before_change']) as $failure) {
+        if ($failure['code'] == INTERNAL_ADDRESS) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// What a person can do about it.
+function advice_on($message, $code)
+{
+    if ($code == INTERNAL_ADDRESS) {
+        return 'The address belongs to the network inside the appliance, which nothing outside of it may use.'
+            . ' Choose an address of your own network.';
+    }
+    $advice = array(
+        'Could not set library hostname' => 'The appliance refused the name and keeps the old one.',
+        'Could not get IPv4 network information' => 'Address, netmask and gateway are not known.'
+            . ' Check that a DHCP server answers, or set a static address.',
+        'Failed to set DNS addresses.' => 'The appliance refused the servers and keeps the old ones.',
+        'Failed to set port settings.' => 'The port keeps its old settings.',
+        'Could not set SSL settings' => 'The web server stays in its old mode.',
+        'Could not create trap registration' => 'The receiver was not added. There can be 20 at most.',
+        'Failed to restart/test trap registration' =>
+            'At least one receiver could not be sent to. Check the addresses and ports in the list.',
+        'Could not set the community' => 'The agent keeps its old community.',
+        'Could not restart SNMP' => 'The settings are stored, but the agent does not answer.',
+        // The module's words for a question that has nothing to do with the host name.
+        'Could not get hostname information' => 'The answer of a device script is missing: the host name, or, on'
+            . ' the page for IPv6, whether router advertisements are on.'
+    );
+    return isset($advice[$message]) ? $advice[$message] : 'The trace log under Diagnostics shows what was tried.';
+}
