@@ -16,7 +16,7 @@ run_test_files() {
     files=("${@/#/$folder/}")
     files=("${files[@]/%/.test}")
   fi
-  mkdir -p "$logs" || return
+  rm -rf "$logs" && mkdir -p "$logs" || return
   for file in "${files[@]}"; do
     [[ -x $file ]] || { echo "There is no test $file." >&2 && return 2; }
     if ((running == at_once)); then
