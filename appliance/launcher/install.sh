@@ -36,7 +36,7 @@ install_program() {
   done
   mkdir -p "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat} "$root$WEB_SERVER"/{conf/extra,logs} &&
     mkdir -p "${PAGES_FOLDERS[@]/#/$root$WEB_SERVER/}" &&
-    install -m 755 -t "$root$APP_MANAGER/bin" "$source"/appliance/device/scripts/* &&
+    install -m 755 -t "$root$APP_MANAGER/bin" "$source"/appliance/device/scripts/* "$build/checkSettings" &&
     install -m 755 -t "$root$CORE_SERVICE/bin" "$build/management_database" &&
     install -D -m 644 -t "$root$APP_MANAGER/etc" "$source/appliance/device/etc/internal_networks" &&
     install -m 644 -t "$root$WEB_SERVER/conf" "$source/appliance/device/etc/lighttpd.conf" || return

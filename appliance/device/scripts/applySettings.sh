@@ -2,17 +2,56 @@
 # Puts all stored settings into force. Run once when the appliance starts; what fails is said, and the rest
 # is put into force all the same.
 
+# shellcheck disable=SC2154 # variables are set by the functions that read into them
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
-# shellcheck source=SCRIPTDIR/apply.sh
-. "$BIN/apply.sh"
+# shellcheck source=SCRIPTDIR/settings.sh
+. "$BIN/settings.sh"
+# shellcheck source=SCRIPTDIR/change.sh
+. "$BIN/change.sh"
 
-lock_settings
-status=0
-for apply in apply_host_name apply_port apply_dhcpv6 apply_ipv4 apply_name_servers; do
-  "$apply" || {
+# put_into_force APPLY NAME...: the settings named, with the function APPLY. A change that was interrupted and that cannot
+# be brought to its end is taken back.
+put_into_force() {
+  apply=$1
+  shift
+  for name; do put_aside_damaged "$name"; done
+  if ! "$apply"; then
+    taken_back=
+    for name; do
+      [ -f "$SETTINGS/$name.before" ] && restore_before "$name" && taken_back="$taken_back $name"
+    done
+    [ -n "$taken_back" ] && complain "back to the settings of before the last change:$taken_back" && "$apply"
+  fi || {
     complain "$apply failed"
     status=1
   }
-done
+  for name; do forget_before "$name"; done
+}
+
+# put_aside_damaged NAME: what is stored but is no setting, cut off or overwritten, counts as missing.
+put_aside_damaged() {
+  [ -e "$SETTINGS/$1" ] || return 0
+  if read_stored stored "$1" && is_right "$1" "$stored"; then return; fi
+  complain "the stored setting \"$1\" is damaged and counts as missing; it is kept as $SETTINGS/$1.damaged"
+  rm -rf "$SETTINGS/$1.damaged"
+  mv -fT "$SETTINGS/$1" "$SETTINGS/$1.damaged" || status=1
+}
+
+# is_right NAME TEXT: static settings are judged as when they were set.
+is_right() {
+  case "$1 $2" in
+  'ipv4 static '*) "$BIN/checkSettings" ipv4 "${2#static }" ;;
+  'ipv6 '?*) "$BIN/checkSettings" ipv6 "$2" ;;
+  esac
+}
+
+mkdir -p "$SETTINGS" 2>/dev/null
+lock_settings
+status=0
+put_into_force apply_host_name hostname
+put_into_force apply_port port
+put_into_force apply_ipv6 stateless dhcpv6 ipv6
+put_into_force apply_ipv4 ipv4
+put_into_force apply_name_servers dns
 exit $status

@@ -2,6 +2,7 @@
 # Brings the web service into the SSL mode of the management database. A running web server starts anew in
 # that mode when the answers under way have gone out.
 # shellcheck disable=SC2016 # the variables are the web server's
+# shellcheck disable=SC2154 # variables are set by the functions that read into them
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
 # shellcheck source=SCRIPTDIR/management.sh
@@ -30,8 +31,8 @@ certificate_names() {
 # it is about to end.
 require_certificate() {
   names=$(certificate_names)
-  read_line "$CERTIFICATE_NAMES"
-  if [ "$line" != "$names" ] || [ ! -s "$KEY" ] ||
+  read_line names_of_before "$CERTIFICATE_NAMES"
+  if [ "$names_of_before" != "$names" ] || [ ! -s "$KEY" ] ||
     ! openssl x509 -checkend "$RENEWED_BEFORE" -noout -in "$CERTIFICATE" >/dev/null 2>&1; then
     (umask 077 && make_certificate "$names") 2>"$RUN/certificate.log" ||
       fail "no certificate can be made: $(tail -n 1 "$RUN/certificate.log")"

@@ -1,9 +1,6 @@
-# What the device scripts share: where things are, reading settings, and refusing values. Sourced by the
-# scripts beside it, which are called by their full path.
-#
-# A setting is one line in one file below $SETTINGS. Reading one takes no lock and starts no process;
-# apply.sh is what changes them.
-# shellcheck shell=sh
+# What the device scripts share: where things are, and how they say what is wrong. Sourced by the scripts
+# beside it, which are called by their full path.
+# shellcheck shell=sh disable=SC2034 # for those that source this
 
 set -fu
 umask 022
@@ -15,21 +12,13 @@ LIBRARY=${APP_MANAGER%/AppManager}
 
 SETTINGS=$APP_MANAGER/dat
 IN_PLACE=$SETTINGS/in-place # while it exists, settings are stored but not put into force
-INTERNAL_NETWORKS=$APP_MANAGER/etc/internal_networks
 IPV6_ENABLED=$LIBRARY/CoreService/dat/ipv6Enabled
-IPV6_DHCP=/etc/ipv6dhcp
-RESOLVER=/etc/resolv.conf
 PRIMARY=eth0
 SECONDARY=eth2
 
-# What the DHCP clients have learned: gone after a restart, as they are.
+# What is learned and made while the device runs: gone after a restart.
 RUN=/run/appmanager
 DHCPV4_LEASE=$RUN/dhcpv4.lease
-DHCPV4_SERVERS=$RUN/dhcpv4.dns
-DHCPV6_SERVERS=$RUN/dhcpv6.dns
-
-ABSENT_IPV4='??'
-UNKNOWN_IPV4='0.0.0.0?0.0.0.0?0.0.0.0'
 
 complain() {
   printf '%s: %s\n' "${0##*/}" "$1" >&2
@@ -70,27 +59,13 @@ in_place() {
   [ -e "$IN_PLACE" ]
 }
 
-# read_line FILE [DEFAULT]: the first line of the file, or the default, in $line.
+# set_variable VARIABLE TEXT
+set_variable() {
+  eval "$1=\$2"
+}
+
+# read_line VARIABLE FILE [DEFAULT]: the first line of the file, or the default, into the variable.
 read_line() {
-  line=${2-}
-  [ ! -r "$1" ] || IFS= read -r line <"$1"
-}
-
-# read_setting NAME: the setting, or what a new appliance starts with, in $line.
-read_setting() {
-  case $1 in
-  ipv4) read_line "$SETTINGS/$1" "dhcp $ABSENT_IPV4" ;; # "dhcp" or "static", and the static settings
-  port) read_line "$SETTINGS/$1" 'on?100?full' ;;
-  stateless) read_line "$SETTINGS/$1" 1 ;;
-  dhcpv6) read_line "$SETTINGS/$1" off ;;
-  dns) read_line "$SETTINGS/$1" ' ' ;; # primary, blank, secondary; each may be empty
-  *) read_line "$SETTINGS/$1" ;;       # "hostname" and "ipv6", the static settings: empty when there are none
-  esac
-}
-
-# change COMMAND...: only a change needs what changing takes.
-change() {
-  # shellcheck source=SCRIPTDIR/apply.sh
-  . "$BIN/apply.sh"
-  "$@"
+  set_variable "$1" "${3-}"
+  [ ! -f "$2" ] || [ ! -r "$2" ] || IFS= read -r "$1" <"$2"
 }

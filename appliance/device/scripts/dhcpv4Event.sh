@@ -2,20 +2,22 @@
 # What becomes of the DHCP client's news. Called by udhcpc with the event's name and the lease in $ip, $subnet,
 # $router and $dns.
 
+# shellcheck disable=SC2154 # variables are set by the functions that read into them
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
-# shellcheck source=SCRIPTDIR/apply.sh
-. "$BIN/apply.sh"
+# shellcheck source=SCRIPTDIR/settings.sh
+. "$BIN/settings.sh"
+# shellcheck source=SCRIPTDIR/change.sh
+. "$BIN/change.sh"
 
 take_lease() {
-  gateway=${router-}
-  lease="${ip:?}?${subnet:?}?${gateway%% *}"
-  [ -n "$gateway" ] || lease=$lease${UNKNOWN_IPV4##*\?}
-  read_line "$DHCPV4_LEASE"
-  if [ "$lease" != "$line" ]; then
+  routers=${router:-$UNKNOWN_IPV4_ADDRESS}
+  lease="${ip:?}?${subnet:?}?${routers%% *}"
+  read_line lease_of_before "$DHCPV4_LEASE"
+  if [ "$lease" != "$lease_of_before" ]; then
     clear_ipv4 && assign_ipv4 "$lease" && replace_file "$DHCPV4_LEASE" "$lease" || exit 1
   fi
-  replace_file "$DHCPV4_SERVERS" "${dns-}" && apply_name_servers
+  take_name_servers "$DHCPV4_SERVERS" "${dns-}"
 }
 
 case ${1-} in

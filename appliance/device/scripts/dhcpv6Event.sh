@@ -2,14 +2,17 @@
 # What becomes of the DHCPv6 client's news. Called by dhcpcd with the event in $reason; the address is the
 # client's own business.
 
+# shellcheck disable=SC2154 # variables are set by the functions that read into them
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
-# shellcheck source=SCRIPTDIR/apply.sh
-. "$BIN/apply.sh"
+# shellcheck source=SCRIPTDIR/settings.sh
+. "$BIN/settings.sh"
+# shellcheck source=SCRIPTDIR/change.sh
+. "$BIN/change.sh"
 
 case ${reason-} in
 BOUND6 | REBOOT6 | RENEW6 | REBIND6)
-  replace_file "$DHCPV6_SERVERS" "${new_dhcp6_name_servers-}" && apply_name_servers
+  take_name_servers "$DHCPV6_SERVERS" "${new_dhcp6_name_servers-}"
   ;;
 EXPIRE6 | RELEASE6 | STOP6) drop_name_servers "$DHCPV6_SERVERS" ;;
 esac

@@ -4,8 +4,24 @@
 
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
-# shellcheck source=SCRIPTDIR/apply.sh
-. "$BIN/apply.sh"
+# shellcheck source=SCRIPTDIR/settings.sh
+. "$BIN/settings.sh"
+# shellcheck source=SCRIPTDIR/change.sh
+. "$BIN/change.sh"
+
+TRIES=10
+PAUSE=3 # seconds
+
+# Waits for its turn as long as that takes, and tries again when IPv6 could not be switched: nobody else will.
+follow_flag() {
+  tries=1
+  # The lock goes with the subshell.
+  until (take_settings_lock && sync_ipv6); do
+    [ "$tries" -lt "$TRIES" ] || fail "IPv6 could not be switched in $TRIES tries"
+    tries=$((tries + 1))
+    sleep "$PAUSE"
+  done
+}
 
 mkdir -p "${IPV6_ENABLED%/*}" "$RUN" || fail "the folder of $IPV6_ENABLED cannot be made"
 news=$RUN/ipv6Flag.news
@@ -13,18 +29,18 @@ rm -f "$news"
 mkfifo "$news" || fail "$news cannot be made"
 inotifywait --monitor --event create,delete,moved_to,moved_from --include "/${IPV6_ENABLED##*/}\$" \
   --format 'The flag has changed.' "${IPV6_ENABLED%/*}" >"$news" 2>&1 &
-watcher=$!
-trap 'kill "$watcher"; exit' TERM INT
+watcher=$! follower=
+trap 'kill "$watcher" $follower 2>/dev/null; exit' TERM INT # the follower may have ended a moment ago
 
 # The first news is that the watch stands: only now can no change be missed.
-while read -r line; do
-  case $line in
+while read -r event; do
+  case $event in
   'Watches established.' | 'The flag has changed.')
-    # The lock goes with the subshell.
-    (
-      lock_settings
-      sync_ipv6
-    ) </dev/null
+    # In the background, so that the order to end is heard meanwhile.
+    follow_flag </dev/null &
+    follower=$!
+    wait "$follower"
+    follower=
     ;;
   esac
 done <"$news"

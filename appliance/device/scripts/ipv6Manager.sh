@@ -16,25 +16,27 @@
 # error when a value is wrong, with 44 when a name server lies in an internal network, with 1 when a right
 # value could not be put into force. Then everything is as before.
 
+# shellcheck disable=SC2154 # variables are set by the functions that read into them
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
+# shellcheck source=SCRIPTDIR/settings.sh
+. "$BIN/settings.sh"
 
 SYNOPSIS='-l, -L 1|0, -c -d on|off, -c -s A/P?G, -r, -g static, -g all, -g dns, -D "P S"'
-INTERNAL_ADDRESS=44
 
 print_stateless() {
-  read_setting stateless
-  printf '%s\n' "$line"
+  read_setting stateless stateless
+  printf '%s\n' "$stateless"
 }
 
 print_static() {
-  read_setting ipv6
-  [ -z "$line" ] || printf '%s\n' "$line"
+  read_setting static ipv6
+  [ -z "$static" ] || printf '%s\n' "$static"
 }
 
 print_name_servers() {
-  read_setting dns
-  primary=${line%% *} secondary=${line#* }
+  read_setting stored_servers dns
+  primary=${stored_servers%% *} secondary=${stored_servers#* }
   printf '%s\n' "${primary:-disabled}${secondary:+ $secondary}"
 }
 
@@ -98,69 +100,36 @@ write_address() {
 
 switch_stateless() {
   case $1 in 0 | 1) ;; *) refuse 'stateless addressing' "$1" 'is neither 1 nor 0' ;; esac
+  lock_settings
   change_setting stateless "$1" apply_ipv6
 }
 
 switch_dhcpv6() {
   case $1 in on | off) ;; *) refuse 'DHCPv6' "$1" 'is neither on nor off' ;; esac
-  change_setting dhcpv6 "$1" apply_dhcpv6
+  lock_settings
+  change_setting dhcpv6 "$1" apply_ipv6
 }
 
 set_static() {
-  split_static "$1" || refuse 'the settings' "$1" 'are not address/prefix?gateway'
-  require_host 'the address' "$address"
-  ! is_link_local "$address" || refuse 'the address' "$address" "is link-local, and $PRIMARY has one of its own"
-  case $prefix in
-  [1-9] | [1-9][0-9] | 1[01][0-9] | 12[0-8]) ;;
-  *) refuse 'the prefix length' "$prefix" 'is not a number from 1 to 128' ;;
-  esac
-  require_host 'the gateway' "$gateway"
-  is_link_local "$gateway" || same_prefix "$prefix" "$address" "$gateway" ||
-    refuse 'the gateway' "$gateway" "is neither link-local nor inside $address/$prefix"
-  ! same_prefix 128 "$address" "$gateway" || refuse 'the gateway' "$gateway" 'is the address itself'
+  check_settings ipv6 "$1"
+  lock_settings
   change_setting ipv6 "$1" apply_static_ipv6
 }
 
-# split_static SETTINGS: their parts in $address, $prefix and $gateway.
-split_static() {
-  case $1 in
-  *\?*\?* | */*/*) return 1 ;;
-  */*\?*) ;;
-  *) return 1 ;;
-  esac
-  gateway=${1#*\?}
-  address=${1%%/*}
-  prefix=${1%\?*}
-  prefix=${prefix#*/}
-}
-
-# require_host WHAT VALUE
-require_host() {
-  is_ipv6 "$2" || refuse "$1" "$2" 'is no IPv6 address'
-  is_host_address "$2" || refuse "$1" "$2" 'cannot be the address of a host'
-}
-
-is_link_local() {
-  same_prefix 10 "$1" fe80::
-}
-
 remove_static() {
+  lock_settings
   change_setting ipv6 '' apply_static_ipv6
 }
 
+# A single server is the primary one.
 set_name_servers() {
-  case $1 in *' '*) secondary=${1#* } ;; *) secondary= ;; esac
-  primary=${1%% *}
-  for server in "$primary" "$secondary"; do
-    [ -n "$server" ] || continue
-    is_ipv4 "$server" || is_ipv6 "$server" || refuse 'the name server' "$server" 'is no IPv4 or IPv6 address'
-    ! internal_network_of "$server" || {
-      complain "the name server \"$server\" lies in the internal network $network"
-      exit $INTERNAL_ADDRESS
-    }
-    is_host_address "$server" || refuse 'the name server' "$server" 'cannot be the address of a host'
-  done
-  change_setting dns "$primary $secondary" apply_name_servers
+  case $1 in
+  *' '*) servers=$1 ;;
+  *) servers="$1 " ;;
+  esac
+  check_settings dns "$servers"
+  lock_settings
+  change_setting dns "$servers" apply_name_servers
 }
 
 refuse_overlong "$@"

@@ -1,7 +1,7 @@
 #include <mutex>
 #include <string>
 
-#include "libvelm/services.h"
+#include "libvelm/entry_points.h"
 #include "utility/StorageLibraryProxy.h"
 #include "utility/script_properties.h"
 

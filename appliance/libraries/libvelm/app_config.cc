@@ -12,9 +12,9 @@
 #include <vector>
 
 #include "libtarn/string_access.h"
-#include "libvelm/rules.h"
 #include "libvelm/script.h"
 #include "libvelm/service_error.h"
+#include "libvelm/snmp_rules.h"
 #include "libvelm/trap_registration_access.h"
 
 namespace Velm {

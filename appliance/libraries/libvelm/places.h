@@ -7,7 +7,7 @@ namespace Velm {
 
 struct Places {
   std::string database = "/home/embedded/library/CoreService/dat/management.db";
-  // The networks of which no address may be given to anything outside: one in CIDR notation per line.
+  // The list of the networks of which no address may be given to anything outside.
   std::string internalNetworks = "/home/embedded/library/AppManager/etc/internal_networks";
   // Bring the web service and the SNMP agent into the state that is stored; 0 when that is done.
   std::string applyWebMode = "/home/embedded/library/AppManager/bin/applyWebMode.sh";

@@ -11,7 +11,7 @@ namespace Library {
 
 class StorageLibrary : public TarnAbstract::ReferenceCounted<IStorageLibrary> {
  public:
-  // internalNetworks: a file with one network in CIDR notation per line.
+  // internalNetworks: the path of their list.
   explicit StorageLibrary(std::string internalNetworks);
 
   // Compares addresses, not their texts: an IPv4 address is the same when written as IPv6. A text that

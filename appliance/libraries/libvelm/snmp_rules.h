@@ -1,5 +1,5 @@
-// What the management services accept. Each check throws Refused with the value and what is wrong with
-// it.
+// What the management services accept for the SNMP agent and its trap receivers. Each check throws Refused
+// with the value and what is wrong with it.
 #pragma once
 
 #include <cstdint>

@@ -1,8 +1,6 @@
-#include "libvelm/rules.h"
+#include "libvelm/snmp_rules.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-
+#include "address_rules/addresses.h"
 #include "libvelm/service_error.h"
 #include "management/SNMP.h"
 
@@ -19,8 +17,8 @@ bool IsCommunityCharacter(char character) {
 }
 
 bool IsAddress(const std::string& text) {
-  in6_addr address = {};
-  return inet_pton(AF_INET, text.c_str(), &address) == 1 || inet_pton(AF_INET6, text.c_str(), &address) == 1;
+  AddressRules::Address address = {};
+  return AddressRules::ParseAddress({text.data(), text.size()}, address);
 }
 
 }  // namespace

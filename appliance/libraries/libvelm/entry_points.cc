@@ -1,4 +1,4 @@
-#include "libvelm/services.h"
+#include "libvelm/entry_points.h"
 
 #include <new>
 

@@ -1,0 +1,25 @@
+# All that changing takes, for the scripts that change settings. Sourced behind settings.sh.
+# shellcheck shell=sh
+
+# shellcheck source=SCRIPTDIR/transaction.sh
+. "$BIN/transaction.sh"
+# shellcheck source=SCRIPTDIR/host_name.sh
+. "$BIN/host_name.sh"
+# shellcheck source=SCRIPTDIR/port.sh
+. "$BIN/port.sh"
+# shellcheck source=SCRIPTDIR/name_servers.sh
+. "$BIN/name_servers.sh"
+# shellcheck source=SCRIPTDIR/ipv4.sh
+. "$BIN/ipv4.sh"
+# shellcheck source=SCRIPTDIR/ipv6.sh
+. "$BIN/ipv6.sh"
+
+# check_settings KIND TEXT: ends the script when the text is wrong, with the status and the sentence of the program that
+# knows the rules of addresses.
+check_settings() {
+  sentence=$("$BIN/checkSettings" "$1" "$2" 2>&1)
+  verdict=$?
+  [ "$verdict" != 0 ] || return 0
+  complain "$sentence"
+  exit "$verdict"
+}

@@ -1,0 +1,9 @@
+# Putting the stored host name into force. Sourced behind settings.sh.
+# shellcheck shell=sh disable=SC2154 # variables are set by the functions that read into them
+
+# By command, because the kernel's file of the name is closed to the root of a user namespace.
+apply_host_name() {
+  in_place && return
+  read_setting host_name hostname
+  [ -z "$host_name" ] || hostname "$host_name"
+}
