@@ -19,7 +19,12 @@
 check_settings() {
   sentence=$("$BIN/checkSettings" "$1" "$2" 2>&1)
   verdict=$?
-  [ "$verdict" != 0 ] || return 0
-  complain "$sentence"
-  exit "$verdict"
+  case $verdict in
+  0) ;;
+  1 | 2 | 44)
+    complain "$sentence"
+    exit "$verdict"
+    ;;
+  *) fail "what is wanted cannot be checked: ${sentence##*: }" ;;
+  esac
 }

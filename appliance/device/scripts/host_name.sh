@@ -5,5 +5,9 @@
 apply_host_name() {
   in_place && return
   read_setting host_name hostname
-  [ -z "$host_name" ] || hostname "$host_name"
+  [ -n "$host_name" ] || return 0
+  hostname "$host_name" || return
+  # The command passes over most of what the kernel can have against it.
+  read_line name_in_force /proc/sys/kernel/hostname
+  [ "$name_in_force" = "$host_name" ]
 }

@@ -65,5 +65,6 @@ restore_before() {
 
 # One that stays, because it cannot be removed, matters only to a start at which the setting itself is refused.
 forget_before() {
-  rm -f "$SETTINGS/$1.before"
+  rm -f "$SETTINGS/$1.before" 2>/dev/null
+  return 0
 }
