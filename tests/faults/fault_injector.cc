@@ -8,13 +8,15 @@
 // of the command's processes at once, as when the power goes, and "ENOSPC", "EROFS" or "EACCES" is what the
 // call fails with. LOG then gets the line "fault".
 //
-// Ends as the command does, or with 137 after "kill". What the command leaves running goes on.
+// Ends as the command does, with 137 after "kill", and with 124 when the command has taken a minute and was
+// ended for that. What the command leaves running goes on.
 //
 // strace can do the same to the Nth call of each process, but not to one call of one of many processes.
 #include <fcntl.h>
 #include <linux/filter.h>
 #include <linux/sched.h>
 #include <linux/seccomp.h>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
@@ -48,6 +50,8 @@ struct TracedCall {
   bool unless = false;     // ... or when none is
 };
 
+constexpr int MillisecondsForCommand = 60000;
+constexpr int TookTooLong = 124;
 constexpr std::uint32_t ForWriting = O_WRONLY | O_RDWR | O_CREAT | O_TRUNC;
 
 const std::vector<TracedCall> tracedCalls = {
@@ -349,15 +353,17 @@ Fault parsedFault(char** words) {
   return {words[2], std::atoi(words[1]), error->second};
 }
 
-// As soon as the command has ended; after "kill" when all of its processes have.
-int waitFor(int report) {
+// As soon as the command has ended; after "kill", and when it takes too long, when all of its processes have.
+int waitFor(int report, pid_t tracer) {
+  pollfd ended = {report, POLLIN, 0};
   int status = 0;
-  if (read(report, &status, sizeof status) != sizeof status) {
-    while (wait(nullptr) > 0 || errno == EINTR) {
-    }
-    return 128 + SIGKILL;
+  const bool inTime = poll(&ended, 1, MillisecondsForCommand) > 0;
+  if (inTime && read(report, &status, sizeof status) == sizeof status)
+    return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+  kill(tracer, SIGKILL);
+  while (wait(nullptr) > 0 || errno == EINTR) {
   }
-  return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+  return inTime ? 128 + SIGKILL : TookTooLong;
 }
 
 }  // namespace
@@ -378,5 +384,5 @@ int main(int count, char** arguments) {
   if (tracer < 0) fail("fork");
   if (tracer == 0) trace(log, fault, report[1], arguments + command);
   close(report[1]);
-  return waitFor(report[0]);
+  return waitFor(report[0], tracer);
 }
