@@ -12,6 +12,11 @@
 #   plain   static IPv4 settings, IPv6 off
 #   ipv6    the same with IPv6 on
 #   dhcp    IPv4 settings by DHCP, IPv6 off
+#
+# Two changes of one base that have the setting, or what is made of it, in common, are made at once, too; a change together
+# with itself is that to OLD and that to NEW:
+#
+#   together NAME NAME
 
 IPV4="/usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh $BIN/ipv4Manager.sh"
 IPV6="/usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh $BIN/ipv6Manager.sh"
@@ -31,7 +36,7 @@ change() {
 }
 
 change host_name plain host=drive-1 host=drive-2 "$IPV4 -n drive-1" "$IPV4 -n drive-2"
-change ipv4_static plain "ipv4=$A" "ipv4=$B" "$IPV4 -c -s $A" "$IPV4 -c -s $B"
+change ipv4_static plain "ipv4=$A" "ipv4=$B lease=off" "$IPV4 -c -s $A" "$IPV4 -c -s $B"
 change ipv4_to_dhcp plain lease=off lease=dhcp "$IPV4 -c -s $A" "$IPV4 -c -d on"
 change ipv4_from_dhcp dhcp lease=dhcp lease=off "$IPV4 -c -d on" "$IPV4 -c -s $A"
 change port plain 'port=off?10?half' 'port=on?100?full' "$IPV4 -P off?10?half" "$IPV4 -P on?100?full"
@@ -49,6 +54,31 @@ change ipv6_static_set ipv6 ipv6= "ipv6=$A6" "$IPV6 -r" "$IPV6 -c -s $A6"
 change ipv6_static_removed ipv6 "ipv6=$A6" ipv6= "$IPV6 -c -s $A6" "$IPV6 -r"
 change start plain host=drive-1 host=drive-1 "$IPV4 -n drive-1" "$START"
 change start_with_ipv6 ipv6 "ipv6=$A6" "ipv6=$A6" "$IPV6 -c -s $A6" "$START"
+
+declare -a pairs=()
+together() { pairs+=("$1 $2"); }
+
+for same in host_name ipv4_static ipv4_to_dhcp port dns dns_removed stateless_off dhcpv6_on dhcpv6_on_without_ipv6 \
+  ipv6_static ipv6_static_set; do
+  together "$same" "$same"
+done
+together ipv4_static ipv4_to_dhcp
+together dns dns_removed
+together ipv6_static ipv6_static_removed
+# /etc/resolv.conf
+together ipv4_to_dhcp dns
+together ipv4_to_dhcp dns_removed
+together dns dhcpv6_on_without_ipv6
+# the interface, which one of them starts afresh
+together stateless_off dhcpv6_on
+together stateless_off ipv6_static
+together dhcpv6_on ipv6_static_set
+together ipv6_on dhcpv6_on_without_ipv6
+together ipv6_off dhcpv6_on
+together ipv6_off stateless_off
+together ipv6_off ipv6_static_set
+# the clients of both kinds of DHCP, and /etc/resolv.conf
+together ipv4_to_dhcp dhcpv6_on_without_ipv6
 
 # words_of COMMAND: its words, into the array words; "~" stands for a blank in one.
 words_of() {
@@ -128,20 +158,21 @@ agrees_servers() {
 }
 
 agrees_ipv6() {
-  local static stateless_address='' lease_address='' client=0 addresses found
+  local static client=0 addresses found
+  local -a expected=()
   is_so "$(</proc/sys/net/ipv6/conf/eth0/disable_ipv6)" "$([[ ${read[flag]} == on ]] && echo 0 || echo 1)" 'the switch of IPv6' || return
   addresses=$(ip -6 -o address show dev eth0 -tentative scope global | sed -n 's/.* inet6 \([^/]*\).*/\1/p')
   static=${read[ipv6]%%/*}
   if [[ ${read[flag]} == on ]]; then
-    [[ ${read[stateless]} == 0 ]] || stateless_address=$STATELESS
+    [[ ${read[stateless]} == 0 ]] || expected+=("$STATELESS")
     [[ ${read[dhcpv6]} == off ]] || client=1
-    [[ $client == 0 ]] || lease_address=$(grep -m 1 -E '^2001:db8:20::1[0-9a-f]{1,2}$' <<<"$addresses") ||
-      { echo 'there is no address from DHCPv6' && return 1; }
+    [[ $client == 0 ]] || expected+=("$(grep -m 1 -E '^2001:db8:20::1[0-9a-f]{1,2}$' <<<"$addresses" || echo 'one from DHCPv6')")
   else
     static=
   fi
   found=$(sort <<<"$addresses")
-  is_so "$found" "$(printf '%s\n' $static $stateless_address $lease_address | sort)" 'the list of IPv6 addresses' &&
+  [[ -z $static ]] || expected+=("$static")
+  is_so "$found" "$(printf '%s\n' "${expected[@]}" | sort)" 'the list of IPv6 addresses' &&
     is_so "$(ipv6 -g all | tr '?' '\n' | sort)" "$found" 'the list of IPv6 addresses that is read' &&
     is_so "$(ip -6 -o route show default proto static | sed -n 's/default via \([^ ]*\) .*/\1/p')" \
       "${static:+${read[ipv6]#*\?}}" 'the static IPv6 gateway' &&
