@@ -1,16 +1,19 @@
 # shellcheck shell=bash disable=SC2034 # for the tests
-# What the tests share that call the functions of a running appliance. Sourced after lib.sh by a test that
-# calls itself inside the appliance, one function of it after the other:
+# What the tests share that call the functions of a running appliance; sourced by a test that calls itself inside the
+# appliance, one function of it after the other:
 #
 #   in_appliance FUNCTION...      each in an appliance started for it, with the state that the last one left;
 #                                 says "end"
 
-EMBEDDED=/home/embedded
-TRACE=$EMBEDDED/library/HTTPService/lighttpd/logs/php_extension.log
-SERVICE_LOG=$EMBEDDED/library/HTTPService/lighttpd/logs/services.log
-WEB_SERVER_LOG=$EMBEDDED/library/HTTPService/lighttpd/logs/error.log
-SETTINGS=$EMBEDDED/library/AppManager/dat
-DATABASE=$EMBEDDED/library/CoreService/dat/management.db
+# shellcheck source=appliance.sh
+source "${BASH_SOURCE[0]%/*}/appliance.sh"
+# shellcheck source=../shell/device.sh
+source "$CHECKOUT/tests/shell/device.sh"
+
+TRACE=$WEB_SERVER/logs/php_extension.log
+SERVICE_LOG=$WEB_SERVER/logs/services.log
+WEB_SERVER_LOG=$WEB_SERVER/logs/error.log
+DATABASE=$CORE_SERVICE/dat/management.db
 SESSION='{"user":"tester"}'
 SECONDS_FOR_AN_EVENT=30
 WEB=http://127.0.0.1
@@ -68,39 +71,12 @@ until_said_times() {
   exec {said}<&-
 }
 
-# await COMMAND...: until it succeeds, tried again whenever addresses or routes change.
-await() {
-  local events watcher deadline=$((SECONDS + SECONDS_FOR_AN_EVENT)) _
-  exec {events}< <(exec ip -o monitor address route)
-  watcher=$!
-  until "$@"; do
-    ((SECONDS < deadline)) || { not_ok "in time: $*" "$(ip -o address show dev eth0)" && break; }
-    # An address that becomes usable is no event to all kernels.
-    read -r -t 0.2 _ <&"$events"
-  done
-  kill "$watcher"
-  exec {events}<&-
-}
-
 # What eth0 has, as ADDRESS/PREFIX.
 ipv4_addresses() { ip -4 -oneline address show dev eth0 | sed -n 's/.* inet \([^ ]*\) .*/\1/p'; }
 default_route() { ip -4 -oneline route show default | sed 's/ *$//'; }
-has_usable() { [[ -n $(ip -oneline address show dev eth0 -tentative to "$1") ]]; }
-has_not() { [[ -z $(ip -oneline address show dev eth0 to "$1") ]]; }
 
 # page_from_lan ADDRESS: the heading of the first page.
 page_from_lan() { lan curl --silent --insecure --location --max-time 10 "http://$1/" | grep -o '<h1>.*</h1>'; }
-
-# All that the device scripts can change, without what changes by itself: the kernel adds the local routes of an
-# address some time after the address.
-device_state() {
-  grep -r '' "$SETTINGS" --exclude=lock
-  ls "$SETTINGS" /etc/ipv6dhcp 2>&1
-  hostname
-  ip -oneline address show dev eth0 | sed 's/ *\\.*//; s/ tentative$//'
-  ip -oneline route show table all dev eth0 | sed '/ table local /d; s/ expires.*//'
-  cat /etc/resolv.conf
-}
 
 # The management services' settings, each change of which is a row of the audit trail, too.
 query() { sqlite3 -cmd '.timeout 10000' "$DATABASE" "$1"; }

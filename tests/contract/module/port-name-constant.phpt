@@ -3,7 +3,7 @@ The name of the primary port is a platform text that is built when the module is
 --FILE--
 <?php
 include 'scripted_platform.inc';
-echo shell_exec('WORLD_SHOWS_TEXTS=1 LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' .
+echo shell_exec('SCRIPTED_PLATFORM_SHOWS_TEXTS=1 LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' .
                 getenv('SCRIPTED_PLATFORM_PHP') . ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' -r "echo \'page\', PHP_EOL;" 2>&1');
 --EXPECT--
 text "Primary Ethernet Connector" built

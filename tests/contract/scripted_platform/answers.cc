@@ -41,7 +41,7 @@ Answer wordsOf(const std::string& line) {
 
 std::optional<Answer> answerTo(const std::string& key) {
   std::optional<Answer> answer;
-  std::ifstream table(worldFile("answers"));
+  std::ifstream table(scriptedPlatformFile("answers"));
   for (std::string line; std::getline(table, line);) {
     Answer words = wordsOf(line);
     if (words.empty() || words.front() != key) continue;

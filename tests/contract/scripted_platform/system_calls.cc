@@ -28,10 +28,10 @@ struct Thread {
 
 // A thread waits at the gate until the test opens it, and says when it has ended: so the transcript shows
 // first what the caller did, then what the thread did. Both are named pipes of the test.
-void waitAtGate() { close(open(worldFile("gate").c_str(), O_RDONLY | O_CLOEXEC)); }
+void waitAtGate() { close(open(scriptedPlatformFile("gate").c_str(), O_RDONLY | O_CLOEXEC)); }
 
 void sayEnded() {
-  const int pipe = open(worldFile("end").c_str(), O_WRONLY | O_CLOEXEC);
+  const int pipe = open(scriptedPlatformFile("end").c_str(), O_WRONLY | O_CLOEXEC);
   if (write(pipe, ".", 1) != 1) record("unexpected: a thread's end could not be told");
   close(pipe);
 }

@@ -12,7 +12,7 @@ namespace {
 
 // Asked once: at the end of the process the interpreter has given its environment away.
 bool areTextsShown() {
-  static const bool shown = std::getenv("WORLD_SHOWS_TEXTS") != nullptr;
+  static const bool shown = std::getenv("SCRIPTED_PLATFORM_SHOWS_TEXTS") != nullptr;
   return shown;
 }
 

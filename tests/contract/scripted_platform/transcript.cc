@@ -18,7 +18,7 @@ std::string shownWord(const std::string& word) {
 
 }  // namespace
 
-std::string worldFile(const std::string& name) {
+std::string scriptedPlatformFile(const std::string& name) {
   const char* const folder = std::getenv("SCRIPTED_PLATFORM");
   return std::string(folder == nullptr ? "." : folder) + '/' + name;
 }

@@ -7,7 +7,7 @@
 #include "platform/Result.h"
 
 // The path of a file of the test, in the folder that the environment variable SCRIPTED_PLATFORM names.
-std::string worldFile(const std::string& name);
+std::string scriptedPlatformFile(const std::string& name);
 
 // Adds one line, with one write.
 void record(const std::string& line);

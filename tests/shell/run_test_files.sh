@@ -1,0 +1,55 @@
+# shellcheck shell=bash
+# Runs the *.test files of a suite (shell_tests.sh says what such a file is). To be sourced by a suite's `run`, which
+# ends with
+#
+#   run_test_files FOLDER AT_ONCE SECONDS [NAME...]
+#       Runs FOLDER/NAME.test, or all that are in the folder, AT_ONCE of them at the same time, each for at most
+#       SECONDS. Shows what they say, file after file, and ends with "N passed, N failed"; returns 1 when one
+#       failed. What each has said stays in build/tests/logs/SUITE/.
+
+run_test_files() {
+  local folder=$1 at_once=$2 seconds=$3
+  shift 3
+  local logs=${folder%/*/*}/build/tests/logs/${folder##*/} file running=0
+  local -a files=("$folder"/*.test)
+  if [[ $# -gt 0 ]]; then
+    files=("${@/#/$folder/}")
+    files=("${files[@]/%/.test}")
+  fi
+  rm -rf "$logs" && mkdir -p "$logs" || return
+  for file in "${files[@]}"; do
+    [[ -x $file ]] || { echo "There is no test $file." >&2 && return 2; }
+    if ((running == at_once)); then
+      wait -n
+      ((running -= 1))
+    fi
+    run_test_file "$file" "$seconds" >"$logs/${file##*/}.log" 2>&1 </dev/null &
+    ((running += 1))
+  done
+  wait
+  show_and_count "$logs" "${files[@]##*/}"
+}
+
+# It ends with its time, and with this process, however that ends. A job in the background would ignore interrupts.
+run_test_file() {
+  exec env --default-signal=INT,QUIT setpriv --pdeathsig TERM timeout --kill-after=10 "$2" "$1"
+}
+
+show_and_count() {
+  local logs=$1 passed=0 failed=0 skipped=0 name log broken summary
+  shift
+  for name; do
+    log=$logs/$name.log broken=$(grep -c '^not ok ' "$logs/$name.log")
+    grep -vx end "$log"
+    if [[ $(tail -n 1 "$log") != end ]]; then
+      echo "not ok $name does not come to its end"
+      ((broken += 1))
+    fi
+    ((broken == 0)) || echo "That was $name."
+    ((passed += $(grep -c '^ok ' "$log"), skipped += $(grep -c '^skip ' "$log"), failed += broken))
+  done
+  summary="$passed passed, $failed failed"
+  ((skipped == 0)) || summary+=", $skipped skipped"
+  echo "$summary"
+  ((failed == 0 && passed > 0))
+}
