@@ -52,10 +52,11 @@ private_root_share() {
 }
 
 private_root_enter() {
-  local root=$1 directory=$PWD
+  local root=$1 directory=$PWD error
   shift
-  mkdir "$root/.machine" && pivot_root "$root" "$root/.machine" || return
-  cd / && umount -l /.machine && rmdir /.machine || return
+  error=$(mkdir "$root/.machine" && pivot_root "$root" "$root/.machine" 2>&1) &&
+    cd / && error=$(umount -l /.machine 2>&1 && rmdir /.machine 2>&1) ||
+    { echo "The private root cannot take the place of the machine's: $error" >&2; return 1; }
   cd "$directory" 2>/dev/null || cd /
   hash -r
   exec "$@"
