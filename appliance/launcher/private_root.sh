@@ -54,12 +54,17 @@ private_root_share() {
 private_root_enter() {
   local root=$1 directory=$PWD error
   shift
-  error=$(mkdir "$root/.machine" && pivot_root "$root" "$root/.machine" 2>&1) &&
-    cd / && error=$(umount -l /.machine 2>&1 && rmdir /.machine 2>&1) ||
-    { echo "The private root cannot take the place of the machine's: $error" >&2; return 1; }
+  error=$(_private_root_replace "$root" 2>&1) || {
+    echo "The private root cannot take the place of the machine's: $error" >&2
+    return 1
+  }
   cd "$directory" 2>/dev/null || cd /
   hash -r
   exec "$@"
+}
+
+_private_root_replace() {
+  mkdir "$1/.machine" && pivot_root "$1" "$1/.machine" && cd / && umount -l /.machine && rmdir /.machine
 }
 
 # The owner of an overlay's directory is the upper layer's: made there in advance it belongs to the caller,
