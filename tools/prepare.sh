@@ -56,7 +56,7 @@ installed_packages() {
 
 build() {
   local folder=$1/build log=$1/build/build.log
-  forget_foreign_build "$1" "$folder"
+  forget_foreign_builds "$1"
   if [[ $2 == to-run ]]; then
     [[ -e $folder/CMakeCache.txt ]] || configure "$1" -D WITH_TESTS=OFF || return
     compile --target software_appliance
@@ -67,13 +67,15 @@ build() {
 }
 
 # What was built before the checkout was copied or moved knows the places where it was: it would be built there, or
-# not at all. (All else in the folder, such as the appliance's settings, stays.)
-forget_foreign_build() {
-  local checkout=$1 folder=$2 source
-  source=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$folder/CMakeCache.txt" 2>/dev/null)
-  [[ -n $source && ! $source -ef $checkout ]] || return 0
-  echo "The checkout was at $source before; it is built again." >&2
-  rm -rf "$folder"/{CMakeCache.txt,CMakeFiles,build.ninja,.ninja_deps,.ninja_log,Makefile}
+# not at all. (All else in the folders, such as the appliance's settings, stays.)
+forget_foreign_builds() {
+  local checkout=$1 built source
+  for built in "$checkout"/{build,build-*}; do
+    source=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$built/CMakeCache.txt" 2>/dev/null)
+    [[ -n $source && ! $source -ef $checkout ]] || continue
+    echo "What is in $built was built in $source; it is built again." >&2
+    rm -rf "$built"/{CMakeCache.txt,CMakeFiles,build.ninja,.ninja_deps,.ninja_log,Makefile}
+  done
 }
 
 configure() {
