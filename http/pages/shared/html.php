@@ -10,7 +10,7 @@ function h($text)
 // they have got once, and need not ask while the web server restarts.
 function asset($name)
 {
-    return $name . '?' . filemtime(dirname(dirname(__FILE__)) . '/' . $name);
+    return $name . '?' . filemtime(dirname(text_of($_SERVER, 'SCRIPT_FILENAME')) . '/' . $name);
 }
 
 // A drawing of 24 by 24, for the eye only: a word always stands beside it.
