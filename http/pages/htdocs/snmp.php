@@ -1,5 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/audit_trail.php';
 
 // What the module reads of the settings; it takes the flags as truth values.
 class AgentSettings

@@ -41,12 +41,12 @@ $same_filter = 'filter=' . urlencode($filter);
   <table class="stacks">
     <thead><tr><th scope="col">Time (UTC)</th><th scope="col">User</th><th scope="col">Change</th><th scope="col">Result</th></tr></thead>
     <tbody>
-<?php foreach ($audit as $row) { ?>
+<?php foreach ($audit as $entry) { ?>
     <tr>
-      <th scope="row" class="time"><?php echo h(substr(strtr($row[0], 'T', ' '), 0, 19)); ?></th>
-      <td class="user" data-label="User"><?php echo h($row[1] == '' ? 'Not known' : $row[1]); ?></td>
-      <td data-label="Change"><div><p><?php echo h($row[2]); ?></p><p class="hint"><?php echo h($row[3]); ?></p></div></td>
-      <td data-label="Result"><div><?php echo result_of($row[4]); ?></div></td>
+      <th scope="row" class="time"><?php echo h(substr(strtr($entry['time'], 'T', ' '), 0, 19)); ?></th>
+      <td class="user" data-label="User"><?php echo h($entry['user'] == '' ? 'Not known' : $entry['user']); ?></td>
+      <td data-label="Change"><div><p><?php echo h($entry['operation']); ?></p><p class="hint"><?php echo h($entry['values']); ?></p></div></td>
+      <td data-label="Result"><div><?php echo audit_result($entry['result']); ?></div></td>
     </tr>
 <?php } ?>
     </tbody>
