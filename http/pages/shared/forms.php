@@ -14,7 +14,7 @@ function form_begin($page, $change)
         . '<input type="hidden" name="change" value="' . h($change) . '">';
 }
 
-// Ends it with its button, which a reader is told about instead.
+// Ends the form with its button. Who may not change anything is told so in its place.
 function form_end($label)
 {
     $button = may_change($GLOBALS['session'])
@@ -23,13 +23,14 @@ function form_end($label)
     return '</fieldset>' . $button . '</form>';
 }
 
-// The identifiers of a field's hint and error, for those who cannot see that they stand beside it.
+// Attributes that tie a field to its hint and its error, for those who cannot see that they stand beside it.
 function described_by($name, $hint, $error)
 {
     $ids = trim(($hint == '' ? '' : $name . '-hint') . ' ' . ($error == '' ? '' : $name . '-error'));
     return ($ids == '' ? '' : ' aria-describedby="' . $ids . '"') . ($error == '' ? '' : ' aria-invalid="true"');
 }
 
+// The hint and the error of a field, under the identifiers that described_by() names.
 function field_notes($name, $hint, $error)
 {
     return ($hint == '' ? '' : '<p class="hint" id="' . $name . '-hint">' . h($hint) . '</p>')
@@ -65,7 +66,7 @@ function check_field($name, $label, $checked, $hint = '')
     return mark_field('checkbox', $name, $name, '1', $label, $hint, $checked);
 }
 
-// A round or square mark that is set or not, with its label behind it.
+// A radio button or a check box, with its label behind it.
 function mark_field($type, $name, $id, $value, $label, $hint, $checked)
 {
     return '<div class="mark"><input type="' . $type . '" id="' . $id . '" name="' . $name . '" value="' . h($value) . '"'

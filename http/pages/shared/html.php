@@ -8,8 +8,8 @@ function h($text)
     return htmlspecialchars((string) $text, ESCAPING, 'UTF-8');
 }
 
-// The address of a file beside the pages. It is another one for another version of the file: browsers keep what
-// they have got once, and need not ask while the web server restarts.
+// The address of a file beside the pages, which is another one when the file has changed: browsers keep what they have
+// got once, and need not ask for it while the web server restarts.
 function asset($name)
 {
     return $name . '?' . filemtime(dirname(text_of($_SERVER, 'SCRIPT_FILENAME')) . '/' . $name);

@@ -45,7 +45,7 @@ function is_among($address, $others)
     return false;
 }
 
-// Zeros are how the module says that there is none.
+// A value as it is shown: the module says with zeros that there is none.
 function present_value($value)
 {
     $short = short_ipv6($value);

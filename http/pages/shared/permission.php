@@ -17,7 +17,7 @@ function signed_in()
         ask_to_sign_in('');
     }
     if (time() - $_SESSION['seen'] > IDLE_SECONDS) {
-        // Not before somebody is told.
+        // A request in the background leaves it as it is, so that the next one is told why.
         if (!is_background()) {
             $_SESSION = array('token' => random_hex(16));
         }
@@ -38,6 +38,7 @@ function signed_in()
     return $session;
 }
 
+// Refuses a change that was not sent by a form of this session, or by somebody who may only look.
 function check_change($session)
 {
     if (!has_token()) {

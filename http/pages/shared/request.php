@@ -1,7 +1,7 @@
 <?php
 // What the browser asks for and sends.
 
-// The text that was sent under this name; never an array, and without what some engines add to it.
+// The text that was sent under this name: never an array, and without the backslashes that 4.3 may put into it.
 function text_of($values, $name, $default = '')
 {
     if (!isset($values[$name]) || !is_string($values[$name])) {

@@ -3,7 +3,7 @@
 
 define('IDLE_SECONDS', 900);
 
-// Under HTTPS one that browsers let nobody but HTTPS set.
+// Under HTTPS a name with the prefix for which browsers take a cookie from HTTPS only.
 function cookie_name()
 {
     return is_https() ? '__Host-settings' : 'settings';
@@ -69,13 +69,15 @@ function is_session_of_an_account($accounts)
     return $_SESSION['account'] == md5($accounts[$_SESSION['user']]['hash']) && $_SESSION['https'] == is_https();
 }
 
-// Lets other requests of this session go on, which wait for one another. What is stored in it later is lost.
+// Requests of one session wait for one another: lets the others go on. What this one stores in the session from now on
+// is lost.
 function leave_session()
 {
     session_write_close();
     $GLOBALS['session_left'] = true;
 }
 
+// Takes up a session that was left, so that something can be stored in it.
 function return_to_session()
 {
     if (!empty($GLOBALS['session_left'])) {

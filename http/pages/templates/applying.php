@@ -58,7 +58,8 @@ $attributes = $polls ? ' data-poll="1000" data-parts="outcome values" data-expec
   } elseif ($new_address != '') { ?>From the network it is at <a href="<?php echo h($new_address); ?>"><?php
   echo h($new_address); ?></a> when the change is done.<?php
   } elseif ($change['values']['mode'] == 'DHCP') { ?>If it does not come back, it has another one now: the DHCP server, or the
-  network's router, knows which.<?php } elseif ($change['values']['mode'] == 'Off') { ?>If it does not come back, open it under another of its
+  network's router, knows which.<?php
+  } elseif ($change['values']['mode'] == 'Off') { ?>If it does not come back, open it under another of its
   addresses.<?php } ?></span></p>
 </div>
 </section>

@@ -19,7 +19,8 @@ $current = isset($part_of) ? $part_of : $page;
 <head>
 <?php echo render('head', array('title' => ($wrong ? 'Error: ' : '') . $title . ' · ' . $name)); ?>
 <?php if (isset($refresh)) { ?>
-<noscript><meta http-equiv="refresh" content="<?php echo (int) $refresh['seconds']; ?>; url=<?php echo h($refresh['address']); ?>"></noscript>
+<noscript><meta http-equiv="refresh" content="<?php echo (int) $refresh['seconds']; ?>; url=<?php
+  echo h($refresh['address']); ?>"></noscript>
 <?php } ?>
 </head>
 <body>
