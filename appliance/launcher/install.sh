@@ -12,7 +12,7 @@ APP_RUN=/run/appmanager
 WEB_RUN=$APP_RUN/web
 COMMAND_WRAPPER=/usr/bin/cmdwrap
 MODULE_FILES=(network.so libTarn.so libVelm.so libdovan_util.so)
-BUILT_FILES=(cmdwrap management_database "${MODULE_FILES[@]}") # all that is taken from the build folder
+BUILT_FILES=(cmdwrap checkSettings management_database "${MODULE_FILES[@]}") # all that is taken from the build folder
 MODULE_CONFIGURATION=50-network.ini # in the folders that the interpreters read settings from
 
 # Sets PHP_EXTENSION_DIR, and PHP_CONFIGURATION_DIRS of the command line and of the web service; returns 1 after one
