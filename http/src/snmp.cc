@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <iterator>
 
 #include "command_lines.h"
@@ -42,16 +43,21 @@ static_assert(hasSizeOnTheAppliance<GUID>(12));
 static_assert(hasSizeOnTheAppliance<TrapRegistration>(32));
 static_assert(hasSizeOnTheAppliance<TarnAbstract::ListElementPage<TrapRegistration, 4>>(132));
 
-// A truth value's width is the compiler's that built the services: they may write one byte or a word.
+// A truth value of the services, as the number they wrote. Its width is that of the compiler that built them:
+// they write one byte, the first, or the whole word.
 class FlagWord {
  public:
   bool& asFlag() { return reinterpret_cast<bool&>(bytes_); }
-  bool isSet() const {
-    return std::any_of(std::begin(bytes_), std::end(bytes_), [](unsigned char byte) { return byte != 0; });
+  int number() const {
+    // A byte alone is that byte, also where the first byte of a word counts most.
+    if (std::all_of(bytes_ + 1, std::end(bytes_), [](unsigned char byte) { return byte == 0; })) return bytes_[0];
+    std::int32_t word = 0;
+    std::memcpy(&word, bytes_, sizeof(word));
+    return word;
   }
 
  private:
-  alignas(std::uint32_t) unsigned char bytes_[sizeof(std::uint32_t)] = {};
+  alignas(std::int32_t) unsigned char bytes_[sizeof(std::int32_t)] = {};
 };
 
 // By number, which of the versions 1 to 5 the agent reports.
@@ -137,7 +143,7 @@ HANDLER(get_snmp_settings) {
   FlagWord authTraps;
   reportResult(ask(config, &IMgmtAppConfig::getAuthTrapsEnabled, authTraps.asFlag()),
                "Could not get SNMP traps enabled");
-  trace("SNMP auth traps are enabled:", static_cast<int>(authTraps.isSet()));
+  trace("SNMP auth traps are enabled:", authTraps.number());
   String community("", getSystemTransientObjHeap());
   reportResult(ask(config, &IMgmtAppConfig::getReadCommunity, community),
                "Could not get SNMP read community");
@@ -152,7 +158,7 @@ HANDLER(get_snmp_settings) {
   addString(return_value, "algorithm", "MD5");
   addBoolean(return_value, "encryption", false);
   addInteger(return_value, "port", 161);
-  addBoolean(return_value, "auth_traps_enabled", authTraps.isSet());
+  addBoolean(return_value, "auth_traps_enabled", authTraps.number() != 0);
   addString(return_value, "community_name", tarnStringToCString(community));
   trace("Exiting get_snmp_settings");
 }
