@@ -50,7 +50,8 @@ class FlagWord {
   bool& asFlag() { return reinterpret_cast<bool&>(bytes_); }
   int number() const {
     // A byte alone is that byte, also where the first byte of a word counts most.
-    if (std::all_of(bytes_ + 1, std::end(bytes_), [](unsigned char byte) { return byte == 0; })) return bytes_[0];
+    if (std::all_of(bytes_ + 1, std::end(bytes_), [](unsigned char byte) { return byte == 0; }))
+      return bytes_[0];
     std::int32_t word = 0;
     std::memcpy(&word, bytes_, sizeof(word));
     return word;

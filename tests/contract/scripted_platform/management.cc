@@ -213,6 +213,7 @@ sp<Interface> handle(const std::string& name) {
 sp<IThread> TarnAbstract::TarnThreading::CurrentThread() { return handle<IThread, ThreadDouble>("thread"); }
 
 StorageLibraryProxy* StorageLibraryProxy::getInstance() {
+  if (answerTo("instances")) record("proxy asked for");
   static StorageLibraryProxy proxy;
   return &proxy;
 }
