@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "command_lines.h"
+#include "command_runner.h"
 #include "handlers.h"
 #include "management_access.h"
-#include "script_runner.h"
-#include "script_values.h"
+#include "page_values.h"
 #include "settings_text.h"
 #include "trace_log.h"
 #include "worker.h"
@@ -109,7 +109,7 @@ void applyIpv4(const Ipv4Settings& settings) {
 HANDLER(get_network_configuration_ipv4) {
   trace("Entering get_network_configuration_ipv4");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access;
   access->setSession(session);
 
@@ -134,12 +134,12 @@ HANDLER(get_network_configuration_ipv4) {
   }
   trace("Output3 = ", output);
 
-  makeObject(return_value);
-  addString(return_value, "hostname", output);
-  addBoolean(return_value, "dhcpEnabled", dhcpEnabled);
-  addString(return_value, "ip", settings[0]);
-  addString(return_value, "gateway", settings[2]);
-  addString(return_value, "netmask", settings[1]);
+  makeObject(result);
+  addString(result, "hostname", output);
+  addBoolean(result, "dhcpEnabled", dhcpEnabled);
+  addString(result, "ip", settings[0]);
+  addString(result, "gateway", settings[2]);
+  addString(result, "netmask", settings[1]);
   trace("Exiting get_network_configuration_ipv4");
 }
 
@@ -147,7 +147,7 @@ HANDLER(set_network_configuration_ipv4) {
   trace("Entering set_network_configuration_ipv4");
   zval* session = nullptr;
   zval* settings = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "oo", &session, &settings)) return;
+  if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
   const ManagementAccess access;
   access->setSession(session);
   auto wanted = std::make_unique<Ipv4Settings>(readIpv4Settings(settings));
@@ -173,14 +173,14 @@ HANDLER(get_network_hostname) {
   }
   trace("Output = ", output);
   trace("Exiting get_network_hostname");
-  returnString(return_value, output);
+  returnString(result, output);
 }
 
 HANDLER(set_network_hostname) {
   trace("Entering set_network_hostname");
   zval* session = nullptr;
-  ScriptText name;
-  if (!parseArguments(ZEND_NUM_ARGS(), "os", &session, &name.characters, &name.length)) return;
+  PageText name;
+  if (!parseArguments(argumentCount, "os", &session, &name)) return;
   const ManagementAccess access;
   access->setSession(session);
   if (changeHostname(name.characters) != 0) reportFailure("Could not set library hostname");

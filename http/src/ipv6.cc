@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "command_lines.h"
+#include "command_runner.h"
 #include "handlers.h"
 #include "management_access.h"
-#include "script_runner.h"
-#include "script_values.h"
+#include "page_values.h"
 #include "settings_text.h"
 #include "trace_log.h"
 #include "utility/ValidateIPv6address.h"
@@ -107,7 +107,7 @@ bool removeStaticIpv6() {
 HANDLER(get_network_configuration_ipv6) {
   trace("Entering get_network_configuration_ipv6");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access;
   access->setSession(session);
 
@@ -121,11 +121,11 @@ HANDLER(get_network_configuration_ipv6) {
   const StaticIpv6 settings = output.empty() ? noStaticIpv6() : parseStaticIpv6(output);
   traceStaticIpv6(settings);
 
-  makeObject(return_value);
-  addBoolean(return_value, "staticEnabled", settings.enabled);
-  addString(return_value, "ipStatic", settings.address);
-  addString(return_value, "gateway", settings.gateway);
-  addString(return_value, "prefix", settings.prefix);
+  makeObject(result);
+  addBoolean(result, "staticEnabled", settings.enabled);
+  addString(result, "ipStatic", settings.address);
+  addString(result, "gateway", settings.gateway);
+  addString(result, "prefix", settings.prefix);
   trace("Exiting get_network_configuration_ipv6");
 }
 
@@ -133,7 +133,7 @@ HANDLER(set_network_configuration_ipv6) {
   trace("Entering set_network_configuration_ipv6");
   zval* session = nullptr;
   zval* settings = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "oo", &session, &settings)) return;
+  if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
   const ManagementAccess access;
   access->setSession(session);
   auto wanted = std::make_unique<StaticIpv6>();
@@ -161,14 +161,14 @@ HANDLER(is_ipv6_enabled) {
   trace("Entering is_ipv6_enabled");
   const bool enabled = isFlagSet(FlagFile::Ipv6Enabled, "IPv6 was enabled", "IPv6 was NOT enabled");
   trace("Exiting is_ipv6_enabled");
-  returnBoolean(return_value, enabled);
+  returnBoolean(result, enabled);
 }
 
 HANDLER(set_ipv6_enabled) {
   trace("Entering set_ipv6_enabled");
   zval* session = nullptr;
-  ScriptFlag wanted = {};
-  if (!parseArguments(ZEND_NUM_ARGS(), "ob", &session, &wanted)) return;
+  bool wanted = false;
+  if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   if (wanted) {
     if (runCommand(CommandLine::EnableIpv6) != 0) reportFailure("Failed to enable IPv6.");
   } else {
@@ -189,7 +189,7 @@ HANDLER(is_ipv6_static_enabled) {
   const bool enabled = !output.empty();
   trace(enabled ? "IPv6 Static was enabled" : "IPv6 Static was NOT enabled");
   trace("Exiting is_ipv6_static_enabled");
-  returnBoolean(return_value, enabled);
+  returnBoolean(result, enabled);
 }
 
 HANDLER(is_stateless_enabled) {
@@ -200,14 +200,14 @@ HANDLER(is_stateless_enabled) {
     reportFailure("Could not get hostname information");  // the words that pages and manuals know
   }
   trace("Exiting is_stateless_enabled");
-  returnBoolean(return_value, output == "1");
+  returnBoolean(result, output == "1");
 }
 
 HANDLER(set_stateless_enabled) {
   trace("Entering set_stateless_enabled");
   zval* session = nullptr;
-  ScriptFlag wanted = {};
-  if (!parseArguments(ZEND_NUM_ARGS(), "ob", &session, &wanted)) return;
+  bool wanted = false;
+  if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   trace(wanted ? "Stateless is being ENABLED" : "Stateless is being DISABLED");
   if (runCommand(std::string(CommandLine::SetStateless) + (wanted ? "1" : "0")) != 0) {
     reportFailure("Failed to configure stateless settings.");
@@ -219,14 +219,14 @@ HANDLER(is_ipv6_dhcp_enabled) {
   trace("Entering is_ipv6_dhcp_enabled");
   const bool enabled = isFlagSet(FlagFile::Ipv6Dhcp, "IPv6 DHCP was enabled", "IPv6 DHCP was NOT enabled");
   trace("Exiting is_ipv6_dhcp_enabled");
-  returnBoolean(return_value, enabled);
+  returnBoolean(result, enabled);
 }
 
 HANDLER(set_ipv6_dhcp_enabled) {
   trace("Entering set_ipv6_dhcp_enabled");
   zval* session = nullptr;
-  ScriptFlag wanted = {};
-  if (!parseArguments(ZEND_NUM_ARGS(), "ob", &session, &wanted)) return;
+  bool wanted = false;
+  if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   trace(wanted ? "DHCP is being ENABLED" : "DHCP is being DISABLED");
   if (runCommand(std::string(CommandLine::SwitchIpv6Dhcp) + (wanted ? "on" : "off")) != 0) {
     reportResult(FailureCode::Ipv6DhcpNotSwitched,
@@ -242,10 +242,10 @@ HANDLER(get_all_ipv6_addresses) {
   if (!runCommand(CommandLine::ListIpv6Addresses, output, waitStatus)) {
     reportFailure("Failed to get IPv6 address.");
   }
-  makeArray(return_value);
+  makeArray(result);
   for (const std::string& address : splitText(output, SettingsSeparator)) {
     trace("Adding IPv6 ", address);
-    appendString(return_value, address);
+    appendString(result, address);
   }
   trace("Exiting get_all_ipv6_addresses");
 }

@@ -11,9 +11,9 @@
 #include "command_lines.h"
 #include "handlers.h"
 #include "management_access.h"
+#include "page_values.h"
 #include "platform/List.h"
 #include "platform/MemoryMgmt.h"
-#include "script_values.h"
 #include "trace_log.h"
 #include "utility/platform_texts.h"
 
@@ -135,7 +135,7 @@ void appendRegistration(zval* array, const TrapRegistration& registration) {
 HANDLER(get_snmp_settings) {
   trace("Entering get_snmp_settings");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access;
   trace("Before slp->getAppMgmtConfigInterface()");
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
@@ -150,17 +150,17 @@ HANDLER(get_snmp_settings) {
                "Could not get SNMP read community");
   trace("SNMP community:", tarnStringToCString(community));
 
-  makeObject(return_value);
-  addBoolean(return_value, "version1", versions.has[Velm::SNMP_VERSION_1]);
-  addBoolean(return_value, "version2", versions.has[Velm::SNMP_VERSION_2]);
-  addBoolean(return_value, "version3", versions.has[Velm::SNMP_VERSION_3]);
-  addBoolean(return_value, "trap1", versions.has[Velm::SNMP_TRAP_VERSION_1]);
-  addBoolean(return_value, "trap2", versions.has[Velm::SNMP_TRAP_VERSION_2]);
-  addString(return_value, "algorithm", "MD5");
-  addBoolean(return_value, "encryption", false);
-  addInteger(return_value, "port", 161);
-  addBoolean(return_value, "auth_traps_enabled", authTraps.number() != 0);
-  addString(return_value, "community_name", tarnStringToCString(community));
+  makeObject(result);
+  addBoolean(result, "version1", versions.has[Velm::SNMP_VERSION_1]);
+  addBoolean(result, "version2", versions.has[Velm::SNMP_VERSION_2]);
+  addBoolean(result, "version3", versions.has[Velm::SNMP_VERSION_3]);
+  addBoolean(result, "trap1", versions.has[Velm::SNMP_TRAP_VERSION_1]);
+  addBoolean(result, "trap2", versions.has[Velm::SNMP_TRAP_VERSION_2]);
+  addString(result, "algorithm", "MD5");
+  addBoolean(result, "encryption", false);
+  addInteger(result, "port", 161);
+  addBoolean(result, "auth_traps_enabled", authTraps.number() != 0);
+  addString(result, "community_name", tarnStringToCString(community));
   trace("Exiting get_snmp_settings");
 }
 
@@ -168,7 +168,7 @@ HANDLER(set_snmp_settings) {
   trace("Entering set_snmp_settings");
   zval* session = nullptr;
   zval* settings = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "oo", &session, &settings)) return;
+  if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
   const ManagementAccess access;
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   if (settings != nullptr) changeAgent(config, settings);
@@ -178,7 +178,7 @@ HANDLER(set_snmp_settings) {
 HANDLER(get_snmp_trap_regs) {
   trace("entering get_snmp_trap_regs");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access;
   access->setSession(session);
   trace("Before slp->getAppMgmtConfigInterface()");
@@ -186,11 +186,11 @@ HANDLER(get_snmp_trap_regs) {
   TrapRegistrationList list(getSystemTransientObjHeap());
   ask(config, &IMgmtAppConfig::getTrapRegistrations, list);
   trace("Number of trap registratrations:", static_cast<int>(list.Size()));
-  makeArray(return_value);
+  makeArray(result);
   for (unsigned int index = 0; index < list.Size(); ++index) {
     TrapRegistration registration;
     list.Item(index, registration);
-    appendRegistration(return_value, registration);
+    appendRegistration(result, registration);
   }
   trace("Exiting get_snmp_trap_regs");
 }
@@ -198,11 +198,10 @@ HANDLER(get_snmp_trap_regs) {
 HANDLER(create_snmp_trap_reg) {
   trace("entering create_snmp_trap_reg");
   zval* session = nullptr;
-  ScriptInteger transport = 0;
-  ScriptText ip;
-  ScriptText port;
-  if (!parseArguments(ZEND_NUM_ARGS(), "olss", &session, &transport, &ip.characters, &ip.length,
-                      &port.characters, &port.length)) {
+  long transport = 0;
+  PageText ip;
+  PageText port;
+  if (!parseArguments(argumentCount, "olss", &session, &transport, &ip, &port)) {
     return;
   }
   const ManagementAccess access;
@@ -234,8 +233,8 @@ HANDLER(create_snmp_trap_reg) {
 HANDLER(delete_snmp_trap_reg) {
   trace("entering delete_snmp_trap_reg");
   zval* session = nullptr;
-  ScriptText id;
-  if (!parseArguments(ZEND_NUM_ARGS(), "os", &session, &id.characters, &id.length)) return;
+  PageText id;
+  if (!parseArguments(argumentCount, "os", &session, &id)) return;
   const ManagementAccess access;
   access->setSession(session);
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
@@ -247,7 +246,7 @@ HANDLER(delete_snmp_trap_reg) {
 HANDLER(restart_snmp) {
   trace("entering restart_snmp");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access;
   access->setSession(session);
   if (std::system(CommandLine::TestTrapRegistrations) != 0) {

@@ -76,6 +76,7 @@ char* _estrndup(const char* text, unsigned int length);
 
 #define INTERNAL_FUNCTION_PARAMETERS int ht, zval *return_value, zval *this_ptr, int return_value_used
 #define ZEND_NUM_ARGS() (ht)
+#define PHP_FUNCTION(name) void zif_##name(INTERNAL_FUNCTION_PARAMETERS)
 
 typedef struct _zend_function_entry {
   char* fname;

@@ -1,4 +1,4 @@
-#include "script_runner.h"
+#include "command_runner.h"
 
 #include "utility/Runtime.h"
 
