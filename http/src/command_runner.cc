@@ -2,8 +2,11 @@
 
 #include "utility/Runtime.h"
 
-int runCommand(const std::string& command) { return Runtime::getInstance()->execute(command); }
-
-bool runCommand(const std::string& command, std::string& output, int& waitStatus) {
-  return Runtime::getInstance()->execute(command, output, waitStatus);
+CommandResult runCommand(const std::string& command, const std::string& previousOutput) {
+  CommandResult result;
+  result.output = previousOutput;
+  result.succeeded = Runtime::getInstance()->execute(command, result.output, result.waitStatus);
+  return result;
 }
+
+int runWithoutOutput(const std::string& command) { return Runtime::getInstance()->execute(command); }

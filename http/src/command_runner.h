@@ -4,9 +4,15 @@
 
 #include <string>
 
-// 0 when the command succeeded.
-int runCommand(const std::string& command);
+struct CommandResult {
+  bool succeeded = false;
+  std::string output;  // what it printed, without the line ends at its end
+  int waitStatus = 0;  // as wait() gives it: the exit status times 256
+};
 
-// True when the command succeeded. output is replaced by what it printed, without the line ends at its
-// end, and waitStatus by its raw wait status.
-bool runCommand(const std::string& command, std::string& output, int& waitStatus);
+// previousOutput is what the output stays when the command cannot even be started and the runner leaves it
+// alone.
+CommandResult runCommand(const std::string& command, const std::string& previousOutput = std::string());
+
+// For commands whose output says nothing. 0 when the command succeeded.
+int runWithoutOutput(const std::string& command);

@@ -77,14 +77,12 @@ HANDLER(get_network_dns) {
   trace("Entering get_network_dns");
   zval* session = nullptr;
   if (!parseArguments(argumentCount, "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadDns, output, waitStatus)) {
-    reportFailure(("Failed to get DNS addresses: " + boundedOutput(output)).c_str());
+  const ManagementAccess access(session);
+  const CommandResult answer = runCommand(CommandLine::ReadDns);
+  if (!answer.succeeded) {
+    reportFailure(("Failed to get DNS addresses: " + boundedOutput(answer.output)).c_str());
   }
-  const std::vector<std::string> servers = splitText(output, " ");
+  const std::vector<std::string> servers = splitText(answer.output, " ");
   makeObject(result);
   addString(result, "dnsPrimary", primaryDns(servers));
   addString(result, "dnsSecondary", pieceOf(servers, 1));
@@ -96,8 +94,8 @@ HANDLER(set_network_dns) {
   zval* session = nullptr;
   zval* settings = nullptr;
   if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
+  // Held until the change is done and never called: that is all the services expect of it.
   const sp<Velm::IConnectivity> connectivity = access->getConnectivityMgmtInterface();
 
   const std::string primary = textProperty(settings, "dnsPrimary");
@@ -105,15 +103,14 @@ HANDLER(set_network_dns) {
   // One word on the command line, so that an empty secondary keeps its place.
   const std::string servers = '"' + primary + ' ' + secondary + '"';
   trace("DNS IPvAddresses = ", servers);
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::SetDns + servers, output, waitStatus)) {
-    trace("returnCode = ", waitStatus);
-    reportResult(
-        waitStatus == WaitStatusInternalAddress ? FailureCode::InternalAddressConflict : Result::Failed,
-        "Failed to set DNS addresses.");
+  const CommandResult change = runCommand(CommandLine::SetDns + servers);
+  if (!change.succeeded) {
+    trace("returnCode = ", change.waitStatus);
+    reportResult(change.waitStatus == WaitStatusInternalAddress ? FailureCode::InternalAddressConflict
+                                                                : Result::Failed,
+                 "Failed to set DNS addresses.");
   }
-  trace("Output = ", output);
+  trace("Output = ", change.output);
   trace("Exiting set_network_dns");
 }
 
@@ -160,9 +157,6 @@ HANDLER(get_fw_settings) {
 
 HANDLER(set_eth2_port_settings) {
   trace("Entering set_eth2_port_settings");
-  std::string settings;
-  std::string output;
-  int waitStatus = 0;
   zval* session = nullptr;
   long autonegotiation = 0;
   long speed = 0;
@@ -170,14 +164,14 @@ HANDLER(set_eth2_port_settings) {
   if (!parseArguments(argumentCount, "olll", &session, &autonegotiation, &speed, &duplex)) return;
 
   trace("Autonegotiate Input Parameter: ", asInt(autonegotiation));
-  settings = autonegotiation != 0 ? "on" : "off";
+  std::string settings = autonegotiation != 0 ? "on" : "off";
   settings += SettingsSeparator + speedText(asInt(speed));
   trace("Duplex Input Parameter: ", asInt(duplex));
   settings += SettingsSeparator;
   settings += duplex != 0 ? "full" : "half";
   const std::string command = CommandLine::SetPort + settings;
   trace("Command Line: ", command);
-  if (!runCommand(command, output, waitStatus)) reportFailure("Failed to set port settings.");
+  if (!runCommand(command).succeeded) reportFailure("Failed to set port settings.");
   trace("Exiting set_eth2_port_settings");
 }
 
@@ -185,12 +179,11 @@ HANDLER(get_eth2_port_settings) {
   trace("Entering get_eth2_port_settings");
   zval* session = nullptr;
   if (!parseArguments(argumentCount, "o", &session)) return;
-  std::string output;
-  int waitStatus = 0;
   trace("Command Line: ", CommandLine::ReadPort);
-  if (!runCommand(CommandLine::ReadPort, output, waitStatus)) reportFailure("Failed to get port settings.");
-  trace("Output: ", output);
-  const std::vector<std::string> settings = splitText(output, SettingsSeparator);
+  const CommandResult port = runCommand(CommandLine::ReadPort);
+  if (!port.succeeded) reportFailure("Failed to get port settings.");
+  trace("Output: ", port.output);
+  const std::vector<std::string> settings = splitText(port.output, SettingsSeparator);
   makeObject(result);
   addInteger(result, "AutoNegotiate", pieceOf(settings, 0) == "on" ? 1 : 0);
   addInteger(result, "Speed", pieceOf(settings, 1) == "10" ? 10 : 100);

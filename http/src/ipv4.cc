@@ -54,7 +54,7 @@ void renewSSL() {
 // 0 when there was nothing to do or the script succeeded, else the script's result.
 int changeHostname(const std::string& name) {
   if (name == currentHostName()) return 0;
-  const int result = runCommand(CommandLine::SetHostName + name);
+  const int result = runWithoutOutput(CommandLine::SetHostName + name);
   renewSSL();
   return result;
 }
@@ -89,14 +89,14 @@ void applyIpv4(const Ipv4Settings& settings) {
     return;
   }
   if (settings.dhcp) {
-    if (runCommand(CommandLine::SwitchDhcpOn) != 0) {
+    if (runWithoutOutput(CommandLine::SwitchDhcpOn) != 0) {
       trace("Could not set network settings (dhcp on).", NoResult);
       return;
     }
   } else {
     const std::string text =
         settings.address + SettingsSeparator + settings.netmask + SettingsSeparator + settings.gateway;
-    if (runCommand(CommandLine::SetStaticIpv4 + text) != 0) {
+    if (runWithoutOutput(CommandLine::SetStaticIpv4 + text) != 0) {
       trace("Could not set network settings (dhcp off).", NoResult);
       return;
     }
@@ -110,32 +110,31 @@ HANDLER(get_network_configuration_ipv4) {
   trace("Entering get_network_configuration_ipv4");
   zval* session = nullptr;
   if (!parseArguments(argumentCount, "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
 
-  std::string output;
-  int waitStatus = 0;
-  bool dhcpEnabled = true;
-  if (!runCommand(CommandLine::ReadDhcpLease, output, waitStatus)) {
-    reportFailure("Could not get IPv4 network information");
-  }
-  trace("Output1 = ", output);
-  if (output == DhcpOff) {
-    dhcpEnabled = false;
-    if (!runCommand(CommandLine::ReadStaticIpv4, output, waitStatus)) {
+  const CommandResult lease = runCommand(CommandLine::ReadDhcpLease);
+  if (!lease.succeeded) reportFailure("Could not get IPv4 network information");
+  trace("Output1 = ", lease.output);
+  const bool dhcpEnabled = lease.output != DhcpOff;
+  std::string settingsText = lease.output;
+  if (!dhcpEnabled) {
+    const CommandResult fixed = runCommand(CommandLine::ReadStaticIpv4, settingsText);
+    if (!fixed.succeeded) {
       reportResult(FailureCode::StaticIpv4Unreadable, "Could not get IPv4 network information");
     }
-    trace("Output2 = ", output);
+    trace("Output2 = ", fixed.output);
+    settingsText = fixed.output;
   }
-  const std::vector<std::string> settings = ipv4SettingsOf(output);
+  const std::vector<std::string> settings = ipv4SettingsOf(settingsText);
 
-  if (!runCommand(CommandLine::ReadHostName, output, waitStatus)) {
+  const CommandResult hostName = runCommand(CommandLine::ReadHostName, settingsText);
+  if (!hostName.succeeded) {
     reportResult(FailureCode::HostNameUnreadable, "Could not get hostname information");
   }
-  trace("Output3 = ", output);
+  trace("Output3 = ", hostName.output);
 
   makeObject(result);
-  addString(result, "hostname", output);
+  addString(result, "hostname", hostName.output);
   addBoolean(result, "dhcpEnabled", dhcpEnabled);
   addString(result, "ip", settings[0]);
   addString(result, "gateway", settings[2]);
@@ -148,8 +147,7 @@ HANDLER(set_network_configuration_ipv4) {
   zval* session = nullptr;
   zval* settings = nullptr;
   if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
   auto wanted = std::make_unique<Ipv4Settings>(readIpv4Settings(settings));
   trace("Firing off the thread to Set Network settings");
   startWorker(set_network_ipv4, std::move(wanted));
@@ -166,14 +164,13 @@ void* set_network_ipv4(void* block) {
 
 HANDLER(get_network_hostname) {
   trace("Entering get_network_hostname");
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadHostName, output, waitStatus)) {
+  const CommandResult hostName = runCommand(CommandLine::ReadHostName);
+  if (!hostName.succeeded) {
     reportResult(FailureCode::HostNameUnreadable, "Could not get hostname information");
   }
-  trace("Output = ", output);
+  trace("Output = ", hostName.output);
   trace("Exiting get_network_hostname");
-  returnString(result, output);
+  returnString(result, hostName.output);
 }
 
 HANDLER(set_network_hostname) {
@@ -181,8 +178,7 @@ HANDLER(set_network_hostname) {
   zval* session = nullptr;
   PageText name;
   if (!parseArguments(argumentCount, "os", &session, &name)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
   if (changeHostname(name.characters) != 0) reportFailure("Could not set library hostname");
   trace("Exiting set_network_hostname");
 }

@@ -85,7 +85,7 @@ void traceStaticIpv6(const StaticIpv6& settings) {
 bool setStaticIpv6(const StaticIpv6& settings) {
   const std::string text = settings.address + "/" + settings.prefix + SettingsSeparator + settings.gateway;
   trace("Entering setIPv6StaticIP(), address:", text);
-  const int result = runCommand(CommandLine::SetStaticIpv6 + text);
+  const int result = runWithoutOutput(CommandLine::SetStaticIpv6 + text);
   if (result != 0) {
     trace("Failed to enable static IPv6 address: ", result);
     return false;
@@ -97,7 +97,7 @@ bool setStaticIpv6(const StaticIpv6& settings) {
 
 bool removeStaticIpv6() {
   trace("Disabling IPv6 Static addresses");
-  const int result = runCommand(CommandLine::RemoveStaticIpv6);
+  const int result = runWithoutOutput(CommandLine::RemoveStaticIpv6);
   if (result != 0) trace("Failed to disable static IPv6 address: ", result);
   return result == 0;
 }
@@ -108,17 +108,15 @@ HANDLER(get_network_configuration_ipv6) {
   trace("Entering get_network_configuration_ipv6");
   zval* session = nullptr;
   if (!parseArguments(argumentCount, "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
 
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadStaticIpv6, output, waitStatus)) {
+  const CommandResult fixed = runCommand(CommandLine::ReadStaticIpv6);
+  if (!fixed.succeeded) {
     reportFailure("Failed to get IPv6 static address with the script.");
   }
-  trace("Output = ", output);
-  if (output.empty()) trace("Static addressing is disabled");
-  const StaticIpv6 settings = output.empty() ? noStaticIpv6() : parseStaticIpv6(output);
+  trace("Output = ", fixed.output);
+  if (fixed.output.empty()) trace("Static addressing is disabled");
+  const StaticIpv6 settings = fixed.output.empty() ? noStaticIpv6() : parseStaticIpv6(fixed.output);
   traceStaticIpv6(settings);
 
   makeObject(result);
@@ -134,8 +132,7 @@ HANDLER(set_network_configuration_ipv6) {
   zval* session = nullptr;
   zval* settings = nullptr;
   if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
   auto wanted = std::make_unique<StaticIpv6>();
   wanted->enabled = hasTextProperty(settings, "staticEnabled");
   wanted->address = textProperty(settings, "ipStatic");
@@ -170,23 +167,23 @@ HANDLER(set_ipv6_enabled) {
   bool wanted = false;
   if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   if (wanted) {
-    if (runCommand(CommandLine::EnableIpv6) != 0) reportFailure("Failed to enable IPv6.");
+    if (runWithoutOutput(CommandLine::EnableIpv6) != 0) reportFailure("Failed to enable IPv6.");
   } else {
     const FlagFileReader flag(FlagFile::Ipv6Enabled);
-    if (flag.isOpen() && runCommand(CommandLine::DisableIpv6) != 0) reportFailure("Failed to disable IPv6.");
+    if (flag.isOpen() && runWithoutOutput(CommandLine::DisableIpv6) != 0)
+      reportFailure("Failed to disable IPv6.");
   }
   trace("Exiting set_ipv6_enabled");
 }
 
 HANDLER(is_ipv6_static_enabled) {
   trace("Entering is_ipv6_static_enabled");
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadStaticIpv6, output, waitStatus)) {
+  const CommandResult fixed = runCommand(CommandLine::ReadStaticIpv6);
+  if (!fixed.succeeded) {
     reportFailure("Failed to get IPv6 static address with the script.");
   }
-  trace("Output = ", output);
-  const bool enabled = !output.empty();
+  trace("Output = ", fixed.output);
+  const bool enabled = !fixed.output.empty();
   trace(enabled ? "IPv6 Static was enabled" : "IPv6 Static was NOT enabled");
   trace("Exiting is_ipv6_static_enabled");
   returnBoolean(result, enabled);
@@ -194,13 +191,12 @@ HANDLER(is_ipv6_static_enabled) {
 
 HANDLER(is_stateless_enabled) {
   trace("Entering is_stateless_enabled");
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadStateless, output, waitStatus)) {
+  const CommandResult stateless = runCommand(CommandLine::ReadStateless);
+  if (!stateless.succeeded) {
     reportFailure("Could not get hostname information");  // the words that pages and manuals know
   }
   trace("Exiting is_stateless_enabled");
-  returnBoolean(result, output == "1");
+  returnBoolean(result, stateless.output == "1");
 }
 
 HANDLER(set_stateless_enabled) {
@@ -209,7 +205,7 @@ HANDLER(set_stateless_enabled) {
   bool wanted = false;
   if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   trace(wanted ? "Stateless is being ENABLED" : "Stateless is being DISABLED");
-  if (runCommand(std::string(CommandLine::SetStateless) + (wanted ? "1" : "0")) != 0) {
+  if (runWithoutOutput(std::string(CommandLine::SetStateless) + (wanted ? "1" : "0")) != 0) {
     reportFailure("Failed to configure stateless settings.");
   }
   trace("Exiting set_stateless_enabled");
@@ -228,7 +224,7 @@ HANDLER(set_ipv6_dhcp_enabled) {
   bool wanted = false;
   if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   trace(wanted ? "DHCP is being ENABLED" : "DHCP is being DISABLED");
-  if (runCommand(std::string(CommandLine::SwitchIpv6Dhcp) + (wanted ? "on" : "off")) != 0) {
+  if (runWithoutOutput(std::string(CommandLine::SwitchIpv6Dhcp) + (wanted ? "on" : "off")) != 0) {
     reportResult(FailureCode::Ipv6DhcpNotSwitched,
                  "Failed to configure DHCP settings - Make sure you have a valid IPv6 DHCP server running.");
   }
@@ -237,13 +233,12 @@ HANDLER(set_ipv6_dhcp_enabled) {
 
 HANDLER(get_all_ipv6_addresses) {
   trace("Entering get_all_ipv6_addresses");
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ListIpv6Addresses, output, waitStatus)) {
+  const CommandResult list = runCommand(CommandLine::ListIpv6Addresses);
+  if (!list.succeeded) {
     reportFailure("Failed to get IPv6 address.");
   }
   makeArray(result);
-  for (const std::string& address : splitText(output, SettingsSeparator)) {
+  for (const std::string& address : splitText(list.output, SettingsSeparator)) {
     trace("Adding IPv6 ", address);
     appendString(result, address);
   }

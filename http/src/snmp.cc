@@ -121,6 +121,7 @@ void changeAgent(const sp<IMgmtAppConfig>& config, zval* settings) {
 
 void appendRegistration(zval* array, const TrapRegistration& registration) {
   zval* const object = appendObject(array);
+  // For the web server's error log, which is where the receivers are looked up beside the trace.
   std::fprintf(stderr, "%d - %s - %d - %s\n", static_cast<int>(registration.getTransport()),
                tarnStringToCString(registration.getIPAddress()), static_cast<int>(registration.getPort()),
                guidToCString(registration.getTrapID()));
@@ -179,8 +180,7 @@ HANDLER(get_snmp_trap_regs) {
   trace("entering get_snmp_trap_regs");
   zval* session = nullptr;
   if (!parseArguments(argumentCount, "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
   trace("Before slp->getAppMgmtConfigInterface()");
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   TrapRegistrationList list(getSystemTransientObjHeap());
@@ -204,8 +204,7 @@ HANDLER(create_snmp_trap_reg) {
   if (!parseArguments(argumentCount, "olss", &session, &transport, &ip, &port)) {
     return;
   }
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   sp<IStorageLibrary> library = access->getStorageLibraryInterface();
 
@@ -221,7 +220,7 @@ HANDLER(create_snmp_trap_reg) {
   registration.setPort(static_cast<unsigned int>(portNumber));
 
   if (!Result::IsSucceeded(ask(library, &IStorageLibrary::checkAddressConflict, address))) {
-    library.ReleaseReference();
+    library.ReleaseReference();  // before the report, behind which a platform may end the request
     reportResult(FailureCode::InternalAddressConflict, "Internal Address Conflict");
   }
   // Also after a conflict: it is the report that tells the page, not a missing registration.
@@ -235,20 +234,20 @@ HANDLER(delete_snmp_trap_reg) {
   zval* session = nullptr;
   PageText id;
   if (!parseArguments(argumentCount, "os", &session, &id)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   GUID trapID = cStringToGUID(id.characters);
   ask(config, &IMgmtAppConfig::deleteTrapRegistration, trapID);  // an unknown one is no failure to the page
   trace("exiting delete_snmp_trap_reg");
 }
 
+// The name is what pages call. This starts the sending of traps anew and tests it, by the device's script;
+// what starts the agent with changed settings is IMgmtAppConfig::restartSNMP, in set_snmp_settings.
 HANDLER(restart_snmp) {
   trace("entering restart_snmp");
   zval* session = nullptr;
   if (!parseArguments(argumentCount, "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
   if (std::system(CommandLine::TestTrapRegistrations) != 0) {
     std::fprintf(stderr, "System call to testTrapRegistration.sh returned %d\n", errno);
     reportFailure("Failed to restart/test trap registration");

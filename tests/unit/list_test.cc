@@ -353,8 +353,8 @@ TEST(List, ElementsGoAfterThePagesBehindThemAndLastFirst) {
 
 namespace {
 
-// Writes down what is given back to it, and when one of the handles on it goes that the list holds; the platform
-// may have some of its own for a moment.
+// Writes down what is given back to it, and when one of the handles on it goes that the list holds; the
+// platform may have some of its own for a moment.
 class RecordingHeap : public CountingHeap {
  public:
   Result::Code Release(void* block) override {

@@ -10,8 +10,8 @@
 #include "reference_count.h"
 #include "utility/StorageLibraryProxy.h"
 #include "utility/getNetworkSettings.h"
-#include "utility/platform_texts.h"
 #include "utility/page_properties.h"
+#include "utility/platform_texts.h"
 
 using TarnAbstract::GUID;
 using TarnAbstract::IThread;
