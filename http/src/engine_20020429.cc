@@ -39,13 +39,16 @@ bool parseInto(const ArgumentPlaces& places, int argumentCount, const char* form
                                places[3], places[4], places[5]) != ParserFailure;
 }
 
-void returnBoolean(zval* return_value, bool flag) { RETVAL_BOOL(flag); }
+void returnBoolean(zval* result, bool flag) {
+  Z_LVAL_P(result) = flag ? 1 : 0;
+  Z_TYPE_P(result) = IS_BOOL;
+}
 
-void returnString(zval* return_value, const std::string& text) {
+void returnString(zval* result, const std::string& text) {
   const int length = static_cast<int>(strlen(text.c_str()));
-  Z_STRLEN_P(return_value) = length;
-  Z_STRVAL_P(return_value) = estrndup(text.c_str(), length);
-  Z_TYPE_P(return_value) = IS_STRING;
+  Z_STRLEN_P(result) = length;
+  Z_STRVAL_P(result) = estrndup(text.c_str(), length);
+  Z_TYPE_P(result) = IS_STRING;
 }
 
 void makeObject(zval* value) { object_init(value); }

@@ -63,9 +63,9 @@ bool parseInto(const ArgumentPlaces& places, int argumentCount, const char* form
   return false;
 }
 
-void returnBoolean(zval* return_value, bool flag) { RETVAL_BOOL(flag); }
+void returnBoolean(zval* result, bool flag) { ZVAL_BOOL(result, flag); }
 
-void returnString(zval* return_value, const std::string& text) { RETVAL_STRING(text.c_str()); }
+void returnString(zval* result, const std::string& text) { ZVAL_STRING(result, text.c_str()); }
 
 void makeObject(zval* value) { object_init(value); }
 
