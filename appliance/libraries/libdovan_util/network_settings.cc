@@ -14,7 +14,7 @@
 #include "utility/ValidateIPv6address.h"
 #include "utility/checkResultCode.h"
 #include "utility/getNetworkSettings.h"
-#include "utility/script_properties.h"
+#include "utility/page_properties.h"
 
 using TarnAbstract::Result;
 using TarnAbstract::sp;
