@@ -21,8 +21,11 @@ prepare() {
   }
   (
     # A second one in the same checkout finds everything done.
-    exec {lock}>"$checkout/build/.prepare" && flock "$lock" &&
-      install_missing_packages "$checkout" "$purpose" {lock}>&- && build "$checkout" "$purpose" {lock}>&-
+    exec {lock}>"$checkout/build/.prepare" && flock "$lock" || {
+      echo "The file $checkout/build/.prepare cannot be locked, which keeps two from building at once." >&2
+      exit 1
+    }
+    install_missing_packages "$checkout" "$purpose" {lock}>&- && build "$checkout" "$purpose" {lock}>&-
   ) || return "$STATUS_PREPARE"
 }
 

@@ -90,6 +90,7 @@ bool setStaticIpv6(const StaticIpv6& settings) {
     trace("Failed to enable static IPv6 address: ", result);
     return false;
   }
+  // For the web server's error log: what was really set.
   std::fprintf(stderr, "\n\nData was: %s, %s, %s\n\n", settings.address.c_str(), settings.gateway.c_str(),
                settings.prefix.c_str());
   return true;

@@ -249,6 +249,7 @@ HANDLER(restart_snmp) {
   if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access(session);
   if (std::system(CommandLine::TestTrapRegistrations) != 0) {
+    // For the web server's error log: the report has no room for the number.
     std::fprintf(stderr, "System call to testTrapRegistration.sh returned %d\n", errno);
     reportFailure("Failed to restart/test trap registration");
   }

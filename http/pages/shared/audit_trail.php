@@ -30,9 +30,9 @@ function audit_entries()
 // What came of a change, as markup.
 function audit_result($result)
 {
-    $parts = explode(': ', $result, 2);
-    $reason = count($parts) == 2 ? '<p class="hint">' . h($parts[1]) . '</p>' : '';
-    return state($parts[0] == 'stored' ? 'good' : 'bad', ucfirst($parts[0])) . $reason;
+    list($verdict, $reason) = explode(': ', strpos($result, ': ') === false ? $result . ': ' : $result, 2);
+    return state($verdict == 'stored' ? 'good' : 'bad', ucfirst($verdict))
+        . ($reason == '' ? '' : '<p class="hint">' . h($reason) . '</p>');
 }
 
 // Names the user to the management services. The functions for SSL and for the SNMP agent do not do that themselves: the
