@@ -54,3 +54,40 @@ engine context. Name the php-config of a build without thread safety.")
 require_engine_without(
   "ZEND_DEBUG" "a debug build" "its module record carries the debug flag 0 and it calls the engine's \
 non-debug memory functions. Name the php-config of a build without --enable-debug.")
+
+# Empty for an engine that does not say its number.
+function(find_engine_number variable)
+  file(WRITE ${CMAKE_BINARY_DIR}/engine_number.cc "#include <php.h>\nengine number: ZEND_MODULE_API_NO\n")
+  list(TRANSFORM include_directories PREPEND "-I" OUTPUT_VARIABLE options)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -w -E ${options} ${CMAKE_BINARY_DIR}/engine_number.cc
+                  OUTPUT_VARIABLE text ERROR_QUIET)
+  string(REGEX MATCH "engine number: ([0-9]+)" found "${text}")
+  set(${variable} "${CMAKE_MATCH_1}" PARENT_SCOPE)
+endfunction()
+find_engine_number(ENGINE_NUMBER)
+
+# What differs between engines lies in one file for each, engine_NUMBER.cc, and engine_current.cc for those
+# without one. This gives the one in the directory at hand that the engine of this build needs.
+function(engine_source variable)
+  set(file engine_${ENGINE_NUMBER}.cc)
+  if(NOT EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${file})
+    set(file engine_current.cc)
+  endif()
+  set(${variable} ${file} PARENT_SCOPE)
+endfunction()
+
+# The linter asks the build how a file is compiled. Files for an engine that this build is not for are known
+# to it without being built.
+function(show_other_engines_to_linter target)
+  file(GLOB files RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} engine_[0-9]*.cc)
+  foreach(file IN LISTS files)
+    string(REGEX REPLACE "engine_([0-9]+)\\.cc" "\\1" number ${file})
+    if(number STREQUAL ENGINE_NUMBER)
+      continue()
+    endif()
+    add_library(${target}_${number} OBJECT EXCLUDE_FROM_ALL ${file})
+    target_include_directories(${target}_${number} SYSTEM PRIVATE ${CMAKE_SOURCE_DIR}/engine/${number}/include)
+    target_include_directories(${target}_${number} PRIVATE ${CMAKE_SOURCE_DIR}/appliance/libraries)
+    target_link_libraries(${target}_${number} PRIVATE ${ARGN})
+  endforeach()
+endfunction()

@@ -1,32 +1,44 @@
 # shellcheck shell=bash
 # Installs what is missing and builds; to be sourced by bash. Says nothing when there is nothing to do.
 #
-#   prepare CHECKOUT    returns 1 after it has said why on standard error; what was built is in
-#                       CHECKOUT/build
+#   prepare CHECKOUT to-run     what the software appliance needs
+#   prepare CHECKOUT to-test    what the tests need, too
+#
+# What was built is in CHECKOUT/build. Each returns one of the launcher's exit statuses, after it has said on standard
+# error why.
+
+# shellcheck source=../appliance/launcher/exit_statuses.sh
+source "${BASH_SOURCE[0]%/*}/../appliance/launcher/exit_statuses.sh"
 
 # A plain user's has no place for what manages networks and runs services.
 PATH=$PATH:/usr/sbin:/sbin
 
 prepare() {
-  local checkout=$1
-  mkdir -p "$checkout/build" || return
+  local checkout=$1 purpose=$2 reason
+  reason=$({ mkdir -p "$checkout/build" && : >>"$checkout/build/.prepare"; } 2>&1) || {
+    echo "The folder $checkout/build cannot be written: ${reason##*: }." >&2
+    return "$STATUS_STATE"
+  }
   (
     # A second one in the same checkout finds everything done.
-    exec {lock}>"$checkout/build/.prepare" && flock "$lock" || exit
-    install_missing_packages "$checkout/tools/debian-packages" {lock}>&- && build "$checkout" {lock}>&-
-  )
+    exec {lock}>"$checkout/build/.prepare" && flock "$lock" || {
+      echo "The file $checkout/build/.prepare cannot be locked, which keeps two from building at once." >&2
+      exit 1
+    }
+    install_missing_packages "$checkout" "$purpose" {lock}>&- && build "$checkout" "$purpose" {lock}>&-
+  ) || return "$STATUS_PREPARE"
 }
 
 install_missing_packages() {
-  local -a wanted missing
-  mapfile -t wanted < <(sed -e 's/#.*//' -e 's/ //g' -e '/^$/d' "$1" | sort)
-  mapfile -t missing < <(comm -23 <(printf '%s\n' "${wanted[@]}") <(installed_packages | sort -u))
+  local -a lists=("$1/tools/packages-to-run") missing as_root=()
+  [[ $2 == to-run ]] || lists+=("$1/tools/packages-to-test")
+  mapfile -t missing < <(comm -23 <(sed -e 's/#.*//' -e 's/ //g' -e '/^$/d' "${lists[@]}" | sort) \
+    <(installed_packages | sort -u))
   [[ ${#missing[@]} -gt 0 ]] || return 0
   if [[ " ${missing[*]} " == *' g++-powerpc-linux-gnu '* ]] && installed_packages | grep -qx gcc-multilib; then
     echo 'g++-powerpc-linux-gnu cannot be installed beside gcc-multilib: remove gcc-multilib first.' >&2
     return 1
   fi
-  local -a as_root=()
   if [[ $EUID != 0 ]]; then
     command -v sudo >/dev/null || {
       echo "Missing Debian packages: ${missing[*]}. Install them as root; there is no sudo to do it from here." >&2
@@ -36,25 +48,7 @@ install_missing_packages() {
   fi
   echo "Installing Debian packages: ${missing[*]}" >&2
   # The list of packages has a lock of its own that nothing waits for.
-  ${as_root[@]+"${as_root[@]}"} flock /var/lib/apt bash -s -- "${missing[@]}" >&2 <<'AS_ROOT'
-set -e
-export DEBIAN_FRONTEND=noninteractive
-# The services in these packages are for the appliance: the machine itself shall not start them, now or later.
-policy=/usr/sbin/policy-rc.d
-if [[ ! -e $policy ]]; then
-  trap 'rm -f "$policy"' EXIT
-  printf '#!/bin/sh\nexit 101\n' >"$policy"
-  chmod 755 "$policy"
-fi
-quietly() { output=$("$@" 2>&1 </dev/null) || { echo "$output"; return 1; }; }
-quietly apt-get update
-quietly apt-get install --yes --no-remove --no-install-recommends -o DPkg::Lock::Timeout=600 "$@"
-for package; do
-  if command -v systemctl >/dev/null && [[ -e /lib/systemd/system/$package.service ]]; then
-    systemctl disable --quiet "$package" || true
-  fi
-done
-AS_ROOT
+  ${as_root[@]+"${as_root[@]}"} flock /var/lib/apt bash "$1/tools/install_switched_off" "${missing[@]}" >&2
 }
 
 # By every name that they go by.
@@ -64,10 +58,34 @@ installed_packages() {
 }
 
 build() {
-  local checkout=$1 log=$1/build/build.log
-  if [[ ! -e $checkout/build/build.ninja && ! -e $checkout/build/Makefile ]]; then
-    echo "Building in $checkout/build" >&2
-    (cd "$checkout" && cmake --preset default) >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+  local folder=$1/build log=$1/build/build.log
+  forget_foreign_builds "$1"
+  if [[ $2 == to-run ]]; then
+    [[ -e $folder/CMakeCache.txt ]] || configure "$1" -D WITH_TESTS=OFF || return
+    compile --target software_appliance
+  else
+    grep -qx 'WITH_TESTS:BOOL=ON' "$folder/CMakeCache.txt" 2>/dev/null || configure "$1" -D WITH_TESTS=ON || return
+    compile
   fi
-  cmake --build "$checkout/build" --parallel >"$log" 2>&1 || { cat "$log" >&2; return 1; }
 }
+
+# What was built before the checkout was copied or moved knows the places where it was: it would be built there, or
+# not at all. (All else in the folders, such as the appliance's settings, stays.)
+forget_foreign_builds() {
+  local checkout=$1 built source
+  for built in "$checkout"/{build,build-*}; do
+    source=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$built/CMakeCache.txt" 2>/dev/null)
+    [[ -n $source && ! $source -ef $checkout ]] || continue
+    echo "What is in $built was built in $source; it is built again." >&2
+    rm -rf "$built"/{CMakeCache.txt,CMakeFiles,build.ninja,.ninja_deps,.ninja_log,Makefile}
+  done
+}
+
+configure() {
+  local checkout=$1
+  shift
+  [[ -e $folder/CMakeCache.txt ]] || echo "Building in $folder" >&2
+  (cd "$checkout" && cmake --preset default "$@") >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+}
+
+compile() { cmake --build "$folder" --parallel "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }; }

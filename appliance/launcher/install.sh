@@ -12,14 +12,19 @@ APP_RUN=/run/appmanager
 WEB_RUN=$APP_RUN/web
 COMMAND_WRAPPER=/usr/bin/cmdwrap
 MODULE_FILES=(network.so libTarn.so libVelm.so libdovan_util.so)
+BUILT_FILES=(cmdwrap checkSettings management_database "${MODULE_FILES[@]}") # all that is taken from the build folder
 MODULE_CONFIGURATION=50-network.ini # in the folders that the interpreters read settings from
 
-# Sets PHP_EXTENSION_DIR, and PHP_CONFIGURATION_DIRS of the command line and of the web service.
+# Sets PHP_EXTENSION_DIR, and PHP_CONFIGURATION_DIRS of the command line and of the web service; returns 1 after one
+# sentence on standard error when an interpreter does not say them.
 ask_php_for_its_places() {
   local ask='<?php echo PHP_EXTENSION_DIR, "\n", PHP_CONFIG_FILE_SCAN_DIR, "\n";' interpreter directory
   PHP_CONFIGURATION_DIRS=()
   for interpreter in php php-cgi; do
-    { read -r PHP_EXTENSION_DIR && read -r directory; } < <("$interpreter" -n -q <<<"$ask")
+    { read -r PHP_EXTENSION_DIR && read -r directory; } < <("$interpreter" -n -q <<<"$ask" 2>/dev/null) || {
+      echo "The interpreter $interpreter does not say where its extensions and settings belong." >&2
+      return 1
+    }
     PHP_CONFIGURATION_DIRS+=("$directory")
   done
 }

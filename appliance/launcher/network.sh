@@ -15,8 +15,7 @@ LAN_ADDRESSES=('10.20.0.1/24' '2001:db8:20::1/64 nodad')
 network_create() {
   local folder=$1 name error
   for name in appliance lan; do
-    : >"$folder/$name.net"
-    error=$(unshare --net mount --bind /proc/self/ns/net "$folder/$name.net" 2>&1) ||
+    error=$({ : >"$folder/$name.net" && unshare --net mount --bind /proc/self/ns/net "$folder/$name.net"; } 2>&1) ||
       { echo "The kernel allows no network namespace: $error" >&2; return 1; }
   done
   error=$(_network_connect "$folder" 2>&1) ||
@@ -34,10 +33,11 @@ _network_connect() {
 }
 
 network_start_lan() {
-  local folder=$1 configuration=$2
+  local folder=$1 configuration=$2 error
   # No change of user or group: in a user namespace there is no other.
-  nsenter --net="$folder/lan.net" dnsmasq --conf-file="$configuration" --user=root --group= --pid-file= \
-    --dhcp-leasefile="$folder/lan.leases" --log-facility="$folder/lan.log" </dev/null
+  error=$(_network_in lan dnsmasq --conf-file="$configuration" --user=root --group= --pid-file= \
+    --dhcp-leasefile="$folder/lan.leases" --log-facility="$folder/lan.log" 2>&1 </dev/null) ||
+    { echo "The LAN's services did not start: ${error##*$'\n'}" >&2; return 1; }
 }
 
 _network_in() {

@@ -16,7 +16,7 @@
 #       Makes ROOT the root of this mount namespace and becomes COMMAND, in the directory that the caller
 #       is in where ROOT has it, else in /.
 #
-# Each returns 1 after one sentence on standard error when the kernel refuses something.
+# Each returns 1 after it has said why on standard error, in its last line, when a step fails.
 
 private_root_create() {
   local root=$1
@@ -25,12 +25,12 @@ private_root_create() {
   # Written files land in the layers. The overlays keep hold of them when the name below is gone.
   local layers=$root/.layers
   mkdir "$layers" && mount -t tmpfs -o mode=700 private-layers "$layers" || return
-  mkdir "$layers/upper" "$layers/work"
+  mkdir "$layers/upper" "$layers/work" || return
   local path
   for path in /etc /home /usr/bin /var/lib /var/tmp "$@"; do
     _private_root_prepare "$layers/upper" "$path" || return
   done
-  chmod 1777 "$layers/upper/var/tmp"
+  chmod 1777 "$layers/upper/var/tmp" || return
 
   local entry
   shopt -s dotglob nullglob
@@ -42,9 +42,7 @@ private_root_create() {
   done
   shopt -u dotglob nullglob
   umount "$layers" && rmdir "$layers" || return
-  mkdir -p "$root"/{proc,sys,dev,run,tmp}
-  mkdir -p "$root/run/lock"
-  chmod 1777 "$root/tmp" "$root/run/lock"
+  mkdir -p "$root"/{proc,sys,dev,run/lock,tmp} && chmod 1777 "$root/tmp" "$root/run/lock" || return
   _private_root_kernel_views "$root" && _private_root_devices "$root/dev"
 }
 
@@ -54,13 +52,19 @@ private_root_share() {
 }
 
 private_root_enter() {
-  local root=$1 directory=$PWD
+  local root=$1 directory=$PWD error
   shift
-  mkdir "$root/.machine" && pivot_root "$root" "$root/.machine" || return
-  cd / && umount -l /.machine && rmdir /.machine || return
+  error=$(_private_root_replace "$root" 2>&1) || {
+    echo "The private root cannot take the place of the machine's: $error" >&2
+    return 1
+  }
   cd "$directory" 2>/dev/null || cd /
   hash -r
   exec "$@"
+}
+
+_private_root_replace() {
+  mkdir "$1/.machine" && pivot_root "$1" "$1/.machine" && cd / && umount -l /.machine && rmdir /.machine
 }
 
 # The owner of an overlay's directory is the upper layer's: made there in advance it belongs to the caller,
@@ -91,7 +95,7 @@ _private_root_place() {
 
 _private_root_place_directory() {
   local root=$1 layers=$2 path=$3 error
-  mkdir -p "$root$path" "$layers/upper$path" "$layers/work$path"
+  mkdir -p "$root$path" "$layers/upper$path" "$layers/work$path" || return
   error=$(_private_root_overlay "$@" 2>&1) && return
   if _private_root_holds_mounts "$path"; then
     # The mounts of another user namespace cannot be left out of a view of their directory: take apart
@@ -111,7 +115,7 @@ _private_root_overlay() {
   local root=$1 layers=$2 path=$3 options
   # The work directory is one of its own for each overlay, not one inside another's.
   local work=$layers/work${path//\//_}
-  mkdir -p "$work"
+  mkdir -p "$work" || return
   options=lowerdir=$path,upperdir=$layers/upper$path,workdir=$work
   _private_root_has_all_users || options+=,userxattr
   mount -t overlay -o "$options" private-overlay "$root$path"
@@ -121,7 +125,7 @@ _private_root_overlay() {
 _private_root_complete() {
   local upper=$1 target=$2 entry
   for entry in "$upper"/*; do
-    [[ -e $target/${entry##*/} ]] || cp -r "$entry" "$target/"
+    [[ -e $target/${entry##*/} ]] || cp -r "$entry" "$target/" || return
   done
 }
 
@@ -149,15 +153,9 @@ _private_root_kernel_views() {
 _private_root_devices() {
   local dev=$1 device
   for device in null zero full random urandom tty; do
-    : >"$dev/$device"
-    mount --bind "/dev/$device" "$dev/$device" || return
+    : >"$dev/$device" && mount --bind "/dev/$device" "$dev/$device" || return
   done
-  ln -s /proc/self/fd "$dev/fd"
-  ln -s /proc/self/fd/0 "$dev/stdin"
-  ln -s /proc/self/fd/1 "$dev/stdout"
-  ln -s /proc/self/fd/2 "$dev/stderr"
-  ln -s pts/ptmx "$dev/ptmx"
-  mkdir "$dev/pts"
-  mount -t devpts -o newinstance,ptmxmode=0666,mode=620 devpts "$dev/pts" || return
-  mkdir -m 1777 "$dev/shm"
+  ln -s /proc/self/fd "$dev/fd" && ln -s /proc/self/fd/0 "$dev/stdin" && ln -s /proc/self/fd/1 "$dev/stdout" &&
+    ln -s /proc/self/fd/2 "$dev/stderr" && ln -s pts/ptmx "$dev/ptmx" && mkdir "$dev/pts" &&
+    mount -t devpts -o newinstance,ptmxmode=0666,mode=620 devpts "$dev/pts" && mkdir -m 1777 "$dev/shm"
 }

@@ -1,35 +1,42 @@
 // The functions that a page can call, in the order of the module's table.
 #pragma once
 
-#include "script_values.h"
+#include "page_values.h"
 
-HANDLER(get_network_configuration_ipv4);
-HANDLER(set_network_configuration_ipv4);
-HANDLER(get_network_configuration_ipv6);
-HANDLER(set_network_configuration_ipv6);
-HANDLER(is_ipv6_enabled);
-HANDLER(set_ipv6_enabled);
-HANDLER(is_ipv6_static_enabled);
-HANDLER(is_stateless_enabled);
-HANDLER(set_stateless_enabled);
-HANDLER(is_ipv6_dhcp_enabled);
-HANDLER(set_ipv6_dhcp_enabled);
-HANDLER(get_all_ipv6_addresses);
-HANDLER(get_network_dns);
-HANDLER(set_network_dns);
-HANDLER(get_network_hostname);
-HANDLER(set_network_hostname);
-HANDLER(get_ssl_settings);
-HANDLER(set_ssl_settings);
-HANDLER(get_snmp_settings);
-HANDLER(set_snmp_settings);
-HANDLER(restart_snmp);
-HANDLER(get_snmp_trap_regs);
-HANDLER(create_snmp_trap_reg);
-HANDLER(delete_snmp_trap_reg);
-HANDLER(get_fw_settings);
-HANDLER(set_eth2_port_settings);
-HANDLER(get_eth2_port_settings);
+// clang-format off
+#define EACH_HANDLER(DO) \
+  DO(get_network_configuration_ipv4) \
+  DO(set_network_configuration_ipv4) \
+  DO(get_network_configuration_ipv6) \
+  DO(set_network_configuration_ipv6) \
+  DO(is_ipv6_enabled) \
+  DO(set_ipv6_enabled) \
+  DO(is_ipv6_static_enabled) \
+  DO(is_stateless_enabled) \
+  DO(set_stateless_enabled) \
+  DO(is_ipv6_dhcp_enabled) \
+  DO(set_ipv6_dhcp_enabled) \
+  DO(get_all_ipv6_addresses) \
+  DO(get_network_dns) \
+  DO(set_network_dns) \
+  DO(get_network_hostname) \
+  DO(set_network_hostname) \
+  DO(get_ssl_settings) \
+  DO(set_ssl_settings) \
+  DO(get_snmp_settings) \
+  DO(set_snmp_settings) \
+  DO(restart_snmp) \
+  DO(get_snmp_trap_regs) \
+  DO(create_snmp_trap_reg) \
+  DO(delete_snmp_trap_reg) \
+  DO(get_fw_settings) \
+  DO(set_eth2_port_settings) \
+  DO(get_eth2_port_settings)
+// clang-format on
+
+#define DECLARE(name) HANDLER(name);
+EACH_HANDLER(DECLARE)
+#undef DECLARE
 
 // Entry points of the workers; each owns and frees the block it is handed.
 #define EXPORTED_WORKER extern "C" __attribute__((visibility("default"))) void*

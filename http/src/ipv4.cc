@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "command_lines.h"
+#include "command_runner.h"
 #include "handlers.h"
 #include "management_access.h"
-#include "script_runner.h"
-#include "script_values.h"
+#include "page_values.h"
 #include "settings_text.h"
 #include "trace_log.h"
 #include "worker.h"
@@ -54,7 +54,7 @@ void renewSSL() {
 // 0 when there was nothing to do or the script succeeded, else the script's result.
 int changeHostname(const std::string& name) {
   if (name == currentHostName()) return 0;
-  const int result = runCommand(CommandLine::SetHostName + name);
+  const int result = runWithoutOutput(CommandLine::SetHostName + name);
   renewSSL();
   return result;
 }
@@ -89,14 +89,14 @@ void applyIpv4(const Ipv4Settings& settings) {
     return;
   }
   if (settings.dhcp) {
-    if (runCommand(CommandLine::SwitchDhcpOn) != 0) {
+    if (runWithoutOutput(CommandLine::SwitchDhcpOn) != 0) {
       trace("Could not set network settings (dhcp on).", NoResult);
       return;
     }
   } else {
     const std::string text =
         settings.address + SettingsSeparator + settings.netmask + SettingsSeparator + settings.gateway;
-    if (runCommand(CommandLine::SetStaticIpv4 + text) != 0) {
+    if (runWithoutOutput(CommandLine::SetStaticIpv4 + text) != 0) {
       trace("Could not set network settings (dhcp off).", NoResult);
       return;
     }
@@ -109,37 +109,36 @@ void applyIpv4(const Ipv4Settings& settings) {
 HANDLER(get_network_configuration_ipv4) {
   trace("Entering get_network_configuration_ipv4");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  if (!parseArguments(argumentCount, "o", &session)) return;
+  const ManagementAccess access(session);
 
-  std::string output;
-  int waitStatus = 0;
-  bool dhcpEnabled = true;
-  if (!runCommand(CommandLine::ReadDhcpLease, output, waitStatus)) {
-    reportFailure("Could not get IPv4 network information");
-  }
-  trace("Output1 = ", output);
-  if (output == DhcpOff) {
-    dhcpEnabled = false;
-    if (!runCommand(CommandLine::ReadStaticIpv4, output, waitStatus)) {
+  const CommandResult lease = runCommand(CommandLine::ReadDhcpLease);
+  if (!lease.succeeded) reportFailure("Could not get IPv4 network information");
+  trace("Output1 = ", lease.output);
+  const bool dhcpEnabled = lease.output != DhcpOff;
+  std::string settingsText = lease.output;
+  if (!dhcpEnabled) {
+    const CommandResult fixed = runCommand(CommandLine::ReadStaticIpv4, settingsText);
+    if (!fixed.succeeded) {
       reportResult(FailureCode::StaticIpv4Unreadable, "Could not get IPv4 network information");
     }
-    trace("Output2 = ", output);
+    trace("Output2 = ", fixed.output);
+    settingsText = fixed.output;
   }
-  const std::vector<std::string> settings = ipv4SettingsOf(output);
+  const std::vector<std::string> settings = ipv4SettingsOf(settingsText);
 
-  if (!runCommand(CommandLine::ReadHostName, output, waitStatus)) {
+  const CommandResult hostName = runCommand(CommandLine::ReadHostName, settingsText);
+  if (!hostName.succeeded) {
     reportResult(FailureCode::HostNameUnreadable, "Could not get hostname information");
   }
-  trace("Output3 = ", output);
+  trace("Output3 = ", hostName.output);
 
-  makeObject(return_value);
-  addString(return_value, "hostname", output);
-  addBoolean(return_value, "dhcpEnabled", dhcpEnabled);
-  addString(return_value, "ip", settings[0]);
-  addString(return_value, "gateway", settings[2]);
-  addString(return_value, "netmask", settings[1]);
+  makeObject(result);
+  addString(result, "hostname", hostName.output);
+  addBoolean(result, "dhcpEnabled", dhcpEnabled);
+  addString(result, "ip", settings[0]);
+  addString(result, "gateway", settings[2]);
+  addString(result, "netmask", settings[1]);
   trace("Exiting get_network_configuration_ipv4");
 }
 
@@ -147,9 +146,8 @@ HANDLER(set_network_configuration_ipv4) {
   trace("Entering set_network_configuration_ipv4");
   zval* session = nullptr;
   zval* settings = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "oo", &session, &settings)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
+  const ManagementAccess access(session);
   auto wanted = std::make_unique<Ipv4Settings>(readIpv4Settings(settings));
   trace("Firing off the thread to Set Network settings");
   startWorker(set_network_ipv4, std::move(wanted));
@@ -166,23 +164,21 @@ void* set_network_ipv4(void* block) {
 
 HANDLER(get_network_hostname) {
   trace("Entering get_network_hostname");
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadHostName, output, waitStatus)) {
+  const CommandResult hostName = runCommand(CommandLine::ReadHostName);
+  if (!hostName.succeeded) {
     reportResult(FailureCode::HostNameUnreadable, "Could not get hostname information");
   }
-  trace("Output = ", output);
+  trace("Output = ", hostName.output);
   trace("Exiting get_network_hostname");
-  returnString(return_value, output);
+  returnString(result, hostName.output);
 }
 
 HANDLER(set_network_hostname) {
   trace("Entering set_network_hostname");
   zval* session = nullptr;
-  ScriptText name;
-  if (!parseArguments(ZEND_NUM_ARGS(), "os", &session, &name.characters, &name.length)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  PageText name;
+  if (!parseArguments(argumentCount, "os", &session, &name)) return;
+  const ManagementAccess access(session);
   if (changeHostname(name.characters) != 0) reportFailure("Could not set library hostname");
   trace("Exiting set_network_hostname");
 }

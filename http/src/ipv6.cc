@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "command_lines.h"
+#include "command_runner.h"
 #include "handlers.h"
 #include "management_access.h"
-#include "script_runner.h"
-#include "script_values.h"
+#include "page_values.h"
 #include "settings_text.h"
 #include "trace_log.h"
 #include "utility/ValidateIPv6address.h"
@@ -85,11 +85,12 @@ void traceStaticIpv6(const StaticIpv6& settings) {
 bool setStaticIpv6(const StaticIpv6& settings) {
   const std::string text = settings.address + "/" + settings.prefix + SettingsSeparator + settings.gateway;
   trace("Entering setIPv6StaticIP(), address:", text);
-  const int result = runCommand(CommandLine::SetStaticIpv6 + text);
+  const int result = runWithoutOutput(CommandLine::SetStaticIpv6 + text);
   if (result != 0) {
     trace("Failed to enable static IPv6 address: ", result);
     return false;
   }
+  // For the web server's error log: what was really set.
   std::fprintf(stderr, "\n\nData was: %s, %s, %s\n\n", settings.address.c_str(), settings.gateway.c_str(),
                settings.prefix.c_str());
   return true;
@@ -97,7 +98,7 @@ bool setStaticIpv6(const StaticIpv6& settings) {
 
 bool removeStaticIpv6() {
   trace("Disabling IPv6 Static addresses");
-  const int result = runCommand(CommandLine::RemoveStaticIpv6);
+  const int result = runWithoutOutput(CommandLine::RemoveStaticIpv6);
   if (result != 0) trace("Failed to disable static IPv6 address: ", result);
   return result == 0;
 }
@@ -107,25 +108,23 @@ bool removeStaticIpv6() {
 HANDLER(get_network_configuration_ipv6) {
   trace("Entering get_network_configuration_ipv6");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  if (!parseArguments(argumentCount, "o", &session)) return;
+  const ManagementAccess access(session);
 
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadStaticIpv6, output, waitStatus)) {
+  const CommandResult fixed = runCommand(CommandLine::ReadStaticIpv6);
+  if (!fixed.succeeded) {
     reportFailure("Failed to get IPv6 static address with the script.");
   }
-  trace("Output = ", output);
-  if (output.empty()) trace("Static addressing is disabled");
-  const StaticIpv6 settings = output.empty() ? noStaticIpv6() : parseStaticIpv6(output);
+  trace("Output = ", fixed.output);
+  if (fixed.output.empty()) trace("Static addressing is disabled");
+  const StaticIpv6 settings = fixed.output.empty() ? noStaticIpv6() : parseStaticIpv6(fixed.output);
   traceStaticIpv6(settings);
 
-  makeObject(return_value);
-  addBoolean(return_value, "staticEnabled", settings.enabled);
-  addString(return_value, "ipStatic", settings.address);
-  addString(return_value, "gateway", settings.gateway);
-  addString(return_value, "prefix", settings.prefix);
+  makeObject(result);
+  addBoolean(result, "staticEnabled", settings.enabled);
+  addString(result, "ipStatic", settings.address);
+  addString(result, "gateway", settings.gateway);
+  addString(result, "prefix", settings.prefix);
   trace("Exiting get_network_configuration_ipv6");
 }
 
@@ -133,9 +132,8 @@ HANDLER(set_network_configuration_ipv6) {
   trace("Entering set_network_configuration_ipv6");
   zval* session = nullptr;
   zval* settings = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "oo", &session, &settings)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
+  const ManagementAccess access(session);
   auto wanted = std::make_unique<StaticIpv6>();
   wanted->enabled = hasTextProperty(settings, "staticEnabled");
   wanted->address = textProperty(settings, "ipStatic");
@@ -161,55 +159,54 @@ HANDLER(is_ipv6_enabled) {
   trace("Entering is_ipv6_enabled");
   const bool enabled = isFlagSet(FlagFile::Ipv6Enabled, "IPv6 was enabled", "IPv6 was NOT enabled");
   trace("Exiting is_ipv6_enabled");
-  returnBoolean(return_value, enabled);
+  returnBoolean(result, enabled);
 }
 
 HANDLER(set_ipv6_enabled) {
   trace("Entering set_ipv6_enabled");
   zval* session = nullptr;
-  ScriptFlag wanted = {};
-  if (!parseArguments(ZEND_NUM_ARGS(), "ob", &session, &wanted)) return;
+  bool wanted = false;
+  if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   if (wanted) {
-    if (runCommand(CommandLine::EnableIpv6) != 0) reportFailure("Failed to enable IPv6.");
+    if (runWithoutOutput(CommandLine::EnableIpv6) != 0) reportFailure("Failed to enable IPv6.");
   } else {
     const FlagFileReader flag(FlagFile::Ipv6Enabled);
-    if (flag.isOpen() && runCommand(CommandLine::DisableIpv6) != 0) reportFailure("Failed to disable IPv6.");
+    if (flag.isOpen() && runWithoutOutput(CommandLine::DisableIpv6) != 0)
+      reportFailure("Failed to disable IPv6.");
   }
   trace("Exiting set_ipv6_enabled");
 }
 
 HANDLER(is_ipv6_static_enabled) {
   trace("Entering is_ipv6_static_enabled");
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadStaticIpv6, output, waitStatus)) {
+  const CommandResult fixed = runCommand(CommandLine::ReadStaticIpv6);
+  if (!fixed.succeeded) {
     reportFailure("Failed to get IPv6 static address with the script.");
   }
-  trace("Output = ", output);
-  const bool enabled = !output.empty();
+  trace("Output = ", fixed.output);
+  const bool enabled = !fixed.output.empty();
   trace(enabled ? "IPv6 Static was enabled" : "IPv6 Static was NOT enabled");
   trace("Exiting is_ipv6_static_enabled");
-  returnBoolean(return_value, enabled);
+  returnBoolean(result, enabled);
 }
 
 HANDLER(is_stateless_enabled) {
   trace("Entering is_stateless_enabled");
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadStateless, output, waitStatus)) {
+  const CommandResult stateless = runCommand(CommandLine::ReadStateless);
+  if (!stateless.succeeded) {
     reportFailure("Could not get hostname information");  // the words that pages and manuals know
   }
   trace("Exiting is_stateless_enabled");
-  returnBoolean(return_value, output == "1");
+  returnBoolean(result, stateless.output == "1");
 }
 
 HANDLER(set_stateless_enabled) {
   trace("Entering set_stateless_enabled");
   zval* session = nullptr;
-  ScriptFlag wanted = {};
-  if (!parseArguments(ZEND_NUM_ARGS(), "ob", &session, &wanted)) return;
+  bool wanted = false;
+  if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   trace(wanted ? "Stateless is being ENABLED" : "Stateless is being DISABLED");
-  if (runCommand(std::string(CommandLine::SetStateless) + (wanted ? "1" : "0")) != 0) {
+  if (runWithoutOutput(std::string(CommandLine::SetStateless) + (wanted ? "1" : "0")) != 0) {
     reportFailure("Failed to configure stateless settings.");
   }
   trace("Exiting set_stateless_enabled");
@@ -219,16 +216,16 @@ HANDLER(is_ipv6_dhcp_enabled) {
   trace("Entering is_ipv6_dhcp_enabled");
   const bool enabled = isFlagSet(FlagFile::Ipv6Dhcp, "IPv6 DHCP was enabled", "IPv6 DHCP was NOT enabled");
   trace("Exiting is_ipv6_dhcp_enabled");
-  returnBoolean(return_value, enabled);
+  returnBoolean(result, enabled);
 }
 
 HANDLER(set_ipv6_dhcp_enabled) {
   trace("Entering set_ipv6_dhcp_enabled");
   zval* session = nullptr;
-  ScriptFlag wanted = {};
-  if (!parseArguments(ZEND_NUM_ARGS(), "ob", &session, &wanted)) return;
+  bool wanted = false;
+  if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   trace(wanted ? "DHCP is being ENABLED" : "DHCP is being DISABLED");
-  if (runCommand(std::string(CommandLine::SwitchIpv6Dhcp) + (wanted ? "on" : "off")) != 0) {
+  if (runWithoutOutput(std::string(CommandLine::SwitchIpv6Dhcp) + (wanted ? "on" : "off")) != 0) {
     reportResult(FailureCode::Ipv6DhcpNotSwitched,
                  "Failed to configure DHCP settings - Make sure you have a valid IPv6 DHCP server running.");
   }
@@ -237,15 +234,14 @@ HANDLER(set_ipv6_dhcp_enabled) {
 
 HANDLER(get_all_ipv6_addresses) {
   trace("Entering get_all_ipv6_addresses");
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ListIpv6Addresses, output, waitStatus)) {
+  const CommandResult list = runCommand(CommandLine::ListIpv6Addresses);
+  if (!list.succeeded) {
     reportFailure("Failed to get IPv6 address.");
   }
-  makeArray(return_value);
-  for (const std::string& address : splitText(output, SettingsSeparator)) {
+  makeArray(result);
+  for (const std::string& address : splitText(list.output, SettingsSeparator)) {
     trace("Adding IPv6 ", address);
-    appendString(return_value, address);
+    appendString(result, address);
   }
   trace("Exiting get_all_ipv6_addresses");
 }

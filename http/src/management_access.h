@@ -8,9 +8,12 @@
 #include "utility/checkResultCode.h"
 
 // Held by a handler from its first request to the services until it returns; declared before any
-// interface handle, so that the thread's handle is dropped last.
+// interface handle, so that the thread's handle is dropped last. With a session the services act on behalf of
+// that session's user. Without one they do for whoever was attached last: the functions for SSL, for the SNMP
+// agent's settings and for all settings at once attach nobody.
 class ManagementAccess {
  public:
+  explicit ManagementAccess(zval* session) : ManagementAccess() { proxy_->setSession(session); }
   ManagementAccess()
       : proxy_(StorageLibraryProxy::getInstance()), thread_(TarnAbstract::TarnThreading::CurrentThread()) {}
   StorageLibraryProxy* operator->() const { return proxy_; }
@@ -38,7 +41,7 @@ constexpr TarnAbstract::Result::Code InternalAddressConflict = 0x50040;
 }  // namespace FailureCode
 
 // Reports a failure code to the page with the line of the call; a success code is none. The caller goes
-// on in either case.
+// on in either case. checkResultCode is the utility library's name for it: it does not only check, it warns.
 inline void reportResult(TarnAbstract::Result::Code code, const char* message, int line = __builtin_LINE()) {
   static char source[] = "http/src/network";
   checkResultCode(code, const_cast<char*>(message), source, line);

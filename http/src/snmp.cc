@@ -5,14 +5,15 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <iterator>
 
 #include "command_lines.h"
 #include "handlers.h"
 #include "management_access.h"
+#include "page_values.h"
 #include "platform/List.h"
 #include "platform/MemoryMgmt.h"
-#include "script_values.h"
 #include "trace_log.h"
 #include "utility/platform_texts.h"
 
@@ -42,16 +43,22 @@ static_assert(hasSizeOnTheAppliance<GUID>(12));
 static_assert(hasSizeOnTheAppliance<TrapRegistration>(32));
 static_assert(hasSizeOnTheAppliance<TarnAbstract::ListElementPage<TrapRegistration, 4>>(132));
 
-// A truth value's width is the compiler's that built the services: they may write one byte or a word.
+// A truth value of the services, as the number they wrote. Its width is that of the compiler that built them:
+// they write one byte, the first, or the whole word.
 class FlagWord {
  public:
   bool& asFlag() { return reinterpret_cast<bool&>(bytes_); }
-  bool isSet() const {
-    return std::any_of(std::begin(bytes_), std::end(bytes_), [](unsigned char byte) { return byte != 0; });
+  int number() const {
+    // A byte alone is that byte, also where the first byte of a word counts most.
+    if (std::all_of(bytes_ + 1, std::end(bytes_), [](unsigned char byte) { return byte == 0; }))
+      return bytes_[0];
+    std::int32_t word = 0;
+    std::memcpy(&word, bytes_, sizeof(word));
+    return word;
   }
 
  private:
-  alignas(std::uint32_t) unsigned char bytes_[sizeof(std::uint32_t)] = {};
+  alignas(std::int32_t) unsigned char bytes_[sizeof(std::int32_t)] = {};
 };
 
 // By number, which of the versions 1 to 5 the agent reports.
@@ -114,6 +121,7 @@ void changeAgent(const sp<IMgmtAppConfig>& config, zval* settings) {
 
 void appendRegistration(zval* array, const TrapRegistration& registration) {
   zval* const object = appendObject(array);
+  // For the web server's error log, which is where the receivers are looked up beside the trace.
   std::fprintf(stderr, "%d - %s - %d - %s\n", static_cast<int>(registration.getTransport()),
                tarnStringToCString(registration.getIPAddress()), static_cast<int>(registration.getPort()),
                guidToCString(registration.getTrapID()));
@@ -128,7 +136,7 @@ void appendRegistration(zval* array, const TrapRegistration& registration) {
 HANDLER(get_snmp_settings) {
   trace("Entering get_snmp_settings");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access;
   trace("Before slp->getAppMgmtConfigInterface()");
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
@@ -137,23 +145,23 @@ HANDLER(get_snmp_settings) {
   FlagWord authTraps;
   reportResult(ask(config, &IMgmtAppConfig::getAuthTrapsEnabled, authTraps.asFlag()),
                "Could not get SNMP traps enabled");
-  trace("SNMP auth traps are enabled:", static_cast<int>(authTraps.isSet()));
+  trace("SNMP auth traps are enabled:", authTraps.number());
   String community("", getSystemTransientObjHeap());
   reportResult(ask(config, &IMgmtAppConfig::getReadCommunity, community),
                "Could not get SNMP read community");
   trace("SNMP community:", tarnStringToCString(community));
 
-  makeObject(return_value);
-  addBoolean(return_value, "version1", versions.has[Velm::SNMP_VERSION_1]);
-  addBoolean(return_value, "version2", versions.has[Velm::SNMP_VERSION_2]);
-  addBoolean(return_value, "version3", versions.has[Velm::SNMP_VERSION_3]);
-  addBoolean(return_value, "trap1", versions.has[Velm::SNMP_TRAP_VERSION_1]);
-  addBoolean(return_value, "trap2", versions.has[Velm::SNMP_TRAP_VERSION_2]);
-  addString(return_value, "algorithm", "MD5");
-  addBoolean(return_value, "encryption", false);
-  addInteger(return_value, "port", 161);
-  addBoolean(return_value, "auth_traps_enabled", authTraps.isSet());
-  addString(return_value, "community_name", tarnStringToCString(community));
+  makeObject(result);
+  addBoolean(result, "version1", versions.has[Velm::SNMP_VERSION_1]);
+  addBoolean(result, "version2", versions.has[Velm::SNMP_VERSION_2]);
+  addBoolean(result, "version3", versions.has[Velm::SNMP_VERSION_3]);
+  addBoolean(result, "trap1", versions.has[Velm::SNMP_TRAP_VERSION_1]);
+  addBoolean(result, "trap2", versions.has[Velm::SNMP_TRAP_VERSION_2]);
+  addString(result, "algorithm", "MD5");
+  addBoolean(result, "encryption", false);
+  addInteger(result, "port", 161);
+  addBoolean(result, "auth_traps_enabled", authTraps.number() != 0);
+  addString(result, "community_name", tarnStringToCString(community));
   trace("Exiting get_snmp_settings");
 }
 
@@ -161,7 +169,7 @@ HANDLER(set_snmp_settings) {
   trace("Entering set_snmp_settings");
   zval* session = nullptr;
   zval* settings = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "oo", &session, &settings)) return;
+  if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
   const ManagementAccess access;
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   if (settings != nullptr) changeAgent(config, settings);
@@ -171,19 +179,18 @@ HANDLER(set_snmp_settings) {
 HANDLER(get_snmp_trap_regs) {
   trace("entering get_snmp_trap_regs");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  if (!parseArguments(argumentCount, "o", &session)) return;
+  const ManagementAccess access(session);
   trace("Before slp->getAppMgmtConfigInterface()");
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   TrapRegistrationList list(getSystemTransientObjHeap());
   ask(config, &IMgmtAppConfig::getTrapRegistrations, list);
   trace("Number of trap registratrations:", static_cast<int>(list.Size()));
-  makeArray(return_value);
+  makeArray(result);
   for (unsigned int index = 0; index < list.Size(); ++index) {
     TrapRegistration registration;
     list.Item(index, registration);
-    appendRegistration(return_value, registration);
+    appendRegistration(result, registration);
   }
   trace("Exiting get_snmp_trap_regs");
 }
@@ -191,15 +198,13 @@ HANDLER(get_snmp_trap_regs) {
 HANDLER(create_snmp_trap_reg) {
   trace("entering create_snmp_trap_reg");
   zval* session = nullptr;
-  ScriptInteger transport = 0;
-  ScriptText ip;
-  ScriptText port;
-  if (!parseArguments(ZEND_NUM_ARGS(), "olss", &session, &transport, &ip.characters, &ip.length,
-                      &port.characters, &port.length)) {
+  long transport = 0;
+  PageText ip;
+  PageText port;
+  if (!parseArguments(argumentCount, "olss", &session, &transport, &ip, &port)) {
     return;
   }
-  const ManagementAccess access;
-  access->setSession(session);
+  const ManagementAccess access(session);
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   sp<IStorageLibrary> library = access->getStorageLibraryInterface();
 
@@ -215,7 +220,7 @@ HANDLER(create_snmp_trap_reg) {
   registration.setPort(static_cast<unsigned int>(portNumber));
 
   if (!Result::IsSucceeded(ask(library, &IStorageLibrary::checkAddressConflict, address))) {
-    library.ReleaseReference();
+    library.ReleaseReference();  // before the report, behind which a platform may end the request
     reportResult(FailureCode::InternalAddressConflict, "Internal Address Conflict");
   }
   // Also after a conflict: it is the report that tells the page, not a missing registration.
@@ -227,23 +232,24 @@ HANDLER(create_snmp_trap_reg) {
 HANDLER(delete_snmp_trap_reg) {
   trace("entering delete_snmp_trap_reg");
   zval* session = nullptr;
-  ScriptText id;
-  if (!parseArguments(ZEND_NUM_ARGS(), "os", &session, &id.characters, &id.length)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  PageText id;
+  if (!parseArguments(argumentCount, "os", &session, &id)) return;
+  const ManagementAccess access(session);
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   GUID trapID = cStringToGUID(id.characters);
   ask(config, &IMgmtAppConfig::deleteTrapRegistration, trapID);  // an unknown one is no failure to the page
   trace("exiting delete_snmp_trap_reg");
 }
 
+// The name is what pages call. This starts the sending of traps anew and tests it, by the device's script;
+// what starts the agent with changed settings is IMgmtAppConfig::restartSNMP, in set_snmp_settings.
 HANDLER(restart_snmp) {
   trace("entering restart_snmp");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  if (!parseArguments(argumentCount, "o", &session)) return;
+  const ManagementAccess access(session);
   if (std::system(CommandLine::TestTrapRegistrations) != 0) {
+    // For the web server's error log: the report has no room for the number.
     std::fprintf(stderr, "System call to testTrapRegistration.sh returned %d\n", errno);
     reportFailure("Failed to restart/test trap registration");
   }

@@ -13,12 +13,14 @@
 // when there is no thread to be had.
 template <class Settings>
 void startWorker(void* (*worker)(void*), std::unique_ptr<Settings> settings, int line = __builtin_LINE()) {
-  // The interpreter's signals (its time limit is one) are for the request's thread: the new thread
-  // inherits a mask that blocks them all.
-  sigset_t all;
+  // The interpreter's timers (its time limit is one) are for the request's thread. A new thread inherits the
+  // mask. No other signal: the worker hands its mask on to the device scripts, and a daemon that those start
+  // could not be ended.
+  sigset_t timers;
   sigset_t callers;
-  sigfillset(&all);
-  pthread_sigmask(SIG_SETMASK, &all, &callers);
+  sigemptyset(&timers);
+  for (const int timer : {SIGALRM, SIGVTALRM, SIGPROF}) sigaddset(&timers, timer);
+  pthread_sigmask(SIG_BLOCK, &timers, &callers);
   pthread_t thread = {};
   const int failure = pthread_create(&thread, nullptr, worker, settings.get());
   pthread_sigmask(SIG_SETMASK, &callers, nullptr);

@@ -4,7 +4,8 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const http = require('node:http');
-const {addresses, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until, withScript} = require('./appliance.cjs');
+const {addresses, applianceFolder, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until,
+  withScript} = require('./appliance.cjs');
 const {base, enterPassword, messages, open, press, signIn, test} = require('./browser.cjs');
 
 async function fillStatic(page, ip, gateway = '10.20.0.1') {
@@ -22,8 +23,8 @@ function rows(page) {
 
 // Lets the change that was begun be so old that it should have come to its end.
 function timeIsOver() {
-  const [kept] = fs.readdirSync('/home/embedded/library/HTTPService/dat').filter((name) => name.startsWith('applying.'));
-  const path = `/home/embedded/library/HTTPService/dat/${kept}`;
+  const [kept] = fs.readdirSync(`${applianceFolder}/HTTPService/dat`).filter((name) => name.startsWith('applying.'));
+  const path = `${applianceFolder}/HTTPService/dat/${kept}`;
   const change = fs.readFileSync(path, 'utf8');
   const [, began] = change.match(/"began";i:(\d+);/);
   fs.writeFileSync(path, change.replace(began, String(began - 45)));
@@ -114,7 +115,8 @@ test('A change that fails: the old values are marked, and the trace log says why
 });
 
 // The setting is there before it is in force: stored by the first line, the script goes on for some seconds.
-const stored = 'SETTING=/home/embedded/library/AppManager/dat/ipv4; cp "$SETTING" "$SETTING.before"; printf "static %s\\n" "$3" >"$SETTING"; sleep 3;';
+const stored = `SETTING=${applianceFolder}/AppManager/dat/ipv4; `
+  + 'cp "$SETTING" "$SETTING.before"; printf "static %s\\n" "$3" >"$SETTING"; sleep 3;';
 
 test('What only reads as wanted is not yet applied, and a change that fails at its end is none', {user: 'admin'}, async (page) => {
   const slow = `${stored} mv "$SETTING.before" "$SETTING"; exit 1`;

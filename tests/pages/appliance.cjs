@@ -4,14 +4,19 @@
 const {execFileSync, spawn} = require('node:child_process');
 const fs = require('node:fs');
 
-const library = '/home/embedded/library';
-const web = `${library}/HTTPService/lighttpd`;
+const applianceFolder = '/home/embedded/library';
+const web = `${applianceFolder}/HTTPService/lighttpd`;
 
 const accounts = new Map(process.env.PAGES_TEST_ACCOUNTS.split('\n').map((line) => line.split(' ')));
 
+// Runs a command, and returns what it says. What it says on standard error is shown only when it fails.
+function fromLan(...command) {
+  return execFileSync(command[0], command.slice(1), {encoding: 'utf8', stdio: ['ignore', 'pipe', 'pipe']}).trim();
+}
+
 // In the appliance's network; this process is on the LAN.
 function inAppliance(...command) {
-  return execFileSync('nsenter', ['--net=/run/appliance/appliance.net', '--', ...command], {encoding: 'utf8'}).trim();
+  return fromLan('nsenter', '--net=/run/appliance/appliance.net', '--', ...command);
 }
 
 function addresses(family) {
@@ -26,16 +31,12 @@ function ipv4Address() {
 
 // What a device script says to a question.
 function ask(script, ...options) {
-  return inAppliance('sh', `${library}/AppManager/bin/${script}`, ...options);
+  return inAppliance('sh', `${applianceFolder}/AppManager/bin/${script}`, ...options);
 }
 
 // Calls functions of the module as a page does.
 function php(code) {
   return inAppliance('php', '-r', `class Session { var $user = 'tests'; } $session = new Session(); ${code}`);
-}
-
-function fromLan(...command) {
-  return execFileSync(command[0], command.slice(1), {encoding: 'utf8', stdio: ['ignore', 'pipe', 'pipe']}).trim();
 }
 
 function traceLog() {
@@ -67,7 +68,7 @@ function ipv4ChangesOver() {
 // Puts another script in the place of a device script while the work is done; $ORIGINAL is that script.
 async function withScript(name, text, work) {
   // One of them lies elsewhere.
-  const path = [`${library}/AppManager/bin/${name}`, `${library}/${name}`].find((place) => fs.existsSync(place));
+  const path = [`${applianceFolder}/AppManager/bin/${name}`, `${applianceFolder}/${name}`].find((place) => fs.existsSync(place));
   const original = fs.readFileSync(path);
   fs.writeFileSync(`${path}.original.sh`, original, {mode: 0o755});
   fs.writeFileSync(path, `#!/bin/sh\nORIGINAL=${path}.original.sh\n${text}\n`);
@@ -92,5 +93,5 @@ async function datagramsTo(port, work) {
   }
 }
 
-module.exports = {accounts, addresses, ask, datagramsTo, errorLog, fromLan, inAppliance, ipv4Address, ipv4ChangesOver, library, php, traceLog,
-  until, web, withScript};
+module.exports = {accounts, addresses, applianceFolder, ask, datagramsTo, errorLog, fromLan, inAppliance, ipv4Address,
+  ipv4ChangesOver, php, traceLog, until, web, withScript};

@@ -3,7 +3,7 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
-const {ipv4Address, library, php, withScript} = require('./appliance.cjs');
+const {applianceFolder, ipv4Address, php, withScript} = require('./appliance.cjs');
 const {accessibilityFaults, asksToSignIn, base, enterPassword, messages, open, pages, press, served, signIn, test} = require('./browser.cjs');
 
 const screens = {wide: {width: 1280, height: 900}, narrow: {width: 360, height: 740}};
@@ -80,7 +80,7 @@ test('States that are seldom seen are accessible and fit', {viewport: screens.na
   await page.fill('#password', 'wrong');
   await press(page, 'Sign in');
   await judge(page, 'signin.php with an error');
-  fs.writeFileSync(`${library}/HTTPService/dat/attempts`, '');
+  fs.writeFileSync(`${applianceFolder}/HTTPService/dat/attempts`, '');
 
   await enterPassword(page);
   await open(page, 'dns.php');

@@ -4,11 +4,11 @@
 const assert = require('node:assert/strict');
 const {execFileSync, spawnSync} = require('node:child_process');
 const fs = require('node:fs');
-const {accounts, inAppliance, library, until, web} = require('./appliance.cjs');
+const {accounts, applianceFolder, inAppliance, until, web} = require('./appliance.cjs');
 const {asksToSignIn, base, enterPassword, open, pages, press, signIn, test} = require('./browser.cjs');
 
-const dat = `${library}/HTTPService/dat`;
-const firstPassword = `${library}/AppManager/bin/firstPassword.sh`;
+const dat = `${applianceFolder}/HTTPService/dat`;
+const firstPassword = `${applianceFolder}/AppManager/bin/firstPassword.sh`;
 
 async function cookie(context) {
   const cookies = await context.cookies();

@@ -28,6 +28,7 @@ test('Today\'s interpreter has nothing against the pages', () => {
 
 test('What only one of the interpreters has is found', () => {
   const folder = fs.mkdtempSync('/tmp/subset-');
+  fs.mkdirSync(`${folder}/htdocs`);
   const wrong = {'[1]': 'a short array', '$a ?? 2': '"??"', 'f()[0]': 'an index of', 'function () {}': 'a closure',
     '$a ?: 1': '"?:"', 'file_put_contents($a, 1)': 'file_put_contents()', 'password_hash($a, 1)': 'without function_exists()',
     'f()->x': 'a property of', 'A::b()': '"::"', 'clone $a': '"clone"', 'each($a)': 'each()',
@@ -38,7 +39,7 @@ test('What only one of the interpreters has is found', () => {
     '1; class C { function __construct() {} }': '__construct(), which', '$b{0}': 'an index in braces', '1; use A': '"use"',
     'array(1,)': ''};
   for (const code of Object.keys(wrong)) {
-    fs.writeFileSync(`${folder}/page.php`, `<?php function f() { return 1; } $a = ${code};`);
+    fs.writeFileSync(`${folder}/htdocs/page.php`, `<?php function f() { return 1; } $a = ${code};`);
     const found = subset(folder).stdout;
     if (wrong[code]) assert.ok(found.split('\n').some((line) => line.includes('page.php:1: ') && line.includes(wrong[code])), `${code}: ${found}`);
     else assert.ok(!found.includes('page.php'), `${code}: ${found}`);

@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const net = require('node:net');
-const {ipv4Address, library, php, until, withScript} = require('./appliance.cjs');
+const {applianceFolder, ipv4Address, php, until, withScript} = require('./appliance.cjs');
 const {base, certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
 
 // Who switches is signed out: a session of its own each.
@@ -39,7 +39,7 @@ test('A session that has travelled unencrypted is of no use under HTTPS, whateve
   };
   assert.equal(await asks(`${base('https')}dns.php`, `${name}=${value}`), false);
   // As if it had been made before HTTPS was switched on.
-  const file = `${library}/HTTPService/dat/sessions/sess_${value}`;
+  const file = `${applianceFolder}/HTTPService/dat/sessions/sess_${value}`;
   fs.writeFileSync(file, fs.readFileSync(file, 'utf8').replace('https|b:1;', 'https|b:0;'));
   assert.equal(await asks(`${base('https')}dns.php`, `${name}=${value}`), true);
 });

@@ -12,7 +12,7 @@ has_no_address() { [[ -z $(ip -oneline address show dev eth0 to "$1") ]]; }
 # All that the device scripts can change, without what changes by itself: the kernel adds the local routes of an
 # address some time after the address.
 device_state() {
-  grep -r '' "$SETTINGS" --exclude=lock
+  grep -r '' "$SETTINGS"
   ls "$SETTINGS" /etc/ipv6dhcp 2>&1
   hostname
   ip -oneline address show dev eth0 | sed 's/ *\\.*//; s/ tentative$//'

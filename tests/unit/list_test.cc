@@ -351,6 +351,41 @@ TEST(List, ElementsGoAfterThePagesBehindThemAndLastFirst) {
   EXPECT_EQ("fedcba", Mortal::deaths);
 }
 
+namespace {
+
+// Writes down what is given back to it, and when one of the handles on it goes that the list holds; the
+// platform may have some of its own for a moment.
+class RecordingHeap : public CountingHeap {
+ public:
+  Result::Code Release(void* block) override {
+    const auto place = std::find(given.begin(), given.end(), block) - given.begin();
+    events += "page " + std::to_string(place + 2) + ", ";
+    return CountingHeap::Release(block);
+  }
+  void DropReference() override {
+    CountingHeap::DropReference();
+    if (references >= fewest) return;
+    fewest = references;
+    events += std::to_string(references) + " left, ";
+  }
+
+  int fewest = 0;
+  std::string events;
+};
+
+}  // namespace
+
+TEST(List, PagesGoLastFirstEachBeforeItsOwnHandleOfTheHeapAndTheListsHandleGoesLast) {
+  RecordingHeap heap;
+  {
+    Numbers list{sp<IHeap>(&heap)};
+    for (int i = 0; i < 13; ++i) list.Append(i);
+    ASSERT_EQ(4, heap.references) << "the list's handle and one in each of three pages";
+    heap.fewest = heap.references;
+  }
+  EXPECT_EQ("page 4, 3 left, page 3, 2 left, page 2, 1 left, 0 left, ", heap.events);
+}
+
 TEST(List, NewPageHoldsDefaultElements) {
   const ListElementPage<Velm::eSNMPVersion, 4> versions;
   for (const Velm::eSNMPVersion version : versions.elements) EXPECT_EQ(0U, version);

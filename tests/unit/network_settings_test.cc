@@ -11,7 +11,7 @@
 #include "utility/StorageLibraryProxy.h"
 #include "utility/checkResultCode.h"
 #include "utility/getNetworkSettings.h"
-#include "utility/script_properties.h"
+#include "utility/page_properties.h"
 
 using TarnAbstract::GUID;
 using TarnAbstract::List;

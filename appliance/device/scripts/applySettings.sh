@@ -32,14 +32,25 @@ put_into_force() {
 # put_aside_damaged NAME: what is stored but is no setting, cut off or overwritten, counts as missing.
 put_aside_damaged() {
   [ -e "$SETTINGS/$1" ] || return 0
-  if read_stored stored "$1" && is_right "$1" "$stored"; then return; fi
+  if read_stored stored "$1"; then
+    judge "$1" "$stored"
+    case $? in
+    0) return ;;
+    2) ;;
+    *) # it cannot be told: the setting was right when it was stored
+      complain "the stored setting \"$1\" could not be checked"
+      status=1
+      return
+      ;;
+    esac
+  fi
   complain "the stored setting \"$1\" is damaged and counts as missing; it is kept as $SETTINGS/$1.damaged"
   rm -rf "$SETTINGS/$1.damaged"
   mv -fT "$SETTINGS/$1" "$SETTINGS/$1.damaged" || status=1
 }
 
-# is_right NAME TEXT: static settings are judged as when they were set.
-is_right() {
+# judge NAME TEXT: static settings as when they were set; the status is that of checkSettings.
+judge() {
   case "$1 $2" in
   'ipv4 static '*) "$BIN/checkSettings" ipv4 "${2#static }" ;;
   'ipv6 '?*) "$BIN/checkSettings" ipv6 "$2" ;;

@@ -53,7 +53,7 @@ has_form_of() {
     *) return 1 ;;
     esac
     ;;
-  hostname) case $2 in '' | *[!A-Za-z0-9.-]*) return 1 ;; esac ;;
+  hostname) case $2 in *[!A-Za-z0-9.-]*) return 1 ;; esac ;; # empty while it was never set
   port) # autonegotiation?speed?duplex
     case $2 in
     on\?10\?half | on\?10\?full | on\?100\?half | on\?100\?full | off\?10\?half | off\?10\?full | off\?100\?half | off\?100\?full) ;;

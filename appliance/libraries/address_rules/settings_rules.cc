@@ -11,7 +11,6 @@
 namespace AddressRules {
 namespace {
 
-constexpr unsigned int IPv4Bits = 32;
 constexpr size_t LongestReason = 256;
 constexpr size_t LongestHostName = 64;
 constexpr size_t LongestPart = 63;

@@ -2,7 +2,7 @@
 // scripts start is linked with a C library that starts fast and has no C++ library beside it.
 #pragma once
 
-#include <stddef.h>
+#include <stddef.h>  // NOLINT(modernize-deprecated-headers): see above
 
 namespace AddressRules {
 

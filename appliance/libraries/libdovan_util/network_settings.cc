@@ -14,7 +14,7 @@
 #include "utility/ValidateIPv6address.h"
 #include "utility/checkResultCode.h"
 #include "utility/getNetworkSettings.h"
-#include "utility/script_properties.h"
+#include "utility/page_properties.h"
 
 using TarnAbstract::Result;
 using TarnAbstract::sp;
@@ -166,7 +166,7 @@ bool isSNMPEnabled(const sp<IMgmtAppConfig>& config) {
   return false;
 }
 
-void addServices(zval* object) {
+void addServiceStates(zval* object) {
   const sp<IMgmtAppConfig> config = StorageLibraryProxy::getInstance()->getAppMgmtConfigInterface();
   addFlag(object, "sslEnabled", isSSLEnabled(config));
   addFlag(object, "snmpEnabled", isSNMPEnabled(config));
@@ -190,6 +190,6 @@ void getNetworkSettings(zval* object) {
   addIpv6Static(object);
   addIpv6Addresses(object);
   addDns(object);
-  addServices(object);
+  addServiceStates(object);
   addPort(object);
 }

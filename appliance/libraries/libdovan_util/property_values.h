@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "utility/script_value_types.h"
+#include "utility/page_value_types.h"
 
 void addFlag(zval* object, const char* name, bool flag);
 void addNumber(zval* object, const char* name, int number);

@@ -3,7 +3,7 @@
 
 #include "libvelm/entry_points.h"
 #include "utility/StorageLibraryProxy.h"
-#include "utility/script_properties.h"
+#include "utility/page_properties.h"
 
 namespace {
 

@@ -1,15 +1,13 @@
 #include "libvelm/store.h"
 
-#include <fcntl.h>
 #include <pthread.h>
 #include <sqlite3.h>
-#include <sys/file.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
+#include <memory>
 #include <mutex>
-#include <set>
 #include <thread>
 #include <utility>
 
@@ -30,32 +28,12 @@ namespace {
 
 std::int64_t NewestVersion() { return static_cast<std::int64_t>(SchemaSteps().size()); }
 
-// Held while a database is opened: of several processes that find none, or an old one, one prepares it
-// and the others wait. SQLite alone turns some of them away, because the change to write-ahead logging
-// does not wait for others.
-class OpeningTurn {
- public:
-  explicit OpeningTurn(const std::string& database) {
-    const std::size_t slash = database.rfind('/');
-    const std::string folder = slash == std::string::npos ? "." : database.substr(0, slash + 1);
-    descriptor_ = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor_ < 0) throw ServiceError("folder " + folder + ": " + std::strerror(errno));
-    int result = 0;
-    do {
-      result = flock(descriptor_, LOCK_EX);
-    } while (result != 0 && errno == EINTR);
-    if (result == 0) return;
-    const std::string reason = std::strerror(errno);
-    close(descriptor_);
-    throw ServiceError("lock of folder " + folder + ": " + reason);
+void RequireFolder(const std::string& database) {
+  const std::string folder = database.substr(0, database.rfind('/') + 1);
+  if (!folder.empty() && access(folder.c_str(), F_OK) != 0) {
+    throw ServiceError("folder " + folder + ": " + std::strerror(errno));
   }
-  ~OpeningTurn() { close(descriptor_); }
-  OpeningTurn(const OpeningTurn&) = delete;
-  OpeningTurn& operator=(const OpeningTurn&) = delete;
-
- private:
-  int descriptor_;
-};
+}
 
 class Transaction {
  public:
@@ -112,7 +90,7 @@ std::string Statement::Text(int column) const {
 
 Database::Database(const std::string& path, std::chrono::milliseconds patience)
     : path_(path), patience_(patience) {
-  const OpeningTurn turn(path);
+  RequireFolder(path);
   sqlite3* connection = nullptr;
   constexpr int Mode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
   const int result = sqlite3_open_v2(path.c_str(), &connection, Mode, nullptr);
@@ -120,8 +98,9 @@ Database::Database(const std::string& path, std::chrono::milliseconds patience)
   if (result != SQLITE_OK) Fail(path, connection);
   sqlite3_busy_handler(connection, WaitForTurn, this);
   RequireKnownVersion();
+  UseWriteAheadLog();
   // A change that has been answered survives the loss of power, too.
-  Run("PRAGMA journal_mode = WAL; PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON");
+  Run("PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON");
   Migrate();
 }
 
@@ -136,6 +115,17 @@ int Database::WaitForTurn(void* database, int attempts) {
   if (now >= self->patienceEnds_) return 0;
   std::this_thread::sleep_for(std::chrono::milliseconds(1));
   return 1;
+}
+
+// The only command for which SQLite does not wait by itself, while several processes make the database.
+void Database::UseWriteAheadLog() {
+  int attempts = 0;
+  int result = SQLITE_BUSY;
+  while (result == SQLITE_BUSY && (attempts == 0 || WaitForTurn(this, attempts - 1) != 0)) {
+    result = sqlite3_exec(connection_.get(), "PRAGMA journal_mode = WAL", nullptr, nullptr, nullptr);
+    ++attempts;
+  }
+  if (result != SQLITE_OK) Fail(connection_.get());
 }
 
 void Database::RequireKnownVersion() {
@@ -172,68 +162,65 @@ void Database::Rollback() { sqlite3_exec(connection_.get(), "ROLLBACK", nullptr,
 
 int Database::Changes() const { return sqlite3_changes(connection_.get()); }
 
-bool Database::HasMoved() const {
+bool Database::Serves(const std::string& path, std::chrono::milliseconds patience) const {
   int moved = 0;
   sqlite3_file_control(connection_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
-  return moved != 0;
+  return moved == 0 && path == path_ && patience == patience_;
 }
 
-// SQLite's bookkeeping of locks must not come into a child: the child would count its parent's locks as
-// its own. So a fork waits until no operation is under way, and finds all databases closed.
-class ForkHandlers {
+namespace {
+
+// The process's open database, and whose turn it is to use it. SQLite's bookkeeping of locks must not come
+// into a child: the child would count its parent's locks as its own. So a fork waits until no operation is
+// under way, and leaves the database closed.
+class OpenDatabase {
  public:
-  static std::mutex& Operations() { return instance().operations_; }
-  static void Add(Store* store) {
-    const std::lock_guard<std::mutex> lock(Operations());
-    instance().stores_.insert(store);
+  // Never destroyed: threads may still be at work while the process ends.
+  static OpenDatabase& OfThisProcess() {
+    static auto* const open = [] {
+      pthread_atfork(BeforeFork, AfterFork, AfterFork);
+      return new OpenDatabase;
+    }();
+    return *open;
   }
-  static void Remove(Store* store) {
-    const std::lock_guard<std::mutex> lock(Operations());
-    instance().stores_.erase(store);
+
+  std::unique_lock<std::mutex> Turn() { return std::unique_lock<std::mutex>(operations_); }
+  // For whose turn it is.
+  Database& Get(const std::string& path, std::chrono::milliseconds patience) {
+    if (database_ != nullptr && !database_->Serves(path, patience)) database_.reset();
+    if (database_ == nullptr) database_ = std::make_unique<Database>(path, patience);
+    return *database_;
   }
 
  private:
-  ForkHandlers() { pthread_atfork(BeforeFork, AfterFork, AfterFork); }
-
-  // Never destroyed: threads may still be at work while the process ends.
-  static ForkHandlers& instance() {
-    static auto* const handlers = new ForkHandlers;
-    return *handlers;
-  }
   static void BeforeFork() {
-    Operations().lock();
-    for (Store* store : instance().stores_) store->database_.reset();
+    OfThisProcess().operations_.lock();
+    OfThisProcess().database_.reset();
   }
-  static void AfterFork() { Operations().unlock(); }
+  static void AfterFork() { OfThisProcess().operations_.unlock(); }
 
   std::mutex operations_;
-  std::set<Store*> stores_;
+  std::unique_ptr<Database> database_;
 };
 
-Store::Store(std::string path, std::chrono::milliseconds patience)
-    : path_(std::move(path)), patience_(patience) {
-  ForkHandlers::Add(this);
-}
+}  // namespace
 
-Store::~Store() { ForkHandlers::Remove(this); }
+Store::Store(std::string path, std::chrono::milliseconds patience)
+    : path_(std::move(path)), patience_(patience) {}
 
 void Store::Read(const std::function<void(Database&)>& work) {
-  const std::lock_guard<std::mutex> lock(ForkHandlers::Operations());
-  work(Open());
+  OpenDatabase& open = OpenDatabase::OfThisProcess();
+  const auto turn = open.Turn();
+  work(open.Get(path_, patience_));
 }
 
 void Store::Change(const std::function<void(Database&)>& work) {
-  const std::lock_guard<std::mutex> lock(ForkHandlers::Operations());
-  Database& database = Open();
+  OpenDatabase& open = OpenDatabase::OfThisProcess();
+  const auto turn = open.Turn();
+  Database& database = open.Get(path_, patience_);
   Transaction transaction(database);
   work(database);
   transaction.Commit();
-}
-
-Database& Store::Open() {
-  if (database_ != nullptr && database_->HasMoved()) database_.reset();
-  if (database_ == nullptr) database_ = std::make_unique<Database>(path_, patience_);
-  return *database_;
 }
 
 }  // namespace Velm

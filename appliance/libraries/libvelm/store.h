@@ -52,12 +52,13 @@ class Database {
   void Rollback();
   // How many rows the last command changed.
   int Changes() const;
-  // Whether another file, or none, now lies where this database was opened.
-  bool HasMoved() const;
+  // Whether this is the database at path still: another file, or none, may lie there now.
+  bool Serves(const std::string& path, std::chrono::milliseconds patience) const;
 
  private:
   static int WaitForTurn(void* database, int attempts);
   void RequireKnownVersion();
+  void UseWriteAheadLog();
   void Migrate();
   std::int64_t Version();
 
@@ -70,14 +71,11 @@ class Database {
   std::unique_ptr<sqlite3, Close> connection_;
 };
 
-// The way to one database. It is opened when first used and closed before every fork, so that no
-// process ever has a connection that another one opened.
+// The way to one database. A process keeps the one that it used last open, until the next fork: no process
+// ever has a connection that another one opened.
 class Store {
  public:
   explicit Store(std::string path, std::chrono::milliseconds patience = std::chrono::seconds(10));
-  ~Store();
-  Store(const Store&) = delete;
-  Store& operator=(const Store&) = delete;
 
   // One command is one consistent view.
   void Read(const std::function<void(Database&)>& work);
@@ -85,13 +83,8 @@ class Store {
   void Change(const std::function<void(Database&)>& work);
 
  private:
-  friend class ForkHandlers;
-
-  Database& Open();
-
   const std::string path_;
   const std::chrono::milliseconds patience_;
-  std::unique_ptr<Database> database_;
 };
 
 }  // namespace Velm

@@ -62,8 +62,6 @@ typedef struct _zval_struct {
 /* A fresh value: one holder, and no reference. */
 #define INIT_PZVAL(pointer) ((pointer)->refcount = 1, (pointer)->is_ref = 0)
 
-#define RETVAL_BOOL(flag) (Z_LVAL_P(return_value) = (flag) ? 1 : 0, Z_TYPE_P(return_value) = IS_BOOL)
-
 /* Memory of the engine, given back by the engine with the value that holds it. */
 
 void* _emalloc(size_t size);
@@ -76,6 +74,7 @@ char* _estrndup(const char* text, unsigned int length);
 
 #define INTERNAL_FUNCTION_PARAMETERS int ht, zval *return_value, zval *this_ptr, int return_value_used
 #define ZEND_NUM_ARGS() (ht)
+#define PHP_FUNCTION(name) void zif_##name(INTERNAL_FUNCTION_PARAMETERS)
 
 typedef struct _zend_function_entry {
   char* fname;

@@ -1,5 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/audit_trail.php';
 
 // Also where the appliance's ports are published under other numbers, HTTPS is that far above HTTP.
 define('PORT_DISTANCE', 443 - 80);
@@ -21,7 +22,7 @@ if (is_post()) {
             forget_session();
             $address = address_after($wanted == '1');
             show('restarting', array('title' => 'Web security', 'on' => $wanted == '1', 'address' => $address,
-                'refresh' => array(5, $address)));
+                'refresh' => array('seconds' => 5, 'address' => $address)));
         }
     }
 }

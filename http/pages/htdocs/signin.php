@@ -1,5 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/attempts.php';
 
 open_session();
 $user = '';

@@ -1,5 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/audit_trail.php';
 
 // What the module reads of the settings; it takes the flags as truth values.
 class AgentSettings
@@ -13,9 +14,9 @@ class AgentSettings
 
 $session = signed_in();
 $settings = get_snmp_settings($session);
+$facts = $settings; // of these the page shows what no form changes
 $errors = array();
 if (is_post()) {
-    $facts = $settings;
     $settings = new AgentSettings();
     $settings->version1 = posted('version1') == '1';
     $settings->trap1 = posted('trap1') == '1';
@@ -31,8 +32,6 @@ if (is_post()) {
             go_to('snmp.php', 'The SNMP agent is set and has restarted.');
         }
     }
-} else {
-    $facts = $settings;
 }
 show('snmp', array('title' => 'SNMP agent', 'settings' => $settings, 'facts' => $facts, 'errors' => $errors,
     'lead' => 'How network management systems read the appliance\'s state, and how it tells them about events.'));

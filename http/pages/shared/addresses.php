@@ -1,6 +1,6 @@
 <?php
-// Checking what a person types before the appliance is asked. The appliance checks again; this is to say it
-// beside the field.
+// The rules for addresses and host names that a person types. The appliance has its own and checks again; these are
+// there to say what is wrong beside the field. This file needs no other one.
 
 // The four bytes of a dotted decimal address, or false.
 function ipv4_bytes($text)
@@ -92,7 +92,7 @@ function is_address($text)
     return ipv4_bytes($text) || ipv6_bytes($text);
 }
 
-// Whether the address can be that of one host on a network, as the appliance sees it.
+// Whether one device on a network can have the address, as the appliance sees it.
 function is_host_address($text)
 {
     $bytes = ipv4_bytes($text);
@@ -100,7 +100,7 @@ function is_host_address($text)
         return $bytes[0] > 0 && $bytes[0] < 224 && $bytes[0] != 127;
     }
     $bytes = ipv6_bytes($text);
-    // None of IPv4 in the notation of IPv6, of the host itself, and of many.
+    // Not one of IPv4 in the notation of IPv6, nor :: or ::1, nor one of a group of devices.
     return $bytes && !same_network($bytes, ipv6_bytes('::ffff:0:0'), 96) && !same_network($bytes, ipv6_bytes('::'), 127)
         && $bytes[0] != 255;
 }
@@ -111,7 +111,8 @@ function host_error($text)
     if (!is_address($text)) {
         return 'Enter an IPv4 or IPv6 address, such as 10.20.0.1 or 2001:db8:20::1.';
     }
-    return is_host_address($text) ? '' : 'No other device can have this address. Enter one such as 10.20.0.1 or 2001:db8:20::1.';
+    return is_host_address($text) ? ''
+        : 'No other device can have this address. Enter one such as 10.20.0.1 or 2001:db8:20::1.';
 }
 
 // Whether two texts are the same address, or the same text.
@@ -219,7 +220,8 @@ function ipv6_errors($address, $prefix, $gateway)
     } elseif (!is_host_address($address)) {
         $errors['ipStatic'] = 'A device cannot have this address. Choose one of your network, such as 2001:db8:20::7.';
     } elseif (same_network($bytes, ipv6_bytes('fe80::'), 10)) {
-        $errors['ipStatic'] = 'The appliance has a link-local address of its own. Choose one of your network, such as 2001:db8:20::7.';
+        $errors['ipStatic'] = 'The appliance has a link-local address of its own.'
+            . ' Choose one of your network, such as 2001:db8:20::7.';
     }
     if (!preg_match('/^[1-9][0-9]{0,2}$/D', $prefix) || $prefix > 128) {
         $errors['prefix'] = 'Enter a number from 1 to 128; usual is 64.';

@@ -1,10 +1,10 @@
 <?php
-// What the module reports, collected so that a page can say it.
+// The failures that the module reports as warnings, collected so that a page can say them.
 
 define('INTERNAL_ADDRESS', '0x00050040'); // the module's code
 
 $failures = array(); // each an array of 'message', 'code', 'place', 'advice'
-$failures_before_change = 0;
+$failures_before_change = 0; // how many there were when begin_change() was called
 
 // The error handler: a failure of the module is a warning with a code; anything else is a fault of the pages.
 function note_failure($level, $message, $file, $line)
@@ -14,8 +14,9 @@ function note_failure($level, $message, $file, $line)
     }
     $report = '/^(?:\w+\(\)(?: \[[^\]]*\])?: )?(.*) \(code (0x[0-9A-F]{8}), (\S+:[0-9]+)\)$/s';
     if (preg_match($report, $message, $found)) {
-        $GLOBALS['failures'][] = array('message' => $found[1], 'code' => $found[2], 'place' => $found[3],
-            'advice' => advice_on($found[1], $found[2]));
+        list(, $reported, $code, $place) = $found;
+        $GLOBALS['failures'][] = array('message' => $reported, 'code' => $code, 'place' => $place,
+            'advice' => advice_on($reported, $code));
     } else {
         error_log($message . ' in ' . $file . ' on line ' . $line);
         $GLOBALS['failures'][] = array('message' => 'This page has a fault', 'code' => '', 'place' => '',
@@ -30,7 +31,7 @@ function failed()
 }
 
 // To be called just before the module is asked to change something: what could not be read until then is shown
-// as well, but is no failure of the change. The rest of the session does not wait for the appliance.
+// as well, but is no failure of the change. The session's other requests need not wait for the appliance.
 function begin_change()
 {
     leave_session();

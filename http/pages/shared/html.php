@@ -1,16 +1,18 @@
 <?php
 // Pieces of markup. Everything that is not markup goes through h().
 
+define('ESCAPING', defined('ENT_SUBSTITUTE') ? ENT_QUOTES | ENT_SUBSTITUTE : ENT_QUOTES);
+
 function h($text)
 {
     return htmlspecialchars((string) $text, ESCAPING, 'UTF-8');
 }
 
-// The address of a file beside the pages. It is another one for another version of the file: browsers keep what
-// they have got once, and need not ask while the web server restarts.
+// The address of a file beside the pages, which is another one when the file has changed: browsers keep what they have
+// got once, and need not ask for it while the web server restarts.
 function asset($name)
 {
-    return $name . '?' . filemtime(dirname(dirname(__FILE__)) . '/' . $name);
+    return $name . '?' . filemtime(dirname(text_of($_SERVER, 'SCRIPT_FILENAME')) . '/' . $name);
 }
 
 // A drawing of 24 by 24, for the eye only: a word always stands beside it.
@@ -34,7 +36,7 @@ function icon($name)
         'wait' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM12 7v5l3 2',
         'menu' => 'M4 7h16M4 12h16M4 17h16',
         'sign-out' => 'M14 4H5v16h9M10 12h11M17 8l4 4-4 4',
-        'library' => 'M4 4h16v16H4zM4 9.3h16M4 14.6h16M8 6.7h4M8 12h4M8 17.3h4'
+        'appliance' => 'M4 4h16v16H4zM4 9.3h16M4 14.6h16M8 6.7h4M8 12h4M8 17.3h4'
     );
     return '<svg class="icon" viewBox="0 0 24 24" aria-hidden="true" focusable="false"><path d="'
         . $drawings[$name] . '"/></svg>';
@@ -57,81 +59,10 @@ function message($kind, $html)
     return '<div class="message ' . $kind . '">' . icon($kind) . '<div>' . $html . '</div></div>';
 }
 
-function token_field()
-{
-    return '<input type="hidden" name="token" value="' . h($_SESSION['token']) . '">';
-}
-
 // What the module reported, with its code.
 function failure_message($failure)
 {
     return message('bad', '<p><strong>' . h($failure['message']) . '</strong></p><p>' . h($failure['advice']) . '</p>'
         . ($failure['code'] == '' ? '' : '<p class="code">Code ' . h($failure['code']) . ', reported at '
         . h($failure['place']) . '</p>'));
-}
-
-// Begins a form for one kind of change. Who may not change anything sees its fields, but cannot use them.
-function form_begin($page, $change)
-{
-    $locked = may_change($GLOBALS['session']) ? '' : ' disabled';
-    return '<form method="post" action="' . h($page) . '"><fieldset class="form"' . $locked . '>' . token_field()
-        . '<input type="hidden" name="change" value="' . h($change) . '">';
-}
-
-// Ends it with its button, which a reader is told about instead.
-function form_end($label)
-{
-    $button = may_change($GLOBALS['session'])
-        ? '<p class="actions"><button type="submit" class="primary">' . h($label) . '</button></p>'
-        : '<p class="hint">You may look at these settings; changing them needs the role admin.</p>';
-    return '</fieldset>' . $button . '</form>';
-}
-
-// The identifiers of a field's hint and error, for those who cannot see that they stand beside it.
-function described_by($name, $hint, $error)
-{
-    $ids = trim(($hint == '' ? '' : $name . '-hint') . ' ' . ($error == '' ? '' : $name . '-error'));
-    return ($ids == '' ? '' : ' aria-describedby="' . $ids . '"') . ($error == '' ? '' : ' aria-invalid="true"');
-}
-
-function field_notes($name, $hint, $error)
-{
-    return ($hint == '' ? '' : '<p class="hint" id="' . $name . '-hint">' . h($hint) . '</p>')
-        . ($error == '' ? '' : '<p class="error" id="' . $name . '-error">' . icon('bad') . h($error) . '</p>');
-}
-
-// A field of one line. $more is further attributes, as markup.
-function text_field($name, $label, $value, $errors, $hint = '', $more = '')
-{
-    $error = isset($errors[$name]) ? $errors[$name] : '';
-    return '<div class="field' . ($error == '' ? '' : ' wrong') . '"><label for="' . $name . '">' . h($label) . '</label>'
-        . '<input type="text" id="' . $name . '" name="' . $name . '" value="' . h($value) . '"'
-        . described_by($name, $hint, $error)
-        . ' autocomplete="off" autocapitalize="none" spellcheck="false" ' . $more . '>'
-        . field_notes($name, $hint, $error) . '</div>';
-}
-
-// One of several. $choices: value => array of label and hint.
-function choice_field($name, $legend, $choices, $value, $errors = array())
-{
-    $error = isset($errors[$name]) ? $errors[$name] : '';
-    $html = '<fieldset class="field"' . described_by($name, '', $error) . '><legend>' . h($legend) . '</legend>';
-    foreach ($choices as $choice => $texts) {
-        $html .= mark_field('radio', $name, $name . '-' . $choice, $choice, $texts[0], $texts[1],
-            (string) $choice == (string) $value);
-    }
-    return $html . field_notes($name, '', $error) . '</fieldset>';
-}
-
-// Yes or no.
-function check_field($name, $label, $checked, $hint = '')
-{
-    return mark_field('checkbox', $name, $name, '1', $label, $hint, $checked);
-}
-
-function mark_field($type, $name, $id, $value, $label, $hint, $checked)
-{
-    return '<div class="mark"><input type="' . $type . '" id="' . $id . '" name="' . $name . '" value="' . h($value) . '"'
-        . ($checked ? ' checked' : '') . described_by($id, $hint, '') . '><div><label for="' . $id . '">' . h($label)
-        . '</label>' . field_notes($id, $hint, '') . '</div></div>';
 }

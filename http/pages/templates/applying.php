@@ -3,7 +3,7 @@ $kinds_of_state = array('waiting' => 'wait', 'applied' => 'good', 'failed' => 'b
 $is_over = $outcome == 'failed' || $outcome == 'late';
 $new_address = $change['to'] == '' || same_value($change['from'], $change['to']) || $stored_only ? ''
     : origin_of($change['to'], '') . '/';
-$attributes = $polls ? ' data-poll="1000" data-parts="outcome values" data-expected="' . (int) $kind['expected']
+$attributes = $polls ? ' data-poll="1000" data-parts="outcome values" data-expected="' . (int) $kind['usual_seconds']
     . '" data-other-origin="' . h($moved_to) . '"' : '';
 ?>
 <section class="card" aria-label="The change"<?php echo $attributes; ?>>
@@ -31,9 +31,9 @@ $attributes = $polls ? ' data-poll="1000" data-parts="outcome values" data-expec
   <tbody>
 <?php foreach ($rows as $row) { ?>
   <tr>
-    <th scope="row"><?php echo h($row[0]); ?></th>
-    <td data-label="Wanted"><?php echo h($row[1]); ?></td>
-    <td data-label="Now"><?php echo h($row[2]); ?></td>
+    <th scope="row"><?php echo h($row['label']); ?></th>
+    <td data-label="Wanted"><?php echo h($row['wanted']); ?></td>
+    <td data-label="Now"><?php echo h($row['now']); ?></td>
     <td data-label="State"><?php echo row_state($row, $outcome); ?></td>
   </tr>
 <?php } ?>
@@ -58,7 +58,8 @@ $attributes = $polls ? ' data-poll="1000" data-parts="outcome values" data-expec
   } elseif ($new_address != '') { ?>From the network it is at <a href="<?php echo h($new_address); ?>"><?php
   echo h($new_address); ?></a> when the change is done.<?php
   } elseif ($change['values']['mode'] == 'DHCP') { ?>If it does not come back, it has another one now: the DHCP server, or the
-  network's router, knows which.<?php } elseif ($change['values']['mode'] == 'Off') { ?>If it does not come back, open it under another of its
+  network's router, knows which.<?php
+  } elseif ($change['values']['mode'] == 'Off') { ?>If it does not come back, open it under another of its
   addresses.<?php } ?></span></p>
 </div>
 </section>

@@ -9,7 +9,7 @@ $name = get_network_hostname();
 </head>
 <body class="bare">
 <main id="content">
-  <p class="brand"><?php echo icon('library'); ?><span>Network settings</span></p>
+  <p class="brand"><?php echo icon('appliance'); ?><span>Network settings</span></p>
   <h1><?php echo h($name); ?></h1>
 <?php foreach ($GLOBALS['failures'] as $failure) echo failure_message($failure); ?>
 <?php echo $content; ?>

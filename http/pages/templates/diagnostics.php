@@ -13,8 +13,10 @@ $same_filter = 'filter=' . urlencode($filter);
     <?php if ($live == '0') { ?>
       <a class="button" href="diagnostics.php?live=1&amp;<?php echo h($same_filter); ?>">Follow</a>
     <?php } else { ?>
-      <?php if ($live != '1') { ?><noscript><a class="button" href="diagnostics.php?live=1&amp;<?php echo h($same_filter); ?>">Follow</a></noscript><?php } ?>
-      <a class="button<?php if ($live != '1') echo ' scripted'; ?>" href="diagnostics.php?live=0&amp;<?php echo h($same_filter); ?>">Stop following</a>
+      <?php if ($live != '1') { ?><noscript><a class="button" href="diagnostics.php?live=1&amp;<?php
+        echo h($same_filter); ?>">Follow</a></noscript><?php } ?>
+      <a class="button<?php if ($live != '1') echo ' scripted'; ?>" href="diagnostics.php?live=0&amp;<?php
+        echo h($same_filter); ?>">Stop following</a>
     <?php } ?>
   </form>
   <div role="status"><p class="message caution" data-when-lost hidden><?php echo icon('caution'); ?><span>The appliance does not
@@ -41,12 +43,13 @@ $same_filter = 'filter=' . urlencode($filter);
   <table class="stacks">
     <thead><tr><th scope="col">Time (UTC)</th><th scope="col">User</th><th scope="col">Change</th><th scope="col">Result</th></tr></thead>
     <tbody>
-<?php foreach ($audit as $row) { ?>
+<?php foreach ($audit as $entry) { ?>
     <tr>
-      <th scope="row" class="time"><?php echo h(substr(strtr($row[0], 'T', ' '), 0, 19)); ?></th>
-      <td class="user" data-label="User"><?php echo h($row[1] == '' ? 'Not known' : $row[1]); ?></td>
-      <td data-label="Change"><div><p><?php echo h($row[2]); ?></p><p class="hint"><?php echo h($row[3]); ?></p></div></td>
-      <td data-label="Result"><div><?php echo result_of($row[4]); ?></div></td>
+      <th scope="row" class="time"><?php echo h(substr(strtr($entry['time'], 'T', ' '), 0, 19)); ?></th>
+      <td class="user" data-label="User"><?php echo h($entry['user'] == '' ? 'Not known' : $entry['user']); ?></td>
+      <td data-label="Change"><div><p><?php echo h($entry['operation']); ?></p><p class="hint"><?php
+        echo h($entry['values']); ?></p></div></td>
+      <td data-label="Result"><div><?php echo audit_result($entry['result']); ?></div></td>
     </tr>
 <?php } ?>
     </tbody>

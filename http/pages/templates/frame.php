@@ -19,21 +19,22 @@ $current = isset($part_of) ? $part_of : $page;
 <head>
 <?php echo render('head', array('title' => ($wrong ? 'Error: ' : '') . $title . ' · ' . $name)); ?>
 <?php if (isset($refresh)) { ?>
-<noscript><meta http-equiv="refresh" content="<?php echo (int) $refresh[0]; ?>; url=<?php echo h($refresh[1]); ?>"></noscript>
+<noscript><meta http-equiv="refresh" content="<?php echo (int) $refresh['seconds']; ?>; url=<?php
+  echo h($refresh['address']); ?>"></noscript>
 <?php } ?>
 </head>
 <body>
 <a class="skip" href="#content">Skip to the content</a>
 <div class="layout">
 <header class="bar">
-  <p class="brand"><?php echo icon('library'); ?><span><?php echo h($name); ?></span></p>
+  <p class="brand"><?php echo icon('appliance'); ?><span><?php echo h($name); ?></span></p>
   <details class="menu">
     <summary><?php echo icon('menu'); ?>Menu</summary>
     <?php echo render('menu', array('current' => $current)); ?>
   </details>
 </header>
 <header class="side">
-  <p class="brand"><?php echo icon('library'); ?><span><?php echo h($name); ?></span></p>
+  <p class="brand"><?php echo icon('appliance'); ?><span><?php echo h($name); ?></span></p>
   <?php echo render('menu', array('current' => $current)); ?>
 </header>
 <main id="content" tabindex="-1">

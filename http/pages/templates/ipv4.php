@@ -17,8 +17,10 @@ echo text_field('hostname', 'Name', $settings->hostname, $errors, 'Letters, digi
 <?php
 echo form_begin('ipv4.php', 'addressing');
 echo choice_field('mode', 'Obtained by', array(
-    'dhcp' => array('DHCP', 'A server in your network gives the address, and may give another one later.'),
-    'static' => array('Static setting', 'You choose an address that nothing else in your network uses.')), $mode, $errors);
+    'dhcp' => array('label' => 'DHCP',
+        'hint' => 'A server in your network gives the address, and may give another one later.'),
+    'static' => array('label' => 'Static setting',
+        'hint' => 'You choose an address that nothing else in your network uses.')), $mode, $errors);
 ?>
 <div class="when-static">
 <?php

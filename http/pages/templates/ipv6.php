@@ -32,7 +32,8 @@ echo check_field('enabled', 'Use IPv6', $enabled, 'Off means off for all sources
   <h2 id="sources">Automatic addresses</h2>
 <?php
 echo form_begin('ipv6.php', 'modes');
-echo check_field('stateless', 'Router advertisements', $modes['stateless'], 'The appliance makes its address from what the router announces (SLAAC).');
+echo check_field('stateless', 'Router advertisements', $modes['stateless'],
+    'The appliance makes its address from what the router announces (SLAAC).');
 echo check_field('dhcp', 'DHCP', $modes['dhcp'], 'A DHCPv6 server in your network gives the address.');
 ?>
 <p class="note">Addresses of a source that is switched off go at once: pages that were opened under one of them lose their
@@ -52,11 +53,12 @@ echo check_field('static', 'Use a static address', $typed['static'], 'In additio
 <?php
 echo text_field('ipStatic', 'Address', $typed['ipStatic'], $errors);
 echo text_field('prefix', 'Prefix length', $typed['prefix'], $errors, '', 'inputmode="numeric" class="short"');
-echo text_field('gateway', 'Gateway', $typed['gateway'], $errors, 'The router of the network; its link-local address (fe80…) will do.');
+echo text_field('gateway', 'Gateway', $typed['gateway'], $errors,
+    'The router of the network; its link-local address (fe80…) will do.');
 ?>
 </div>
 <p class="note"><?php echo $enabled ? 'The change begins at once.'
-    : 'IPv6 is off: the address is stored, and comes into force when IPv6 is switched on.'; ?> A page that was opened under the static address loses its connection when that
-address changes or goes.</p>
+    : 'IPv6 is off: the address is stored, and comes into force when IPv6 is switched on.'; ?> A page that was
+opened under the static address loses its connection when that address changes or goes.</p>
 <?php echo form_end('Apply'); ?>
 </section>

@@ -4,11 +4,11 @@ echo form_begin('port.php', 'port');
 echo check_field('auto', 'Autonegotiation', $settings->AutoNegotiate == 1,
     'The port agrees on speed and duplex with what it is connected to. Switch it off only when the other side has it off too.');
 echo choice_field('speed', 'Speed', array(
-    '100' => array('100 Mbit/s', ''),
-    '10' => array('10 Mbit/s', '')), $settings->Speed, $errors);
+    '100' => array('label' => '100 Mbit/s', 'hint' => ''),
+    '10' => array('label' => '10 Mbit/s', 'hint' => '')), $settings->Speed, $errors);
 echo choice_field('duplex', 'Duplex', array(
-    '1' => array('Full', 'Sends and receives at the same time.'),
-    '0' => array('Half', 'Takes turns. For old hubs.')), $settings->Duplex, $errors);
+    '1' => array('label' => 'Full', 'hint' => 'Sends and receives at the same time.'),
+    '0' => array('label' => 'Half', 'hint' => 'Takes turns. For old hubs.')), $settings->Duplex, $errors);
 ?>
 <?php if ($settings->Duplex == -1 && !$errors) echo message('caution',
     '<p>The port did not say which duplex mode it uses.</p>'); ?>

@@ -12,8 +12,9 @@
 <?php
 echo form_begin('security.php', 'https');
 echo choice_field('https', 'These pages are served by', array(
-    '1' => array('HTTPS', 'Encrypted. The appliance makes its own certificate, so your browser will ask you once whether to trust it.'),
-    '0' => array('HTTP', 'Not encrypted: anybody on the network can read along.')),
+    '1' => array('label' => 'HTTPS',
+        'hint' => 'Encrypted. The appliance makes its own certificate, so your browser will ask you once whether to trust it.'),
+    '0' => array('label' => 'HTTP', 'hint' => 'Not encrypted: anybody on the network can read along.')),
     $settings->isEnabled ? '1' : '0', $errors);
 ?>
 <p class="note">The web server restarts in the new mode, and you will sign in again. The page opens by itself then; if it does not,

@@ -46,7 +46,9 @@ $may_change = may_change($GLOBALS['session']);
 echo form_begin('traps.php', 'add');
 echo text_field('ip', 'Address', $typed['ip'], $errors, 'IPv4 or IPv6 address of the management system.');
 echo text_field('port', 'Port', $typed['port'], $errors, '', 'inputmode="numeric" class="short"');
-echo choice_field('transport', 'Transport', array('1' => array('UDP', 'Usual.'), '2' => array('TCP', '')),
+echo choice_field('transport', 'Transport', array(
+    '1' => array('label' => 'UDP', 'hint' => 'Usual.'),
+    '2' => array('label' => 'TCP', 'hint' => '')),
     $typed['transport'], $errors);
 echo form_end('Add');
 ?>

@@ -19,7 +19,7 @@ function is_made_at($message, $line) {
 
 // The function that tests on the line whether the service is there.
 function function_that_tests_at($line) {
-  $lines = file(platform_file('src/services.cc'));
+  $lines = file(platform_file('src/dns_ssl_ports.cc'));
   if (!preg_match('/\bisThere\(/', $lines[$line - 1])) return "a line without a test, $line";
   for ($above = $line - 1; $above > 0; --$above) {
     if (preg_match('/^HANDLER\((\w+)\)/', $lines[$above - 1], $found)) return $found[1];

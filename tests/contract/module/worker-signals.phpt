@@ -1,5 +1,5 @@
 --TEST--
-A worker starts with all signals blocked, and the calling thread has its own mask back, also when there is no thread to be had.
+A worker starts with the signals of the interpreter's timers blocked, and the calling thread has its own mask back, also when there is no thread to be had.
 --FILE--
 <?php
 include 'scripted_platform.inc';

@@ -6,6 +6,9 @@
 // written as %XX. The key says what is asked: a command line, "INTERFACE.operation", the name of an interface
 // or of a C library function. Of several lines with the same key the last one counts, so that a test can
 // change its mind between two calls.
+//
+// What every test would show, and few ask for, is written only for those that answer with anything to:
+// "instances" (each time the proxy or the runner is asked for) and "results of threads".
 #pragma once
 
 #include <optional>

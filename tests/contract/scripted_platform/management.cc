@@ -1,4 +1,6 @@
 // The management services behind the proxy: every operation is recorded and answers as the test says.
+#include <cstdint>
+#include <cstring>
 #include <string>
 
 #include "answers.h"
@@ -8,8 +10,8 @@
 #include "reference_count.h"
 #include "utility/StorageLibraryProxy.h"
 #include "utility/getNetworkSettings.h"
+#include "utility/page_properties.h"
 #include "utility/platform_texts.h"
-#include "utility/script_properties.h"
 
 using TarnAbstract::GUID;
 using TarnAbstract::IThread;
@@ -73,6 +75,19 @@ Answer answerToOperation(const std::string& name, const std::string& arguments) 
   for (std::size_t i = 1; i < answer->size(); ++i) line += ' ' + shown((*answer)[i]);
   record(line);
   return *answer;
+}
+
+// Services whose compiler has truth values of another kind write the number as it is, as a byte or as a word.
+void writeNumber(void* place, unsigned long number, const std::string& width) {
+  const auto byte = static_cast<std::uint8_t>(number);
+  const auto word = static_cast<std::uint32_t>(number);
+  if (width == "byte") {
+    std::memcpy(place, &byte, sizeof(byte));
+  } else if (width == "word") {
+    std::memcpy(place, &word, sizeof(word));
+  } else {
+    record("unexpected: the test's answer has a number of the width \"" + width + '"');
+  }
 }
 
 Result::Code resultOf(const Answer& answer) { return resultCode(word(answer, 0)); }
@@ -170,7 +185,11 @@ class AppConfigDouble : public ReferenceCount<IMgmtAppConfig> {
 
   Result::Code getAuthTrapsEnabled(bool& enabled) override {
     const Answer answer = answerToOperation("IMgmtAppConfig.getAuthTrapsEnabled", "");
-    if (answer.size() > 1) enabled = number(answer[1]) != 0;
+    if (answer.size() > 2) {
+      writeNumber(&enabled, number(answer[1]), answer[2]);
+    } else if (answer.size() > 1) {
+      enabled = number(answer[1]) != 0;
+    }
     return resultOf(answer);
   }
 
@@ -194,6 +213,7 @@ sp<Interface> handle(const std::string& name) {
 sp<IThread> TarnAbstract::TarnThreading::CurrentThread() { return handle<IThread, ThreadDouble>("thread"); }
 
 StorageLibraryProxy* StorageLibraryProxy::getInstance() {
+  if (answerTo("instances")) record("proxy asked for");
   static StorageLibraryProxy proxy;
   return &proxy;
 }

@@ -5,7 +5,7 @@
 #include "management/IMgmtAppConfig.h"
 #include "management/IStorageLibrary.h"
 #include "platform/sp.h"
-#include "utility/script_value_types.h"
+#include "utility/page_value_types.h"
 
 class StorageLibraryProxy {
  public:

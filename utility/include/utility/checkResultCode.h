@@ -1,4 +1,4 @@
-// Failure reports of a request.
+// Failure reports of a request. The name is the library's: it checks, and it warns the page.
 #pragma once
 
 // A success code has no effect. A failure code is reported to the page of the current request with the

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "command_lines.h"
+#include "command_runner.h"
 #include "handlers.h"
 #include "management_access.h"
-#include "script_runner.h"
-#include "script_values.h"
+#include "page_values.h"
 #include "settings_text.h"
 #include "trace_log.h"
 #include "utility/getNetworkSettings.h"
@@ -76,18 +76,16 @@ void changeSSL(const sp<IMgmtAppConfig>& config, bool wanted) {
 HANDLER(get_network_dns) {
   trace("Entering get_network_dns");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
-  const ManagementAccess access;
-  access->setSession(session);
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::ReadDns, output, waitStatus)) {
-    reportFailure(("Failed to get DNS addresses: " + boundedOutput(output)).c_str());
+  if (!parseArguments(argumentCount, "o", &session)) return;
+  const ManagementAccess access(session);
+  const CommandResult answer = runCommand(CommandLine::ReadDns);
+  if (!answer.succeeded) {
+    reportFailure(("Failed to get DNS addresses: " + boundedOutput(answer.output)).c_str());
   }
-  const std::vector<std::string> servers = splitText(output, " ");
-  makeObject(return_value);
-  addString(return_value, "dnsPrimary", primaryDns(servers));
-  addString(return_value, "dnsSecondary", pieceOf(servers, 1));
+  const std::vector<std::string> servers = splitText(answer.output, " ");
+  makeObject(result);
+  addString(result, "dnsPrimary", primaryDns(servers));
+  addString(result, "dnsSecondary", pieceOf(servers, 1));
   trace("Exiting get_network_dns");
 }
 
@@ -95,9 +93,9 @@ HANDLER(set_network_dns) {
   trace("Entering set_network_dns");
   zval* session = nullptr;
   zval* settings = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "oo", &session, &settings)) return;
-  const ManagementAccess access;
-  access->setSession(session);
+  if (!parseArguments(argumentCount, "oo", &session, &settings)) return;
+  const ManagementAccess access(session);
+  // Held until the change is done and never called: that is all the services expect of it.
   const sp<Velm::IConnectivity> connectivity = access->getConnectivityMgmtInterface();
 
   const std::string primary = textProperty(settings, "dnsPrimary");
@@ -105,39 +103,38 @@ HANDLER(set_network_dns) {
   // One word on the command line, so that an empty secondary keeps its place.
   const std::string servers = '"' + primary + ' ' + secondary + '"';
   trace("DNS IPvAddresses = ", servers);
-  std::string output;
-  int waitStatus = 0;
-  if (!runCommand(CommandLine::SetDns + servers, output, waitStatus)) {
-    trace("returnCode = ", waitStatus);
-    reportResult(
-        waitStatus == WaitStatusInternalAddress ? FailureCode::InternalAddressConflict : Result::Failed,
-        "Failed to set DNS addresses.");
+  const CommandResult change = runCommand(CommandLine::SetDns + servers);
+  if (!change.succeeded) {
+    trace("returnCode = ", change.waitStatus);
+    reportResult(change.waitStatus == WaitStatusInternalAddress ? FailureCode::InternalAddressConflict
+                                                                : Result::Failed,
+                 "Failed to set DNS addresses.");
   }
-  trace("Output = ", output);
+  trace("Output = ", change.output);
   trace("Exiting set_network_dns");
 }
 
 HANDLER(get_ssl_settings) {
   trace("Entering get_ssl_settings");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access;
   trace("Before slp->getAppMgmtConfigInterface()");
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   std::uint32_t enabled = 0;
   if (isThere(config)) config->getSSLEnabled(enabled);
-  makeObject(return_value);
-  addBoolean(return_value, "isEnabled", enabled != 0);
-  addInteger(return_value, "port", 443);
-  addString(return_value, "cipher", "RSA");
+  makeObject(result);
+  addBoolean(result, "isEnabled", enabled != 0);
+  addInteger(result, "port", 443);
+  addString(result, "cipher", "RSA");
   trace("Exiting get_ssl_settings");
 }
 
 HANDLER(set_ssl_settings) {
   trace("Entering set_ssl_settings");
   zval* session = nullptr;
-  ScriptFlag wanted = {};
-  if (!parseArguments(ZEND_NUM_ARGS(), "ob", &session, &wanted)) return;
+  bool wanted = false;
+  if (!parseArguments(argumentCount, "ob", &session, &wanted)) return;
   const ManagementAccess access;
   const sp<IMgmtAppConfig> config = access->getAppMgmtConfigInterface();
   const bool there = isThere(config);
@@ -151,49 +148,45 @@ HANDLER(set_ssl_settings) {
 HANDLER(get_fw_settings) {
   trace("Entering get_fw_settings");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   const ManagementAccess access;
-  makeObject(return_value);
-  getNetworkSettings(return_value);
+  makeObject(result);
+  getNetworkSettings(result);
   trace("Exiting get_fw_settings");
 }
 
 HANDLER(set_eth2_port_settings) {
   trace("Entering set_eth2_port_settings");
-  std::string settings;
-  std::string output;
-  int waitStatus = 0;
   zval* session = nullptr;
-  ScriptInteger autonegotiation = 0;
-  ScriptInteger speed = 0;
-  ScriptInteger duplex = 0;
-  if (!parseArguments(ZEND_NUM_ARGS(), "olll", &session, &autonegotiation, &speed, &duplex)) return;
+  long autonegotiation = 0;
+  long speed = 0;
+  long duplex = 0;
+  if (!parseArguments(argumentCount, "olll", &session, &autonegotiation, &speed, &duplex)) return;
 
   trace("Autonegotiate Input Parameter: ", asInt(autonegotiation));
-  settings = autonegotiation != 0 ? "on" : "off";
+  std::string settings = autonegotiation != 0 ? "on" : "off";
   settings += SettingsSeparator + speedText(asInt(speed));
   trace("Duplex Input Parameter: ", asInt(duplex));
   settings += SettingsSeparator;
   settings += duplex != 0 ? "full" : "half";
   const std::string command = CommandLine::SetPort + settings;
   trace("Command Line: ", command);
-  if (!runCommand(command, output, waitStatus)) reportFailure("Failed to set port settings.");
+  if (!runCommand(command).succeeded) reportFailure("Failed to set port settings.");
   trace("Exiting set_eth2_port_settings");
 }
 
 HANDLER(get_eth2_port_settings) {
   trace("Entering get_eth2_port_settings");
   zval* session = nullptr;
-  if (!parseArguments(ZEND_NUM_ARGS(), "o", &session)) return;
-  std::string output;
-  int waitStatus = 0;
+  if (!parseArguments(argumentCount, "o", &session)) return;
   trace("Command Line: ", CommandLine::ReadPort);
-  if (!runCommand(CommandLine::ReadPort, output, waitStatus)) reportFailure("Failed to get port settings.");
-  trace("Output: ", output);
-  const std::vector<std::string> settings = splitText(output, SettingsSeparator);
-  makeObject(return_value);
-  addInteger(return_value, "AutoNegotiate", pieceOf(settings, 0) == "on" ? 1 : 0);
-  addInteger(return_value, "Speed", pieceOf(settings, 1) == "10" ? 10 : 100);
-  addInteger(return_value, "Duplex", duplexOf(pieceOf(settings, 2)));
+  const CommandResult port = runCommand(CommandLine::ReadPort);
+  if (!port.succeeded) reportFailure("Failed to get port settings.");
+  trace("Output: ", port.output);
+  const std::vector<std::string> settings = splitText(port.output, SettingsSeparator);
+  makeObject(result);
+  addInteger(result, "AutoNegotiate", pieceOf(settings, 0) == "on" ? 1 : 0);
+  addInteger(result, "Speed", pieceOf(settings, 1) == "10" ? 10 : 100);
+  addInteger(result, "Duplex", duplexOf(pieceOf(settings, 2)));
   trace("Exiting get_eth2_port_settings");
 }

@@ -1,7 +1,7 @@
-// Properties of script objects, by name.
+// Properties of a page's objects, by name.
 #pragma once
 
-#include "utility/script_value_types.h"
+#include "utility/page_value_types.h"
 
 // Adds the string property name with a copy of value; copy is always 1.
 void add_property_string_q(zval* object, const char* name, const char* value, int copy);
@@ -11,5 +11,5 @@ void add_property_string_q(zval* object, const char* name, const char* value, in
 // the same property on the same thread; not the caller's to free.
 char* get_string_property(zval* object, char* name);
 
-// Whether the property is true as the script language sees it; false when there is no such property.
+// Whether the property is true as the page's language sees it; false when there is no such property.
 bool get_bool_property(zval* object, char* name);

@@ -1,0 +1,67 @@
+<?php
+// How a request ends: with a page, at another page, refused, or given up.
+
+// Shows templates/$template.php, which finds $values as variables, within the frame. Of $values the frame itself uses
+// 'title', 'lead', 'errors', 'part_of' (the page whose place in the menu this one takes), 'refresh' (array of 'seconds' and
+// 'address', for browsers without scripts) and 'other_origin'.
+function show($template, $values)
+{
+    send_headers(isset($values['other_origin']) ? $values['other_origin'] : '');
+    $content = render($template, $values);
+    $values['content'] = $content; // rendered first: what it reports is shown above it
+    echo render(isset($GLOBALS['session']) ? 'frame' : 'bare', $values);
+    exit;
+}
+
+function render($template, $values)
+{
+    extract($values);
+    ob_start();
+    include dirname(dirname(__FILE__)) . '/templates/' . $template . '.php';
+    return ob_get_clean();
+}
+
+// Goes to a page after a change, which says the message once.
+function go_to($page, $message = '')
+{
+    if ($message != '') {
+        return_to_session();
+        $_SESSION['message'] = $message;
+    }
+    send_headers();
+    header('Location: ' . $page, true, 303);
+    exit;
+}
+
+// Ends a request that is not allowed.
+function refuse($status, $title, $text)
+{
+    header('HTTP/1.1 ' . $status);
+    show('refused', array('title' => $title, 'text' => $text));
+}
+
+// Ends what cannot go on safely, also on the command line.
+function give_up($reason)
+{
+    error_log($reason);
+    if (php_sapi_name() == 'cli') {
+        exit(1);
+    }
+    refuse('500 Internal Server Error', 'The appliance cannot go on', $reason);
+}
+
+// The headers of every answer. $other_origin is one more that the page may ask for a sign of life.
+function send_headers($other_origin = '')
+{
+    // The policy knows no addresses in brackets, so that of IPv6 becomes its scheme alone.
+    if (strpos($other_origin, '[') !== false) {
+        $other_origin = substr($other_origin, 0, strpos($other_origin, '/'));
+    }
+    header('Content-Type: text/html; charset=utf-8');
+    header("Content-Security-Policy: default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self';"
+        . " connect-src 'self' $other_origin; form-action 'self'; base-uri 'none'; frame-ancestors 'none'");
+    header('X-Content-Type-Options: nosniff');
+    header('X-Frame-Options: DENY');
+    header('Referrer-Policy: no-referrer');
+    header('Cache-Control: no-store');
+}

@@ -1,0 +1,42 @@
+<?php
+// Files of the pages' own, which the web service alone may read: accounts, sessions and changes under way.
+
+define('PRIVATE_FOLDER', APPLIANCE_FOLDER . '/HTTPService/dat');
+define('SESSIONS_FOLDER', PRIVATE_FOLDER . '/sessions');
+
+function make_private_folders()
+{
+    foreach (array(PRIVATE_FOLDER, SESSIONS_FOLDER) as $folder) {
+        if (!is_dir($folder)) {
+            mkdir($folder, 0700);
+        }
+    }
+}
+
+// Writes another file and gives it the name when it is complete: whoever reads at any moment gets the old content or the
+// new one. Returns whether that worked.
+function replace_file($path, $content)
+{
+    $new = $path . '.' . random_hex(4);
+    $mask = umask(077);
+    $file = fopen($new, 'wb');
+    $written = $file && fwrite($file, $content) == strlen($content) && fflush($file) && fclose($file);
+    umask($mask);
+    if ($written && rename($new, $path)) {
+        return true;
+    }
+    if ($file) {
+        unlink($new);
+    }
+    return false;
+}
+
+// Opens a file for reading and writing, and keeps others who open it so waiting until it is closed. Makes it where it is
+// missing; false when that fails.
+function open_locked($path)
+{
+    $mask = umask(077);
+    $file = fopen($path, 'a+b');
+    umask($mask);
+    return $file && flock($file, LOCK_EX) ? $file : false;
+}

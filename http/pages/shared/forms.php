@@ -1,0 +1,75 @@
+<?php
+// Forms and their fields, as markup. $errors: name of a field => what is wrong with it.
+
+function token_field()
+{
+    return '<input type="hidden" name="token" value="' . h($_SESSION['token']) . '">';
+}
+
+// Begins a form for one kind of change. Who may not change anything sees its fields, but cannot use them.
+function form_begin($page, $change)
+{
+    $locked = may_change($GLOBALS['session']) ? '' : ' disabled';
+    return '<form method="post" action="' . h($page) . '"><fieldset class="form"' . $locked . '>' . token_field()
+        . '<input type="hidden" name="change" value="' . h($change) . '">';
+}
+
+// Ends the form with its button. Who may not change anything is told so in its place.
+function form_end($label)
+{
+    $button = may_change($GLOBALS['session'])
+        ? '<p class="actions"><button type="submit" class="primary">' . h($label) . '</button></p>'
+        : '<p class="hint">You may look at these settings; changing them needs the role admin.</p>';
+    return '</fieldset>' . $button . '</form>';
+}
+
+// Attributes that tie a field to its hint and its error, for those who cannot see that they stand beside it.
+function described_by($name, $hint, $error)
+{
+    $ids = trim(($hint == '' ? '' : $name . '-hint') . ' ' . ($error == '' ? '' : $name . '-error'));
+    return ($ids == '' ? '' : ' aria-describedby="' . $ids . '"') . ($error == '' ? '' : ' aria-invalid="true"');
+}
+
+// The hint and the error of a field, under the identifiers that described_by() names.
+function field_notes($name, $hint, $error)
+{
+    return ($hint == '' ? '' : '<p class="hint" id="' . $name . '-hint">' . h($hint) . '</p>')
+        . ($error == '' ? '' : '<p class="error" id="' . $name . '-error">' . icon('bad') . h($error) . '</p>');
+}
+
+// A field of one line. $more is further attributes, as markup.
+function text_field($name, $label, $value, $errors, $hint = '', $more = '')
+{
+    $error = isset($errors[$name]) ? $errors[$name] : '';
+    return '<div class="field' . ($error == '' ? '' : ' wrong') . '"><label for="' . $name . '">' . h($label) . '</label>'
+        . '<input type="text" id="' . $name . '" name="' . $name . '" value="' . h($value) . '"'
+        . described_by($name, $hint, $error)
+        . ' autocomplete="off" autocapitalize="none" spellcheck="false" ' . $more . '>'
+        . field_notes($name, $hint, $error) . '</div>';
+}
+
+// One of several. $choices: value => array of 'label' and 'hint'.
+function choice_field($name, $legend, $choices, $value, $errors = array())
+{
+    $error = isset($errors[$name]) ? $errors[$name] : '';
+    $html = '<fieldset class="field"' . described_by($name, '', $error) . '><legend>' . h($legend) . '</legend>';
+    foreach ($choices as $choice => $texts) {
+        $html .= mark_field('radio', $name, $name . '-' . $choice, $choice, $texts['label'], $texts['hint'],
+            (string) $choice == (string) $value);
+    }
+    return $html . field_notes($name, '', $error) . '</fieldset>';
+}
+
+// Yes or no.
+function check_field($name, $label, $checked, $hint = '')
+{
+    return mark_field('checkbox', $name, $name, '1', $label, $hint, $checked);
+}
+
+// A radio button or a check box, with its label behind it.
+function mark_field($type, $name, $id, $value, $label, $hint, $checked)
+{
+    return '<div class="mark"><input type="' . $type . '" id="' . $id . '" name="' . $name . '" value="' . h($value) . '"'
+        . ($checked ? ' checked' : '') . described_by($id, $hint, '') . '><div><label for="' . $id . '">' . h($label)
+        . '</label>' . field_notes($id, $hint, '') . '</div></div>';
+}
