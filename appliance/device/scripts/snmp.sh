@@ -1,6 +1,6 @@
 # The SNMP agent and its trap receivers, as the management database has them. Sourced behind device.sh and
 # management.sh.
-# shellcheck shell=sh
+# shellcheck shell=sh disable=SC2086 # $STATELESS is two words
 
 AGENT_STATE=$LIBRARY/CoreService/dat/snmp # what the agent keeps, and its version 3 user
 AGENT_USER=$AGENT_STATE/user              # name and passphrase
@@ -23,6 +23,9 @@ SECONDS_TO_CONNECT=1.5 # to all receivers at once
 SECONDS_TO_STOP=1
 SECONDS_TO_START=2 # the agent, which connects to the receivers before it answers
 SECONDS_TO_SEND=3  # a test trap
+
+# The programs that ask and send run at the same time as others, which all would write the same file.
+STATELESS='--noPersistentLoad=yes --noPersistentSave=yes'
 
 # Sets version1 version2 version3 trap1 trap2 auth_traps community, and receivers, in order.
 read_agent_settings() {
@@ -118,7 +121,7 @@ store_agent_configuration() {
 
 # Waits until it does, 6 seconds at most.
 agent_answers() {
-  set -- -t 0.3 -r 20 -Oqv
+  set -- $STATELESS -t 0.3 -r 20 -Oqv
   if [ "$version3" = 1 ]; then
     set -- "$@" -v 3 -l authNoPriv -u "$user" -a MD5 -A "$passphrase"
   elif [ "$version2" = 1 ]; then
@@ -180,8 +183,8 @@ restart_agent() {
 # send_test_trap VERSION RECEIVER
 send_test_trap() {
   if [ "$1" = 1 ]; then
-    timeout "$SECONDS_TO_SEND" snmptrap -v 1 -c "$community" "$2" "${TEST_TRAP%.0.1}" '' 6 1 ''
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 -c "$community" "$2" "${TEST_TRAP%.0.1}" '' 6 1 ''
   else
-    timeout "$SECONDS_TO_SEND" snmptrap -v "$1" -c "$community" "$2" '' "$TEST_TRAP"
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" -c "$community" "$2" '' "$TEST_TRAP"
   fi || complain "no version $1 trap could be sent to $2"
 }
