@@ -56,14 +56,15 @@ void RemoveDatabase(const std::string& path) {
 }
 
 void PutAside(const std::string& path) {
-  for (const std::string companion : Companions) {
+  const std::string aside = path + ".damaged";
+  for (const char* companion : Companions) {
     if (access((path + companion).c_str(), F_OK) == 0) {
-      Rename(path + companion, path + ".damaged" + companion);
+      Rename(path + companion, aside + companion);
     } else {
-      Remove(path + ".damaged" + companion);
+      Remove(aside + companion);
     }
   }
-  if (access(path.c_str(), F_OK) == 0) Rename(path, path + ".damaged");
+  if (access(path.c_str(), F_OK) == 0) Rename(path, aside);
 }
 
 std::int64_t SettingsRows(Database& database) {
