@@ -1,3 +1,5 @@
+#include <csignal>
+#include <cstdio>
 #include <regex>
 
 #include "velm_fixture.h"
@@ -9,8 +11,10 @@ using TarnAbstract::StringAccess;
 using Velm::TrapRegistration;
 using velm_test::AppConfigTest;
 using velm_test::Heap;
+using velm_test::InChild;
 using velm_test::Receiver;
 using velm_test::Registrations;
+using velm_test::StatusOf;
 using velm_test::Versions;
 
 namespace {
@@ -165,8 +169,10 @@ TEST_F(AppConfigTest, ReadingAppendsToTheCallersList) {
 }
 
 TEST_F(AppConfigTest, AListThatCannotGrowFailsTheReading) {
-  TrapRegistration registration = Receiver("10.20.0.9");
-  for (int i = 0; i < 5; ++i) EXPECT_EQ(Result::Succeeded, config->createTrapRegistration(registration));
+  for (unsigned int port = 1; port <= 5; ++port) {
+    TrapRegistration registration = Receiver("10.20.0.9", port);
+    EXPECT_EQ(Result::Succeeded, config->createTrapRegistration(registration));
+  }
   Registrations withoutHeap((TarnAbstract::sp<TarnAbstract::IHeap>()));
   const std::string said =
       Said([&] { EXPECT_EQ(Result::CapacityOverflow, config->getTrapRegistrations(withoutHeap)); });
@@ -301,9 +307,10 @@ TEST_F(AppConfigTest, AWrongTrapReceiverIsRefused) {
 }
 
 TEST_F(AppConfigTest, TwentyTrapRegistrationsAreTheMost) {
-  TrapRegistration registration = Receiver("10.20.0.9");
-  for (int i = 1; i <= 20; ++i) {
-    ASSERT_EQ(Result::Succeeded, config->createTrapRegistration(registration)) << i;
+  TrapRegistration registration;
+  for (unsigned int port = 1; port <= 20; ++port) {
+    registration = Receiver("10.20.0.9", port);
+    ASSERT_EQ(Result::Succeeded, config->createTrapRegistration(registration)) << port;
   }
   TrapRegistration further = Receiver("10.20.0.21");
   const std::string said =
@@ -319,6 +326,48 @@ TEST_F(AppConfigTest, TwentyTrapRegistrationsAreTheMost) {
   GUID identifier = registration.getTrapID();
   EXPECT_EQ(Result::Succeeded, config->deleteTrapRegistration(identifier));
   EXPECT_EQ(Result::Succeeded, config->createTrapRegistration(further));
+}
+
+TEST_F(AppConfigTest, AReceiverThatIsThereAlreadyIsRefusedInAnyNotation) {
+  for (TrapRegistration registration : {Receiver("10.20.0.9"), Receiver("2001:db8::9", 162, 2)}) {
+    ASSERT_EQ(Result::Succeeded, config->createTrapRegistration(registration));
+  }
+  for (TrapRegistration again :
+       {Receiver("10.20.0.9"), Receiver("::ffff:10.20.0.9"), Receiver("2001:DB8:0:0::9", 162, 2)}) {
+    const std::string said = Said([&] { EXPECT_EQ(Result::Failed, config->createTrapRegistration(again)); });
+    EXPECT_EQ(0U, said.find("createTrapRegistration: there is one already: trap registration ")) << said;
+    EXPECT_TRUE(GUID() == again.getTrapID());
+  }
+  EXPECT_EQ("3\n", Ask("SELECT count(*) FROM audit WHERE result LIKE 'refused: there is one already: %'"));
+  for (TrapRegistration other : {Receiver("10.20.0.9", 163), Receiver("10.20.0.9", 162, 2),
+                                 Receiver("10.20.0.8"), Receiver("2001:db8::9")}) {
+    EXPECT_EQ(Result::Succeeded, config->createTrapRegistration(other));
+  }
+  EXPECT_EQ("6\n", Ask("SELECT count(*) FROM trap_registrations"));
+}
+
+TEST_F(AppConfigTest, TheAuditKeepsItsNewestTenThousandRows) {
+  ASSERT_EQ(Result::Succeeded, SetCommunity("first"));
+  Ask(R"(WITH RECURSIVE numbers(number) AS (SELECT 2 UNION ALL SELECT number + 1 FROM numbers WHERE number < 9999)
+         INSERT INTO audit (user, operation, "values", result) SELECT '', 'filler', number, 'stored' FROM numbers)");
+  ASSERT_EQ(Result::Succeeded, SetCommunity("10000th"));
+  EXPECT_EQ("10000|1|10000\n", Ask("SELECT count(*), min(number), max(number) FROM audit"));
+  Said([&] { EXPECT_EQ(Result::Failed, SetCommunity("")); });
+  EXPECT_EQ("10000|2|10001\n", Ask("SELECT count(*), min(number), max(number) FROM audit"));
+  EXPECT_EQ("refused\n", Ask("SELECT substr(result, 1, 7) FROM audit WHERE number = 10001"));
+}
+
+TEST_F(AppConfigTest, WithoutTheRowOfTheSettingsNothingIsSaidToBeStored) {
+  ASSERT_EQ(Result::Succeeded, SetCommunity("before"));
+  Ask("DELETE FROM settings");
+  const std::string said = Said([&] {
+    EXPECT_EQ(Result::Failed, SetCommunity("after"));
+    EXPECT_EQ(Result::Failed, config->setAuthTrapsEnabled(true));
+    EXPECT_EQ(Result::Failed, config->setSSLEnabled(true));
+  });
+  const std::string reason = ": the settings are missing in the database\n";
+  EXPECT_EQ("setReadCommunity" + reason + "setAuthTrapsEnabled" + reason + "setSSLEnabled" + reason, said);
+  EXPECT_EQ("setReadCommunity|before|stored\n", Audit());
 }
 
 TEST_F(AppConfigTest, DeletingAnUnknownIdentifierIsRefused) {
@@ -387,6 +436,78 @@ TEST_F(AppConfigTest, AWebServiceThatDoesNotFollowFailsTheChangeOfTheModeWhichSt
       "setSSLEnabled|enabled|stored\n"
       "setSSLEnabled|disabled, as before: the web service did not follow|stored\n",
       Audit());
+}
+
+// Of two that meet, the second must not take what the first has stored for the mode of before.
+TEST_F(AppConfigTest, TwoChangesOfTheModeAtOnceThatBothFailLeaveTheModeThatWas) {
+  WriteScript(places.applyWebMode, "echo >>" + folder + "/begun; sleep 0.5; exit 1");
+  const auto change = [&](const char* name) {
+    return InChild([this, name] {
+      Velm::Store own(places.database);
+      EXPECT_NE(nullptr, std::freopen("/dev/null", "w", stderr));
+      EXPECT_EQ(Result::Failed, Open(own, name)->setSSLEnabled(true));
+    });
+  };
+  const pid_t first = change("first");
+  while (Contents(folder + "/begun").empty()) usleep(1000);
+  const pid_t second = change("second");
+  EXPECT_EQ(0, StatusOf(first));
+  EXPECT_EQ(0, StatusOf(second));
+  EXPECT_EQ("0|\n", Ask("SELECT ssl_enabled, ssl_enabled_before FROM settings"));
+  EXPECT_EQ("first|enabled\nfirst|disabled, as before\nsecond|enabled\nsecond|disabled, as before\n",
+            Ask(R"(SELECT user, replace("values", ': the web service did not follow', '') FROM audit
+                   ORDER BY number)"));
+}
+
+TEST_F(AppConfigTest, AChangeOfTheModeThatWasKilledLeavesTheModeOfBeforeToGoBackTo) {
+  WriteScript(places.applyWebMode, "echo >" + folder + "/begun; exec sleep 600");
+  const pid_t child = InChild([this] {
+    setpgid(0, 0);
+    Velm::Store own(places.database);
+    Open(own)->setSSLEnabled(true);
+  });
+  while (Contents(folder + "/begun").empty()) usleep(1000);
+  kill(-child, SIGKILL);
+  EXPECT_EQ(SIGKILL, StatusOf(child));
+  EXPECT_EQ("1|0\n", Ask("SELECT ssl_enabled, ssl_enabled_before FROM settings"));
+
+  WriteScript(places.applyWebMode, "exit 1");
+  Said([&] { EXPECT_EQ(Result::Failed, config->setSSLEnabled(true)); });
+  EXPECT_EQ("0|\n", Ask("SELECT ssl_enabled, ssl_enabled_before FROM settings"));
+  WriteScript(places.applyWebMode, "exit 0");
+  EXPECT_EQ(Result::Succeeded, config->setSSLEnabled(true));
+  EXPECT_EQ("1|\n", Ask("SELECT ssl_enabled, ssl_enabled_before FROM settings"));
+}
+
+TEST_F(AppConfigTest, AWebServiceThatDoesNotFollowIsBroughtIntoTheModeOfBeforeAgain) {
+  WriteScript(places.applyWebMode, "mode=$(sqlite3 " + places.database +
+                                       " 'SELECT ssl_enabled FROM settings'); echo $mode >>" + folder +
+                                       "/seen; exit $mode");
+  Said([&] { EXPECT_EQ(Result::Failed, config->setSSLEnabled(true)); });
+  EXPECT_EQ("1\n0\n", Contents(folder + "/seen"));
+}
+
+TEST_F(AppConfigTest, TheLockOfTheModeIsForNobodyElse) {
+  EXPECT_EQ(Result::Succeeded, config->setSSLEnabled(true));
+  EXPECT_EQ(std::filesystem::perms(0600),
+            std::filesystem::status(places.database + ".ssl_lock").permissions());
+}
+
+// As in a process whose parent ignored it: the kernel throws the statuses of children away.
+TEST_F(AppConfigTest, AScriptsStatusIsKnownInAProcessThatIgnoresTheEndsOfChildren) {
+  struct sigaction ignoring = {};
+  struct sigaction hosts = {};
+  struct sigaction after = {};
+  ignoring.sa_handler = SIG_IGN;
+  ASSERT_EQ(0, sigaction(SIGCHLD, &ignoring, &hosts));
+  WriteScript(places.applyWebMode, "exit 0");
+  EXPECT_EQ(Result::Succeeded, config->setSSLEnabled(true));
+  WriteScript(places.restartSNMP, "exit 7");
+  const std::string said = Said([&] { EXPECT_EQ(Result::Failed, config->restartSNMP()); });
+  EXPECT_EQ("restartSNMP: " + places.restartSNMP + " ended with exit status 7\n", said);
+  ASSERT_EQ(0, sigaction(SIGCHLD, &hosts, &after));
+  EXPECT_EQ(SIG_IGN, after.sa_handler);
+  EXPECT_EQ("1\n", Ask("SELECT ssl_enabled FROM settings"));
 }
 
 TEST_F(AppConfigTest, RestartingTheAgentSucceedsOnlyWithExitStatusZero) {

@@ -105,7 +105,8 @@ TEST_F(StoreTest, AKilledProcessLeavesWholeChanges) {
       Velm::Store store(places.database);
       const velm_test::Config config = Open(store);
       for (int round = 0;; ++round) {
-        TrapRegistration passing = Receiver("10.20.0.9");
+        TrapRegistration passing =
+            Receiver("10.20.0.9", static_cast<unsigned int>(1000 * (life + 1) + round % 1000));
         config->createTrapRegistration(passing);
         SetCommunity(config, std::to_string(life) + "-" + std::to_string(round));
         GUID identifier = passing.getTrapID();
@@ -189,7 +190,7 @@ TEST_F(AppConfigTest, AnOlderDatabaseIsBroughtForwardWithWhatItHolds) {
   EXPECT_EQ("public", Community());
   EXPECT_EQ(Result::Succeeded, SetCommunity("new"));
   EXPECT_EQ("7|first\n8|operator\n", Ask("SELECT number, user FROM audit ORDER BY number"));
-  EXPECT_EQ("2\n", Ask("PRAGMA user_version"));
+  EXPECT_EQ("3\n", Ask("PRAGMA user_version"));
 }
 
 TEST_F(StoreTest, OfSeveralProcessesThatFindNoDatabaseOneMakesItAndTheOthersWait) {
@@ -220,7 +221,7 @@ TEST_F(StoreTest, OfSeveralProcessesThatFindNoDatabaseOneMakesItAndTheOthersWait
 }
 
 TEST_F(AppConfigTest, ANewerDatabaseIsRefusedAndStaysUntouched) {
-  Ask("CREATE TABLE settings (something_else TEXT); PRAGMA user_version = 3;");
+  Ask("CREATE TABLE settings (something_else TEXT); PRAGMA user_version = 4;");
   const std::string before = Contents(places.database);
   std::uint32_t ssl = 7;
   const std::string said = Said([&] {
@@ -229,7 +230,7 @@ TEST_F(AppConfigTest, ANewerDatabaseIsRefusedAndStaysUntouched) {
   });
   EXPECT_EQ(7U, ssl);
   const std::string sentence = "database " + places.database +
-                               ": has version 3, this program knows versions up to 2; it stays untouched, "
+                               ": has version 4, this program knows versions up to 3; it stays untouched, "
                                "use the program that wrote it or a newer one\n";
   EXPECT_EQ("getSSLEnabled: " + sentence + "setSSLEnabled: " + sentence, said);
   EXPECT_TRUE(before == Contents(places.database));

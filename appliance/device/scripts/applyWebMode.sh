@@ -1,6 +1,10 @@
 #!/bin/sh
 # Brings the web service into the SSL mode of the management database. A running web server starts anew in
 # that mode when the answers under way have gone out.
+#
+#   applyWebMode.sh         for a change of the mode, which goes back to the mode of before by itself when this fails
+#   applyWebMode.sh start   for the start of the appliance: ends a change that was interrupted, by bringing the new
+#                           mode into force or else the one of before
 # shellcheck disable=SC2016 # the variables are the web server's
 # shellcheck disable=SC2154 # variables are set by the functions that read into them
 # shellcheck source=SCRIPTDIR/device.sh
@@ -28,38 +32,46 @@ certificate_names() {
 }
 
 # The key is made once; the certificate again when the appliance has got another name or address, or when
-# it is about to end.
+# it is about to end. Both again when they are damaged.
 require_certificate() {
   names=$(certificate_names)
   read_line names_of_before "$CERTIFICATE_NAMES"
-  if [ "$names_of_before" != "$names" ] || [ ! -s "$KEY" ] ||
+  if [ "$names_of_before" != "$names" ] || ! is_of_key ||
     ! openssl x509 -checkend "$RENEWED_BEFORE" -noout -in "$CERTIFICATE" >/dev/null 2>&1; then
     (umask 077 && make_certificate "$names") 2>"$RUN/certificate.log" ||
       fail "no certificate can be made: $(tail -n 1 "$RUN/certificate.log")"
   fi
 }
 
+# With a certificate of another key, as a change leaves it that was interrupted, the web server would not start.
+is_of_key() {
+  public=$(openssl pkey -in "$KEY" -pubout 2>/dev/null) &&
+    [ "$(openssl x509 -in "$CERTIFICATE" -noout -pubkey 2>/dev/null)" = "$public" ]
+}
+
 make_certificate() {
-  if [ ! -s "$KEY" ]; then
-    openssl genrsa -out "$KEY.new" 3072 && mv "$KEY.new" "$KEY" || return
+  if ! openssl pkey -in "$KEY" -noout 2>/dev/null; then
+    key=$(openssl genrsa 3072) && store_file "$KEY" "$key" || return
   fi
   common_name=${1#DNS:}
-  openssl req -new -x509 -sha256 -key "$KEY" -days "$DAYS_VALID" -subj "/CN=${common_name%%,*}" \
-    -addext "subjectAltName=$1" -out "$CERTIFICATE.new" &&
-    mv "$CERTIFICATE.new" "$CERTIFICATE" && printf '%s\n' "$1" >"$CERTIFICATE_NAMES"
+  certificate=$(openssl req -new -x509 -sha256 -key "$KEY" -days "$DAYS_VALID" -subj "/CN=${common_name%%,*}" \
+    -addext "subjectAltName=$1") &&
+    store_file "$CERTIFICATE" "$certificate" && store_file "$CERTIFICATE_NAMES" "$1"
 }
 
 # The first address is the server's own, in the terms of its configuration; the others are further ones.
 listen_to_http() {
+  own=
   while read -r kind socket; do
     [ "$kind" = http ] || continue
-    if [ -n "${own-}" ]; then
+    if [ -n "$own" ]; then
       printf '$SERVER["socket"] == "%s" { }\n' "$socket"
     else
       own=${socket%:*}
       printf 'server.bind = "%s"\nserver.port = %s\n' "$own" "${socket##*:}"
     fi
   done <"$SOCKETS"
+  [ -n "$own" ]
 }
 
 listen_to_https() {
@@ -88,14 +100,14 @@ redirect_http() {
   printf '%s\n' '  else { url.access-deny = ( "" ) }' '}'
 }
 
+mode_configuration() {
+  listen_to_http || return
+  [ "$1" = 1 ] || return 0
+  listen_to_https && redirect_http
+}
+
 store_mode() {
-  {
-    listen_to_http
-    if [ "$1" = 1 ]; then
-      listen_to_https
-      redirect_http
-    fi
-  } >"$MODE.new" && mv "$MODE.new" "$MODE"
+  configuration=$(mode_configuration "$1") && store_file "$MODE" "$configuration"
 }
 
 # Starting anew by itself, the server takes new connections all the while; but only webServer.sh, its parent, can have
@@ -111,10 +123,39 @@ restart_web_server() {
   kill -s "$signal" "$process" 2>/dev/null || complain "the web server is not running"
 }
 
-[ $# = 0 ] || refuse_call 'none' "$@"
-mkdir -p "$RUN"
-exec 9>"$RUN/web_mode.lock" && flock 9
-enabled=$(query 'SELECT ssl_enabled FROM settings') || fail 'the SSL mode cannot be read'
-[ "$enabled" = 0 ] || require_certificate
-store_mode "$enabled" || fail "$MODE cannot be written"
-restart_web_server "$enabled"
+apply_mode() {
+  enabled=$(query 'SELECT ssl_enabled FROM settings') || fail 'the SSL mode cannot be read'
+  [ "$enabled" = 0 ] || require_certificate
+  store_mode "$enabled" || fail "$MODE cannot be written"
+  restart_web_server "$enabled"
+}
+
+# As setSSLEnabled does it, when it is not interrupted.
+go_back() {
+  query "BEGIN IMMEDIATE;
+    UPDATE settings SET ssl_enabled = ssl_enabled_before, ssl_enabled_before = NULL;
+    INSERT INTO audit (user, operation, \"values\", result)
+      SELECT '', 'setSSLEnabled', iif(ssl_enabled, 'enabled', 'disabled') || ', as before: the web service did not follow', 'stored'
+      FROM settings;
+    COMMIT" || return
+  complain 'back to the SSL mode of before the last change'
+}
+
+end_interrupted_change() {
+  lock 8 "$DATABASE.ssl_lock"
+  before=$(query 'SELECT ssl_enabled_before FROM settings') || fail 'the SSL mode cannot be read'
+  if [ -z "$before" ]; then
+    apply_mode
+  elif (apply_mode); then
+    query 'UPDATE settings SET ssl_enabled_before = NULL' || complain 'the change of the SSL mode stays unfinished'
+  else
+    go_back && apply_mode
+  fi
+}
+
+lock 9 "$RUN/web_mode.lock"
+case $#$* in
+0) apply_mode ;;
+1start) end_interrupted_change ;;
+*) refuse_call 'none, "start"' "$@" ;;
+esac

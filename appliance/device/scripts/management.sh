@@ -1,5 +1,9 @@
-# Reading the database of the management services. Sourced behind device.sh.
+# What the scripts of the management services share: reading their database, storing what is made from it. Sourced
+# behind device.sh.
 # shellcheck shell=sh
+
+# shellcheck source=SCRIPTDIR/transaction.sh
+. "$BIN/transaction.sh"
 
 DATABASE=$LIBRARY/CoreService/dat/management.db
 
@@ -7,4 +11,17 @@ DATABASE=$LIBRARY/CoreService/dat/management.db
 query() {
   [ -s "$DATABASE" ] || fail "the management database $DATABASE is missing"
   sqlite3 -separator ' ' -cmd '.timeout 10000' "file:$DATABASE?mode=rw" "$1"
+}
+
+# store_file FILE TEXT: like `store`, in any folder. Without room for the text the old file stays.
+store_file() {
+  (SETTINGS=${1%/*} && store "${1##*/}" "$2")
+}
+
+# lock DESCRIPTOR FILE: waits for its turn; the lock is held until the descriptor is closed.
+lock() {
+  # "exec" alone would end the script where it fails.
+  { mkdir -p "${2%/*}" && (umask 077 && : >>"$2") && eval "command exec $1>>\"\$2\""; } 2>/dev/null ||
+    fail "the lock $2 cannot be taken"
+  flock -w 60 "$1" || fail "another change has had the lock $2 for a minute"
 }

@@ -1,6 +1,6 @@
 # The SNMP agent and its trap receivers, as the management database has them. Sourced behind device.sh and
 # management.sh.
-# shellcheck shell=sh
+# shellcheck shell=sh disable=SC2086 # $STATELESS is two words
 
 AGENT_STATE=$LIBRARY/CoreService/dat/snmp # what the agent keeps, and its version 3 user
 AGENT_USER=$AGENT_STATE/user              # name and passphrase
@@ -18,6 +18,15 @@ TEST_TRAP=.1.3.6.1.4.1.8072.2.3.0.1 # net-snmp's example notification
 
 export SNMP_PERSISTENT_DIR="$AGENT_STATE" MIBS=
 
+# Together these take less than 5 seconds, whatever the receivers of traps do.
+SECONDS_TO_CONNECT=1.5 # to all receivers at once
+SECONDS_TO_STOP=1
+SECONDS_TO_START=2 # the agent, which connects to the receivers before it answers
+SECONDS_TO_SEND=3  # a test trap
+
+# The programs that ask and send run at the same time as others, which all would write the same file.
+STATELESS='--noPersistentLoad=yes --noPersistentSave=yes'
+
 # Sets version1 version2 version3 trap1 trap2 auth_traps community, and receivers, in order.
 read_agent_settings() {
   settings=$(query 'SELECT version1, version2, version3, trap1, trap2, auth_traps_enabled, read_community FROM snmp_agent') ||
@@ -28,13 +37,49 @@ SETTINGS
   receivers=$(query 'SELECT receiver FROM trap_sinks ORDER BY number') || fail 'the trap receivers cannot be read'
 }
 
-# Sets user and passphrase; made at the first call and kept.
+# Sets user and passphrase; made at the first call, and when the file is damaged, and kept.
 read_agent_user() {
-  if [ ! -s "$AGENT_USER" ]; then
-    mkdir -p "$AGENT_STATE" && chmod 700 "$AGENT_STATE"
-    printf 'appliance %s\n' "$(openssl rand -hex 12)" >"$AGENT_USER.new" && mv "$AGENT_USER.new" "$AGENT_USER"
-  fi
-  read -r user passphrase <"$AGENT_USER"
+  read_user || {
+    make_agent_user && read_user
+  } || fail "the agent's user $AGENT_USER cannot be made"
+}
+
+# A file that was cut off has no line end; the agent takes no passphrase of fewer than 8 characters.
+read_user() {
+  [ -f "$AGENT_USER" ] && read -r user passphrase <"$AGENT_USER" && [ ${#passphrase} -ge 8 ]
+}
+
+make_agent_user() {
+  new_passphrase=$(openssl rand -hex 12) && [ ${#new_passphrase} = 24 ] && mkdir -p "$AGENT_STATE" &&
+    chmod 700 "$AGENT_STATE" && (umask 077 && store_file "$AGENT_USER" "appliance $new_passphrase")
+}
+
+# Sets reachable: the receivers but those by TCP that take no connection now. The agent would wait for these before
+# it answers, one after the other, for minutes; it does without them until it starts anew.
+find_reachable_receivers() {
+  accepting=$(print_accepting_receivers)
+  reachable=
+  for receiver in $receivers; do
+    case $receiver in
+    tcp*)
+      if ! line "$accepting" | grep -qxF "$receiver"; then
+        complain "the trap receiver $receiver takes no connection: the agent sends it nothing until it starts anew"
+        continue
+      fi
+      ;;
+    esac
+    reachable="$reachable $receiver"
+  done
+}
+
+# All are asked at once.
+print_accepting_receivers() {
+  for receiver in $receivers; do
+    case $receiver in
+    tcp*) { socat -u /dev/null "TCP${receiver#tcp},connect-timeout=$SECONDS_TO_CONNECT" && line "$receiver"; } & ;;
+    esac
+  done 2>/dev/null 9>&-
+  wait
 }
 
 # In the agent's notation: any printable character may stand between double quotes, a backslash doubled.
@@ -62,20 +107,21 @@ agent_configuration() {
     line "rouser $user auth -V all"
   fi
   line "authtrapenable $((2 - auth_traps))"
-  for receiver in $receivers; do
+  for receiver in $reachable; do
     [ "$trap1" = 0 ] || line "trapsess -v 1 -c $(quoted "$community") $receiver"
     [ "$trap2" = 0 ] || line "trapsess -v 2c -c $(quoted "$community") $receiver"
   done
 }
 
 store_agent_configuration() {
-  (umask 077 && agent_configuration >"$AGENT_CONFIGURATION.new") &&
-    mv "$AGENT_CONFIGURATION.new" "$AGENT_CONFIGURATION"
+  {
+    configuration=$(agent_configuration) && (umask 077 && store_file "$AGENT_CONFIGURATION" "$configuration")
+  } || fail 'the SNMP agent stays as it is'
 }
 
 # Waits until it does, 6 seconds at most.
 agent_answers() {
-  set -- -t 0.3 -r 20 -Oqv
+  set -- $STATELESS -t 0.3 -r 20 -Oqv
   if [ "$version3" = 1 ]; then
     set -- "$@" -v 3 -l authNoPriv -u "$user" -a MD5 -A "$passphrase"
   elif [ "$version2" = 1 ]; then
@@ -88,32 +134,57 @@ agent_answers() {
   snmpget "$@" "udp:127.0.0.1:${AGENT_ADDRESSES##*:}" "$SYSTEM_UPTIME" >/dev/null 2>&1
 }
 
+gone_in_time() {
+  timeout "$SECONDS_TO_STOP" tail --pid="$1" -s 0.05 -f /dev/null
+}
+
 stop_agent() {
   [ -s "$AGENT_PROCESS" ] || return 0
   read -r process <"$AGENT_PROCESS"
-  kill -TERM "$process" 2>/dev/null && tail --pid="$process" -s 0.05 -f /dev/null
+  if kill -TERM "$process" 2>/dev/null && ! gone_in_time "$process"; then
+    kill -KILL "$process"
+    gone_in_time "$process"
+  fi
   rm -f "$AGENT_PROCESS"
 }
 
-# One at a time; the agent must not keep the lock.
+# Without SMUX, for which it would listen to TCP as well. The agent must not keep the lock.
+start_agent() {
+  timeout -s KILL "$SECONDS_TO_START" setsid snmpd -I -smux -C -c "$AGENT_CONFIGURATION" -p "$AGENT_PROCESS" \
+    -Lf "$AGENT_LOG" 9>&- </dev/null >/dev/null 2>&1
+}
+
+# For a receiver that became silent just now.
+start_agent_without_connections() {
+  case $reachable in *tcp*) ;; *) return 1 ;; esac
+  complain 'the SNMP agent does not start with its trap receivers by TCP: it sends them nothing until it starts anew'
+  receivers_by_udp=
+  for receiver in $reachable; do
+    case $receiver in udp*) receivers_by_udp="$receivers_by_udp $receiver" ;; esac
+  done
+  reachable=$receivers_by_udp
+  store_agent_configuration
+  start_agent
+}
+
+# One at a time. The old agent goes when the configuration of the new one is there.
 restart_agent() {
-  mkdir -p "$RUN"
-  exec 9>"$AGENT_LOCK" && flock 9
+  lock 9 "$AGENT_LOCK"
   read_agent_settings
   read_agent_user
-  store_agent_configuration || fail "the agent's configuration $AGENT_CONFIGURATION cannot be written"
+  find_reachable_receivers
+  store_agent_configuration
   stop_agent
-  # Without SMUX, for which it would listen to TCP as well.
-  setsid snmpd -I -smux -C -c "$AGENT_CONFIGURATION" -p "$AGENT_PROCESS" -Lf "$AGENT_LOG" 9>&- </dev/null >/dev/null 2>&1 ||
-    fail "the SNMP agent does not start: $(tail -n 1 "$AGENT_LOG")"
+  start_agent || start_agent_without_connections || fail "the SNMP agent does not start: $(tail -n 1 "$AGENT_LOG")"
   agent_answers || fail "the SNMP agent does not answer: $(tail -n 1 "$AGENT_LOG")"
+  exec 9>&-
 }
 
 # send_test_trap VERSION RECEIVER
 send_test_trap() {
   if [ "$1" = 1 ]; then
-    snmptrap -v 1 -c "$community" "$2" "${TEST_TRAP%.0.1}" '' 6 1 ''
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 -c "$community" "$2" "${TEST_TRAP%.0.1}" '' 6 1 ''
   else
-    snmptrap -v "$1" -c "$community" "$2" '' "$TEST_TRAP"
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" -c "$community" "$2" '' "$TEST_TRAP"
   fi || complain "no version $1 trap could be sent to $2"
 }

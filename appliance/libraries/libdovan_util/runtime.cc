@@ -12,8 +12,8 @@
 #include <exception>
 #include <vector>
 
-#include "libdovan_util/child_statuses.h"
 #include "libdovan_util/command_words.h"
+#include "libtarn/child_statuses.h"
 
 namespace {
 
@@ -146,7 +146,7 @@ int run(std::string& command, std::string* output) {
   Descriptor reader;
   Descriptor writer;
   int error = output == nullptr ? 0 : openPipe(reader, writer);
-  const ChildStatuses statuses;
+  const TarnAbstract::ChildStatuses statuses;
   pid_t child = -1;
   if (error == 0) error = spawn(words, writer, child);
   if (error != 0) {

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cinttypes>
 #include <cstdio>
 #include <cstring>
@@ -11,7 +12,9 @@
 #include <utility>
 #include <vector>
 
+#include "address_rules/addresses.h"
 #include "libtarn/string_access.h"
+#include "libvelm/file_lock.h"
 #include "libvelm/script.h"
 #include "libvelm/service_error.h"
 #include "libvelm/snmp_rules.h"
@@ -23,6 +26,11 @@ namespace {
 using TarnAbstract::GUID;
 using TarnAbstract::Result;
 using TarnAbstract::StringAccess;
+
+// Changes of the mode wait for one another; making a key takes long on a slow device.
+constexpr std::chrono::seconds PatienceForTheMode(60);
+// The oldest go first.
+constexpr std::int64_t MostAuditRows = 10000;
 
 constexpr char SSLEnabledQuery[] = "SELECT ssl_enabled FROM settings";
 
@@ -96,6 +104,11 @@ TrapRegistration ToRegistration(const Statement& row) {
   return registration;
 }
 
+// Nothing is stored where there is nothing to update.
+void RequireChangedSettings(const Database& database) {
+  if (database.Changes() == 0) throw Damaged("the settings are missing in the database");
+}
+
 void RequireRoomForATrapRegistration(Database& database) {
   Statement count = database.Prepare("SELECT count(*) FROM trap_registrations");
   count.Step();
@@ -103,6 +116,25 @@ void RequireRoomForATrapRegistration(Database& database) {
     throw Refused("there are " + std::to_string(count.Integer(0)) +
                       " trap registrations already, which is the most; delete one first",
                   Result::CapacityOverflow);
+  }
+}
+
+bool IsSameAddress(const std::string& one, const std::string& other) {
+  AddressRules::Address addresses[2] = {};
+  return AddressRules::ParseAddress({one.data(), one.size()}, addresses[0]) &&
+         AddressRules::ParseAddress({other.data(), other.size()}, addresses[1]) &&
+         AddressRules::SamePrefix(AddressRules::AddressBits, addresses[0], addresses[1]);
+}
+
+void RequireNoSuchTrapRegistration(Database& database, std::uint32_t transport, const std::string& address,
+                                   std::uint32_t port) {
+  Statement rows =
+      database.Prepare("SELECT identifier, address FROM trap_registrations WHERE transport = ? AND port = ?");
+  rows.Bind(transport).Bind(port);
+  while (rows.Step()) {
+    if (IsSameAddress(rows.Text(1), address)) {
+      throw Refused("there is one already: trap registration " + rows.Text(0));
+    }
   }
 }
 
@@ -126,6 +158,9 @@ void AppConfig::Change(const char* operation, const std::string& values,
         .Bind(values)
         .Bind(refusal ? std::string("refused: ") + refusal->what() : "stored")
         .Step();
+    database.Prepare("DELETE FROM audit WHERE number <= (SELECT max(number) FROM audit) - ?")
+        .Bind(MostAuditRows)
+        .Step();
   });
   if (refusal) throw Refused(*refusal);
 }
@@ -134,7 +169,7 @@ std::int64_t AppConfig::ReadInteger(const char* query) {
   std::int64_t value = 0;
   store_.Read([&](Database& database) {
     Statement statement = database.Prepare(query);
-    if (!statement.Step()) throw ServiceError("the settings are missing in the database");
+    if (!statement.Step()) throw Damaged("the settings are missing in the database");
     value = statement.Integer(0);
   });
   return value;
@@ -166,23 +201,62 @@ Result::Code AppConfig::getSNMPVersions(TarnAbstract::List<eSNMPVersion, 4>& ver
 
 Result::Code AppConfig::setSSLEnabled(bool enabled) {
   return Answer("setSSLEnabled", [&] {
-    const bool before = ReadInteger(SSLEnabledQuery) != 0;
-    StoreSSLEnabled(enabled, "");
+    store_.Read([](Database&) {});  // where there are no settings there is nothing to lock either
+    // From the first read to the last step, also over processes.
+    const FileLock turn(places_.database + ".ssl_lock", PatienceForTheMode);
     // Where the web service is not managed, the stored mode is all there is.
-    if (access(places_.applyWebMode.c_str(), F_OK) != 0) return;
+    const bool isManaged = access(places_.applyWebMode.c_str(), F_OK) == 0;
+    StoreSSLEnabled(enabled, isManaged);
+    if (!isManaged) return;
     try {
       RunScript(places_.applyWebMode);
     } catch (const ServiceError&) {
-      // What is stored is what is read as the mode in force.
-      StoreSSLEnabled(before, ", as before: the web service did not follow");
+      GoBackToTheModeOfBefore();
       throw;
     }
+    ForgetTheModeOfBefore();
   });
 }
 
-void AppConfig::StoreSSLEnabled(bool enabled, const std::string& why) {
-  Change("setSSLEnabled", ToText(enabled) + why, [&](Database& database) {
-    database.Prepare("UPDATE settings SET ssl_enabled = ?").Bind(std::int64_t{enabled}).Step();
+// The mode of before stays beside the new one until the web service has followed. One that is there already
+// is of a change that was interrupted: the last mode in which the web service is known to have been.
+void AppConfig::StoreSSLEnabled(bool enabled, bool keepsTheModeOfBefore) {
+  Change("setSSLEnabled", ToText(enabled), [&](Database& database) {
+    database
+        .Prepare(
+            "UPDATE settings SET ssl_enabled = ?, ssl_enabled_before = "
+            "iif(?, ifnull(ssl_enabled_before, ssl_enabled), NULL)")
+        .Bind(std::int64_t{enabled})
+        .Bind(std::int64_t{keepsTheModeOfBefore})
+        .Step();
+    RequireChangedSettings(database);
+  });
+}
+
+// What is stored is what is read as the mode in force.
+void AppConfig::GoBackToTheModeOfBefore() {
+  std::string values;
+  Change("setSSLEnabled", values, [&](Database& database) {
+    database.Run(
+        "UPDATE settings SET ssl_enabled = ifnull(ssl_enabled_before, ssl_enabled), ssl_enabled_before = "
+        "NULL");
+    RequireChangedSettings(database);
+    Statement mode = database.Prepare(SSLEnabledQuery);
+    mode.Step();
+    values = ToText(mode.Integer(0) != 0) + ", as before: the web service did not follow";
+  });
+  try {
+    // A script that was killed may have gone half the way.
+    RunScript(places_.applyWebMode);
+  } catch (const ServiceError&) {
+    // What the change fails with is why the first one failed; the next start brings both into line.
+  }
+}
+
+// The change is done. A mode that stays matters only to a start that cannot bring the new one into force.
+void AppConfig::ForgetTheModeOfBefore() {
+  Answer("setSSLEnabled", [&] {
+    store_.Change([](Database& database) { database.Run("UPDATE settings SET ssl_enabled_before = NULL"); });
   });
 }
 
@@ -201,6 +275,7 @@ Result::Code AppConfig::createTrapRegistration(TrapRegistration& registration) {
     Change("createTrapRegistration", values, [&](Database& database) {
       RequireTrapReceiver(transport, address, port);
       RequireRoomForATrapRegistration(database);
+      RequireNoSuchTrapRegistration(database, transport, address, port);
       database
           .Prepare(
               "INSERT INTO trap_registrations (identifier, transport, address, port) VALUES (?, ?, ?, ?)")
@@ -249,6 +324,7 @@ Result::Code AppConfig::setReadCommunity(TarnAbstract::String& community) {
     Change("setReadCommunity", Excerpt(text), [&](Database& database) {
       RequireCommunity(text);
       database.Prepare("UPDATE settings SET read_community = ?").Bind(text).Step();
+      RequireChangedSettings(database);
     });
   });
 }
@@ -257,7 +333,7 @@ Result::Code AppConfig::getReadCommunity(TarnAbstract::String& community) {
   return Answer("getReadCommunity", [&] {
     store_.Read([&](Database& database) {
       Statement statement = database.Prepare("SELECT read_community FROM settings");
-      if (!statement.Step()) throw ServiceError("the settings are missing in the database");
+      if (!statement.Step()) throw Damaged("the settings are missing in the database");
       StringAccess::Assign(community, statement.Text(0).c_str());
     });
   });
@@ -267,6 +343,7 @@ Result::Code AppConfig::setAuthTrapsEnabled(bool enabled) {
   return Answer("setAuthTrapsEnabled", [&] {
     Change("setAuthTrapsEnabled", ToText(enabled), [&](Database& database) {
       database.Prepare("UPDATE settings SET auth_traps_enabled = ?").Bind(std::int64_t{enabled}).Step();
+      RequireChangedSettings(database);
     });
   });
 }

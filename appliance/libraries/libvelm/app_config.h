@@ -36,7 +36,9 @@ class AppConfig : public TarnAbstract::ReferenceCounted<IMgmtAppConfig> {
   // work checks before it changes anything, so that a refusal leaves nothing to undo. values is read
   // when work is done.
   void Change(const char* operation, const std::string& values, const std::function<void(Database&)>& work);
-  void StoreSSLEnabled(bool enabled, const std::string& why);
+  void StoreSSLEnabled(bool enabled, bool keepsTheModeOfBefore);
+  void GoBackToTheModeOfBefore();
+  void ForgetTheModeOfBefore();
   std::int64_t ReadInteger(const char* query);
 
   Store& store_;

@@ -1,13 +1,13 @@
-// Brings the management database into being, or up to date, before anything reads it.
+// Brings the management database into being, up to date and into order, before anything reads it.
 #include <cstdio>
 #include <exception>
 
+#include "libvelm/copies.h"
 #include "libvelm/places.h"
-#include "libvelm/store.h"
 
 int main() {
   try {
-    Velm::Store(Velm::Places().database).Read([](Velm::Database&) {});
+    Velm::BringIntoOrder(Velm::Places().database);
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

@@ -58,10 +58,17 @@ CREATE VIEW trap_sinks AS SELECT
 FROM trap_registrations ORDER BY number;
 )sql";
 
+// The mode of before, while a change of the mode is brought to the web service: what is left of it when the
+// change was interrupted tells the start what to go back to.
+constexpr const char* InterruptedModeChange = R"sql(
+ALTER TABLE settings ADD COLUMN ssl_enabled_before INTEGER CHECK (ssl_enabled_before IN (0, 1));
+)sql";
+
 }  // namespace
 
 const std::vector<const char*>& SchemaSteps() {
-  static const auto* const steps = new std::vector<const char*>{WebServiceAndAudit, SNMPAgent};
+  static const auto* const steps =
+      new std::vector<const char*>{WebServiceAndAudit, SNMPAgent, InterruptedModeChange};
   return *steps;
 }
 

@@ -9,6 +9,7 @@
 #include <csignal>
 #include <cstring>
 
+#include "libtarn/child_statuses.h"
 #include "libvelm/service_error.h"
 
 namespace Velm {
@@ -52,6 +53,7 @@ void RunScript(const std::string& path) {
   const SpawnSettings settings;
   std::string name = path;
   char* const arguments[] = {name.data(), nullptr};
+  const TarnAbstract::ChildStatuses statuses;
   pid_t child = 0;
   const int error =
       posix_spawn(&child, path.c_str(), settings.Actions(), settings.Attributes(), arguments, environ);

@@ -27,6 +27,12 @@ class Refused : public ServiceError {
   using ServiceError::ServiceError;
 };
 
+// What is stored is not what these services have stored: overwritten, cut off, or gone.
+class Damaged : public ServiceError {
+ public:
+  using ServiceError::ServiceError;
+};
+
 // Runs work for the named operation and turns its end into a result code. No exception passes.
 TarnAbstract::Result::Code Answer(const char* operation, const std::function<void()>& work) noexcept;
 

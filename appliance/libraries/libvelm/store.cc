@@ -11,6 +11,7 @@
 #include <thread>
 #include <utility>
 
+#include "libvelm/copies.h"
 #include "libvelm/schema.h"
 #include "libvelm/service_error.h"
 
@@ -18,7 +19,15 @@ namespace Velm {
 namespace {
 
 [[noreturn]] void Fail(const std::string& path, sqlite3* connection) {
-  throw ServiceError("database " + path + ": " + sqlite3_errmsg(connection));
+  const std::string sentence = "database " + path + ": " + sqlite3_errmsg(connection);
+  switch (sqlite3_errcode(connection)) {
+    case SQLITE_ERROR:  // a table is not there: all commands are right
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      throw Damaged(sentence);
+    default:
+      throw ServiceError(sentence);
+  }
 }
 
 [[noreturn]] void Fail(sqlite3* connection) {
@@ -221,6 +230,7 @@ void Store::Change(const std::function<void(Database&)>& work) {
   Transaction transaction(database);
   work(database);
   transaction.Commit();
+  TryToKeepCopy(database, path_);
 }
 
 }  // namespace Velm

@@ -27,6 +27,22 @@ function audit_entries()
     return $entries;
 }
 
+// What the start of the appliance says about settings that it found damaged; empty when there is nothing to say, or
+// when the settings have been changed since.
+function restored_settings()
+{
+    $entries = audit_entries();
+    foreach ($entries ? $entries : array() as $entry) {
+        if ($entry['operation'] == 'restoreSettings') {
+            return $entry['values'];
+        }
+        if ($entry['result'] == 'stored') {
+            return '';
+        }
+    }
+    return '';
+}
+
 // What came of a change, as markup.
 function audit_result($result)
 {

@@ -6,6 +6,8 @@ if ($settings->staticEnabled) $modes[] = 'static';
 $has_address = $settings->ip != '0.0.0.0' && $settings->ip != '';
 $duplex = array(-1 => 'unknown duplex', 0 => 'half duplex', 1 => 'full duplex');
 ?>
+<?php if ($restored != '') echo message('caution', '<p><strong>' . h($restored) . '</strong></p><p>Check web security,'
+    . ' the SNMP agent and the trap receivers. This stands here until one of these is changed.</p>'); ?>
 <div class="tiles">
 
 <section class="card" aria-labelledby="tile-ipv4">

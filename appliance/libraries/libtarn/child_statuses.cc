@@ -1,8 +1,9 @@
-#include "libdovan_util/child_statuses.h"
+#include "libtarn/child_statuses.h"
 
 #include <csignal>
 #include <mutex>
 
+namespace TarnAbstract {
 namespace {
 
 // The disposition of a signal belongs to the whole process: the first command changes it, the last one
@@ -33,3 +34,5 @@ ChildStatuses::~ChildStatuses() {
   const std::lock_guard<std::mutex> lock(guard);
   if (--commands == 0 && changed) sigaction(SIGCHLD, &hosts, nullptr);
 }
+
+}  // namespace TarnAbstract
