@@ -20,6 +20,7 @@
 #   power_off, start_again  what an appliance loses without power, and its start
 #   stored                  the settings as they are stored, and all that is beside them
 #   leftovers               what must not be beside the settings behind a start
+#   may_try_again CHANGE    whether the change may have said that something failed, and then done it
 #   may_end_between CHANGE  whether the change may fail with the setting already stored; the start ends it then
 
 FOLDER=$FAULTS_FOLDER
@@ -189,11 +190,11 @@ judge_answer() {
   case $ended in
     0)
       # Programs may have said what came of it for them.
-      ! grep -q '^[A-Za-z0-9]*\.sh: ' <<<"$said" || fail 'ended with 0, but said:' "$said"
+      may_try_again "$change" || ! grep -q '^[A-Za-z0-9]*\.sh: ' <<<"$said" || fail 'ended with 0, but said:' "$said"
       outcomes=("$new")
       ;;
     1)
-      expect_match '^[A-Za-z0-9]+(\.sh|\.php)?: [^'$'\n'']+$' "${said##*$'\n'}"
+      expect_match '^[A-Za-z0-9_/]+(\.sh|\.php)?: [^'$'\n'']+$' "${said##*$'\n'}"
       may_end_between "$change" || outcomes=("$old")
       ;;
     126)
