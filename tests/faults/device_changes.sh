@@ -12,6 +12,7 @@
 #   plain   static IPv4 settings, IPv6 off
 #   ipv6    the same with IPv6 on
 #   dhcp    IPv4 settings by DHCP, IPv6 off
+#   kept    as plain, with static IPv6 settings and DHCPv6 on for when IPv6 is on
 #
 # Two changes of one base that have the setting, or what is made of it, in common, are made at once, too; a change together
 # with itself is that to OLD and that to NEW:
@@ -36,6 +37,8 @@ change port plain 'port=off?10?half' 'port=on?100?full' "$IPV4 -P off?10?half" "
 change dns plain dns=10.20.0.53 dns=10.20.0.54~2001:db8:20::54 "$IPV6 -D 10.20.0.53" "$IPV6 -D 10.20.0.54~2001:db8:20::54"
 change dns_removed plain dns=10.20.0.53 dns=disabled "$IPV6 -D 10.20.0.53" "$IPV6 -D ~"
 change ipv6_on plain flag=off flag=on "$FLAG off" "$FLAG on"
+change ipv6_on_with_all kept flag=off flag=on "$FLAG off" "$FLAG on"
+change ipv6_off_with_all kept flag=on flag=off "$FLAG on" "$FLAG off"
 change ipv6_off ipv6 flag=on flag=off "$FLAG on" "$FLAG off"
 change stateless_off ipv6 stateless=1 stateless=0 "$IPV6 -L 1" "$IPV6 -L 0"
 change stateless_on ipv6 stateless=0 stateless=1 "$IPV6 -L 0" "$IPV6 -L 1"
@@ -164,6 +167,7 @@ establish() {
   [[ $1 != ipv6 ]] || touch "$IPV6_FLAG"
   echo "$(if [[ $1 == dhcp ]]; then echo dhcp; else echo static; fi) $A" >"$SETTINGS/ipv4"
   echo drive-1 >"$SETTINGS/hostname"
+  [[ $1 != kept ]] || { echo "$A6" >"$SETTINGS/ipv6" && echo on >"$SETTINGS/dhcpv6"; }
   expect_success apply_settings
 }
 
