@@ -1,7 +1,7 @@
 <?php
 // Calls a function of the module as a page does: call_function.php FUNCTION [JSON...], the arguments behind the session.
-// Says each warning on a line of standard error and ends with 1 when there was one. "receiver:ADDRESS" stands for the
-// identifier of that trap receiver. "read" as the function: what the readers give, a line each.
+// Says each warning on a line of standard error and ends with 1 when there was one. Nothing is called with an empty
+// text. "read" as the function: what the readers give, a line each.
 
 $session = new stdClass;
 $session->user = 'tester';
@@ -12,18 +12,10 @@ set_error_handler(function ($level, $message) use (&$warnings) {
     return true;
 });
 
-function identifier_of($session, $address)
-{
-    foreach (get_snmp_trap_regs($session) as $registration) {
-        if ($registration->ip_address == $address) return $registration->id;
-    }
-    return 'none';
-}
-
 function read_all($session)
 {
     $receivers = array();
-    foreach (get_snmp_trap_regs($session) as $registration) $receivers[] = $registration->ip_address;
+    foreach (get_snmp_trap_regs($session) as $registration) $receivers[] = $registration->ip;
     $snmp = get_snmp_settings($session);
     echo 'ssl=', json_encode(get_ssl_settings($session)->isEnabled), "\n";
     echo 'community=', $snmp->community_name, "\n";
@@ -36,9 +28,7 @@ if ($argv[1] == 'read') {
     read_all($session);
 } else {
     $arguments = array($session);
-    foreach (array_slice($argv, 2) as $text) {
-        $arguments[] = substr($text, 0, 9) == 'receiver:' ? identifier_of($session, substr($text, 9)) : json_decode($text);
-    }
-    call_user_func_array($argv[1], $arguments);
+    foreach (array_slice($argv, 2) as $text) $arguments[] = json_decode($text);
+    if (!in_array('', $arguments, true)) call_user_func_array($argv[1], $arguments);
 }
 exit($warnings ? 1 : 0);

@@ -17,9 +17,10 @@
 #   establish BASE          the appliance with the settings of BASE
 #   readings                what the module's readers give, READING=VALUE, a line each
 #   agrees READINGS         whether what is in force is what is read; says what is not
+#   finish_words            puts into the array words what is known of a command only now
 #   power_off, start_again  what an appliance loses without power, and its start
 #   stored                  the settings as they are stored, and all that is beside them
-#   leftovers               what must not be beside the settings behind a start
+#   wrong_after_start       what is beside the settings, or else is there, that a start must not leave
 #   may_try_again CHANGE    whether the change may have said that something failed, and then done it
 #   may_end_between CHANGE  whether the change may fail with the setting already stored; the start ends it then
 
@@ -38,6 +39,7 @@ together() { pairs+=("$1 $2"); }
 words_of() {
   read -r -a words <<<"$1"
   words=("${words[@]//\~/ }")
+  finish_words
 }
 
 run() {
@@ -220,7 +222,7 @@ expect_outcome() {
 judge_start() {
   expect_outcome
   await_agreement "$outcome"
-  [[ -z $(leftovers) ]] || fail "beside the settings: $(leftovers)"
+  expect_equal '' "$(wrong_after_start)"
 }
 
 # try_pair ROUNDS CHANGE CHANGE

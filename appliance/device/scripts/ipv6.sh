@@ -73,12 +73,18 @@ apply_static_ipv6() {
   fi
 }
 
+# remove_ipv6_address ADDRESS/PREFIX: it may have gone by itself.
+remove_ipv6_address() {
+  ip -6 address delete "$1" dev "$PRIMARY" 2>/dev/null && return
+  address_left=$(ip -6 -oneline address show dev "$PRIMARY" to "${1%/*}") && [ -z "$address_left" ]
+}
+
 # Addresses that others have given, a lease without an end among them, look like a static one to the kernel: so what
 # was assigned here is written down before it is assigned. Of the routes only the static gateway's is "static".
 assign_static_ipv6() {
   ip -6 route flush dev "$PRIMARY" proto static || return
   read_line assigned "$ASSIGNED_STATIC"
-  [ -z "$assigned" ] || ip -6 address delete "${assigned%\?*}" dev "$PRIMARY" 2>/dev/null
+  [ -z "$assigned" ] || remove_ipv6_address "${assigned%\?*}" || return
   read_setting static ipv6
   replace_file "$ASSIGNED_STATIC" "$static" || return
   [ -n "$static" ] || return 0
