@@ -14,6 +14,16 @@
 # shellcheck source=SCRIPTDIR/ipv6.sh
 . "$BIN/ipv6.sh"
 
+# persist COMMAND...: tries again when it fails. For news that come once: nobody else will.
+persist() {
+  attempt=1
+  until "$@"; do
+    [ "$attempt" -lt 3 ] || return 1
+    attempt=$((attempt + 1))
+    sleep 1
+  done
+}
+
 # check_settings KIND TEXT: ends the script when the text is wrong, with the status and the sentence of the program that
 # knows the rules of addresses.
 check_settings() {

@@ -15,16 +15,16 @@ take_lease() {
   lease="${ip:?}?${subnet:?}?${routers%% *}"
   read_line lease_of_before "$DHCPV4_LEASE"
   if [ "$lease" != "$lease_of_before" ]; then
-    clear_ipv4 && assign_ipv4 "$lease" && replace_file "$DHCPV4_LEASE" "$lease" || exit 1
+    clear_ipv4 && assign_ipv4 "$lease" && replace_file "$DHCPV4_LEASE" "$lease" || return
   fi
   take_name_servers "$DHCPV4_SERVERS" "${dns-}"
 }
 
+drop_lease() {
+  rm -f "$DHCPV4_LEASE" && clear_ipv4 && drop_name_servers "$DHCPV4_SERVERS"
+}
+
 case ${1-} in
-bound | renew) take_lease ;;
-deconfig)
-  rm -f "$DHCPV4_LEASE"
-  clear_ipv4
-  drop_name_servers "$DHCPV4_SERVERS"
-  ;;
+bound | renew) persist take_lease ;;
+deconfig) persist drop_lease ;;
 esac

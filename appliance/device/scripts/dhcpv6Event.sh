@@ -12,7 +12,7 @@
 
 case ${reason-} in
 BOUND6 | REBOOT6 | RENEW6 | REBIND6)
-  take_name_servers "$DHCPV6_SERVERS" "${new_dhcp6_name_servers-}"
+  persist take_name_servers "$DHCPV6_SERVERS" "${new_dhcp6_name_servers-}"
   ;;
-EXPIRE6 | RELEASE6 | STOP6) drop_name_servers "$DHCPV6_SERVERS" ;;
+EXPIRE6 | RELEASE6 | STOP6) persist drop_name_servers "$DHCPV6_SERVERS" ;;
 esac

@@ -5,6 +5,8 @@
 IPV6_DHCP=/etc/ipv6dhcp # is there exactly while DHCPv6 is on, for those who do not ask the scripts
 ASSIGNED_STATIC=$RUN/ipv6.static # the static settings that the interface has from here
 
+STARTED_IPV6=$RUN/ipv6.started # is there when the last start of IPv6 came to its end
+
 ipv6_enabled() {
   [ -r "$IPV6_ENABLED" ]
 }
@@ -28,7 +30,7 @@ restart_ipv6() {
   ip link set "$PRIMARY" up || return
   stop_dhcpv6
   ipv6_parameter disable_ipv6 1 || return
-  rm -f "$ASSIGNED_STATIC"
+  rm -f "$ASSIGNED_STATIC" "$STARTED_IPV6" || return
   ipv6_enabled || return 0
   read_setting stateless stateless
   # Addresses from DHCPv6 come without routes: those are the routers' to advertise.
@@ -37,7 +39,7 @@ restart_ipv6() {
   ipv6_parameter addr_gen_mode 0 && ipv6_parameter accept_ra "$accept" && ipv6_parameter autoconf "$stateless" &&
     ipv6_parameter disable_ipv6 0 && assign_static_ipv6 && {
     [ "$1" = off ] || start_dhcpv6
-  }
+  } && replace_file "$STARTED_IPV6" started
 }
 
 # mark_dhcpv6 on|off. By "true", because ":", one of the shell's special built-ins, would end the script where the file cannot be
@@ -52,10 +54,10 @@ mark_dhcpv6() {
   return 1
 }
 
-# The flag file may have changed a moment ago, with the kernel not yet in step.
+# The flag file may have changed a moment ago, with the kernel not yet in step; or a start of IPv6 broke off.
 ipv6_in_step() {
   read_line disabled "/proc/sys/net/ipv6/conf/$PRIMARY/disable_ipv6"
-  if ipv6_enabled; then [ "$disabled" = 0 ]; else [ "$disabled" = 1 ]; fi
+  if ipv6_enabled; then [ "$disabled" = 0 ] && [ -e "$STARTED_IPV6" ]; else [ "$disabled" = 1 ]; fi
 }
 
 sync_ipv6() {
@@ -71,12 +73,18 @@ apply_static_ipv6() {
   fi
 }
 
+# remove_ipv6_address ADDRESS/PREFIX: it may have gone by itself.
+remove_ipv6_address() {
+  ip -6 address delete "$1" dev "$PRIMARY" 2>/dev/null && return
+  address_left=$(ip -6 -oneline address show dev "$PRIMARY" to "${1%/*}") && [ -z "$address_left" ]
+}
+
 # Addresses that others have given, a lease without an end among them, look like a static one to the kernel: so what
 # was assigned here is written down before it is assigned. Of the routes only the static gateway's is "static".
 assign_static_ipv6() {
   ip -6 route flush dev "$PRIMARY" proto static || return
   read_line assigned "$ASSIGNED_STATIC"
-  [ -z "$assigned" ] || ip -6 address delete "${assigned%\?*}" dev "$PRIMARY" 2>/dev/null
+  [ -z "$assigned" ] || remove_ipv6_address "${assigned%\?*}" || return
   read_setting static ipv6
   replace_file "$ASSIGNED_STATIC" "$static" || return
   [ -n "$static" ] || return 0

@@ -31,9 +31,8 @@ take_name_servers() {
   replace_file "$1" "$2" && apply_name_servers
 }
 
-# drop_name_servers FILE: forgets the name servers of a lease.
+# drop_name_servers FILE: forgets the name servers of a lease. The file goes last: while it is there, this is to be done.
 drop_name_servers() {
   [ -e "$1" ] || return 0
-  rm -f "$1"
-  apply_name_servers
+  replace_file "$1" '' && apply_name_servers && rm -f "$1"
 }

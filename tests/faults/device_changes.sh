@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2034 # for the worker
 # The changes that faults happen to, and what holds of a device whatever has happened to it. Sourced by the worker, behind
-# on_a_lan.sh.
+# on_a_lan.sh and cases.sh.
 #
 # A change brings one setting from OLD to NEW:
 #
@@ -12,6 +12,7 @@
 #   plain   static IPv4 settings, IPv6 off
 #   ipv6    the same with IPv6 on
 #   dhcp    IPv4 settings by DHCP, IPv6 off
+#   kept    as plain, with static IPv6 settings and DHCPv6 on for when IPv6 is on
 #
 # Two changes of one base that have the setting, or what is made of it, in common, are made at once, too; a change together
 # with itself is that to OLD and that to NEW:
@@ -28,13 +29,6 @@ B='172.16.5.6?255.255.252.0?172.16.4.1'
 A6='2001:db8:20::77/64?2001:db8:20::1'
 B6='2001:db8:20::78/64?fe80::1'
 
-declare -a changes=()
-declare -A base_of=() old_of=() new_of=() to_old=() to_new=()
-change() {
-  changes+=("$1")
-  base_of[$1]=$2 old_of[$1]=$3 new_of[$1]=$4 to_old[$1]=$5 to_new[$1]=$6
-}
-
 change host_name plain host=drive-1 host=drive-2 "$IPV4 -n drive-1" "$IPV4 -n drive-2"
 change ipv4_static plain "ipv4=$A" "ipv4=$B lease=off" "$IPV4 -c -s $A" "$IPV4 -c -s $B"
 change ipv4_to_dhcp plain lease=off lease=dhcp "$IPV4 -c -s $A" "$IPV4 -c -d on"
@@ -43,6 +37,8 @@ change port plain 'port=off?10?half' 'port=on?100?full' "$IPV4 -P off?10?half" "
 change dns plain dns=10.20.0.53 dns=10.20.0.54~2001:db8:20::54 "$IPV6 -D 10.20.0.53" "$IPV6 -D 10.20.0.54~2001:db8:20::54"
 change dns_removed plain dns=10.20.0.53 dns=disabled "$IPV6 -D 10.20.0.53" "$IPV6 -D ~"
 change ipv6_on plain flag=off flag=on "$FLAG off" "$FLAG on"
+change ipv6_on_with_all kept flag=off flag=on "$FLAG off" "$FLAG on"
+change ipv6_off_with_all kept flag=on flag=off "$FLAG on" "$FLAG off"
 change ipv6_off ipv6 flag=on flag=off "$FLAG on" "$FLAG off"
 change stateless_off ipv6 stateless=1 stateless=0 "$IPV6 -L 1" "$IPV6 -L 0"
 change stateless_on ipv6 stateless=0 stateless=1 "$IPV6 -L 0" "$IPV6 -L 1"
@@ -54,9 +50,6 @@ change ipv6_static_set ipv6 ipv6= "ipv6=$A6" "$IPV6 -r" "$IPV6 -c -s $A6"
 change ipv6_static_removed ipv6 "ipv6=$A6" ipv6= "$IPV6 -c -s $A6" "$IPV6 -r"
 change start plain host=drive-1 host=drive-1 "$IPV4 -n drive-1" "$START"
 change start_with_ipv6 ipv6 "ipv6=$A6" "ipv6=$A6" "$IPV6 -c -s $A6" "$START"
-
-declare -a pairs=()
-together() { pairs+=("$1 $2"); }
 
 for same in host_name ipv4_static ipv4_to_dhcp port dns dns_removed stateless_off dhcpv6_on dhcpv6_on_without_ipv6 \
   ipv6_static ipv6_static_set; do
@@ -80,18 +73,6 @@ together ipv6_off ipv6_static_set
 # the clients of both kinds of DHCP, and /etc/resolv.conf
 together ipv4_to_dhcp dhcpv6_on_without_ipv6
 
-# words_of COMMAND: its words, into the array words; "~" stands for a blank in one.
-words_of() {
-  read -r -a words <<<"$1"
-  words=("${words[@]//\~/ }")
-}
-
-run() {
-  local -a words
-  words_of "$1"
-  "${words[@]}"
-}
-
 # What the module reads of a device, a line each. A lease can come later.
 readings() {
   local lease dns
@@ -102,17 +83,6 @@ readings() {
     "ipv6=$(ipv6 -g static)" "dns=${dns// /\~}" "dhcpv6=$(there_is /etc/ipv6dhcp)" "flag=$(there_is "$IPV6_FLAG")"
 }
 there_is() { if [[ -e $1 ]]; then echo on; else echo off; fi; }
-
-# with_readings READINGS 'READING=VALUE ...': the same with other values.
-with_readings() {
-  local readings=$1 reading line
-  local -a others
-  read -r -a others <<<"$2"
-  while read -r line; do
-    for reading in "${others[@]}"; do [[ ${line%%=*} != "${reading%%=*}" ]] || line=$reading; done
-    printf '%s\n' "$line"
-  done <<<"$readings"
-}
 
 # agrees READINGS: what is in force is what is read, everywhere. Says what is not.
 agrees() {
@@ -126,9 +96,6 @@ agrees_host_name() {
   is_so "$(hostname)" "${read[host]}" 'the host name' &&
     is_so "$(cat "$SETTINGS/hostname" 2>/dev/null || echo "${read[host]}")" "${read[host]}" 'the stored host name'
 }
-
-# is_so ACTUAL EXPECTED WHAT
-is_so() { [[ $1 == "$2" ]] || { echo "$3 is \"$1\", but \"$2\" is what is read" && return 1; }; }
 
 agrees_ipv4() {
   local address prefix gateway
@@ -200,5 +167,14 @@ establish() {
   [[ $1 != ipv6 ]] || touch "$IPV6_FLAG"
   echo "$(if [[ $1 == dhcp ]]; then echo dhcp; else echo static; fi) $A" >"$SETTINGS/ipv4"
   echo drive-1 >"$SETTINGS/hostname"
+  [[ $1 != kept ]] || { echo "$A6" >"$SETTINGS/ipv6" && echo on >"$SETTINGS/dhcpv6"; }
   expect_success apply_settings
 }
+
+finish_words() { :; }
+start_again() { apply_settings; }
+stored() { grep -r '' "$SETTINGS" 2>/dev/null; }
+wrong_after_start() { find "$SETTINGS" -name '*.before' -o -name '*.damaged'; }
+may_try_again() { [[ $1 == ipv6_o* ]]; }
+# The watcher can end, and a start can fail to do all of it.
+may_end_between() { [[ $1 == ipv6_o* || $1 == start* ]]; }

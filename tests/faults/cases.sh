@@ -1,27 +1,74 @@
-#!/bin/bash
-# Runs cases in an appliance of its own: worker FOLDER, which it shares with the other workers and with `run`:
+# shellcheck shell=bash disable=SC2034 # for the workers
+# Runs cases in an appliance: sourced by a worker, which has made one and calls
 #
-#   changes       the names of the changes to plan, one a line; each worker takes the next one
-#   cases.NAME    from the worker: the cases of a change, NAME<tab>FAULT<tab>OCCURRENCE<tab>CALL
-#   planned.NAME.results
-#                 from the worker: that it is through with that, and what was wrong
-#   queue         from `run`, when all is planned: the cases to run, and PAIR<tab>ROUNDS<tab>NAME<tab>NAME
-#   worker.*.results
-#                 what became of its cases
-source "${BASH_SOURCE[0]%/*}/../scripts/on_a_lan.sh"
-# shellcheck source=changes.sh
-source "$CHECKOUT/tests/faults/changes.sh"
+#   work WORLD      with the changes of the table of that name
+#
+# In the folder $FAULTS_FOLDER, which it shares with the other workers and with `run`, it finds and leaves:
+#
+#   WORLD.changes           the names of the changes to plan, one a line; each worker takes the next one
+#   WORLD.NAME.cases        from the worker: the cases of a change, NAME<tab>FAULT<tab>OCCURRENCE<tab>CALL
+#   WORLD.NAME.planned.results
+#                           from the worker: that it is through with that, and what was wrong
+#   WORLD.queue             from `run`, when all is planned: the cases to run, and PAIR<tab>ROUNDS<tab>NAME<tab>NAME
+#   worker.*.results        what became of its cases
+#
+# Besides change and together, a table (device_changes.sh, services_changes.sh) has these functions:
+#
+#   establish BASE          the appliance with the settings of BASE
+#   readings                what the module's readers give, READING=VALUE, a line each
+#   agrees READINGS         whether what is in force is what is read; says what is not
+#   finish_words            puts into the array words what is known of a command only now
+#   power_off, start_again  what an appliance loses without power, and its start
+#   stored                  the settings as they are stored, and all that is beside them
+#   wrong_after_start       what is beside the settings, or else is there, that a start must not leave
+#   may_try_again CHANGE    whether the change may have said that something failed, and then done it
+#   may_end_between CHANGE  whether the change may fail with the setting already stored; the start ends it then
 
 FOLDER=$FAULTS_FOLDER
 INJECTOR=$BUILD/tests/fault_injector
 
+declare -a changes=() pairs=()
+declare -A base_of=() old_of=() new_of=() to_old=() to_new=()
+change() {
+  changes+=("$1")
+  base_of[$1]=$2 old_of[$1]=$3 new_of[$1]=$4 to_old[$1]=$5 to_new[$1]=$6
+}
+together() { pairs+=("$1 $2"); }
+
+# words_of COMMAND: its words, into the array words; "~" stands for a blank in one.
+words_of() {
+  read -r -a words <<<"$1"
+  words=("${words[@]//\~/ }")
+  finish_words
+}
+
+run() {
+  local -a words
+  words_of "$1"
+  "${words[@]}"
+}
+
+# with_readings READINGS 'READING=VALUE ...': the same with other values.
+with_readings() {
+  local readings=$1 reading line
+  local -a others
+  read -r -a others <<<"$2"
+  while read -r line; do
+    for reading in "${others[@]}"; do [[ ${line%%=*} != "${reading%%=*}" ]] || line=$reading; done
+    printf '%s\n' "$line"
+  done <<<"$readings"
+}
+
+# is_so ACTUAL EXPECTED WHAT
+is_so() { [[ $1 == "$2" ]] || { echo "$3 is \"$1\", but \"$2\" is what is read" && return 1; }; }
+
 # take LIST: the next line of the list, into $taken; fails when there is none left.
 take() {
   local number=0 lock
-  exec {lock}>>"$FOLDER/lock"
+  exec {lock}>>"$FOLDER/$world.lock"
   flock "$lock"
-  [[ ! -s $FOLDER/next.$1 ]] || number=$(<"$FOLDER/next.$1")
-  echo $((number + 1)) >"$FOLDER/next.$1"
+  [[ ! -s $FOLDER/$world.$1.next ]] || number=$(<"$FOLDER/$world.$1.next")
+  echo $((number + 1)) >"$FOLDER/$world.$1.next"
   exec {lock}>&-
   ((number < ${#lines[@]})) && taken=${lines[number]}
 }
@@ -48,15 +95,14 @@ await_agreement() {
 }
 
 
-# The settings as they are stored, and nothing else beside them.
-stored() { grep -r '' "$SETTINGS" 2>/dev/null; }
-
 # faults_of CALL: those that can happen to it.
 faults_of() {
   local call=${1#* }
   case $call in
     # What is no file has no room to run out of, and what is said to nobody is nobody's loss.
-    'open /dev/'* | 'write /dev/'* | 'write pipe:'* | 'write /tmp/'* | *.news | fork*) echo kill ;;
+    'open /dev/'* | 'write /dev/'* | 'write pipe:'* | 'write socket:'* | 'write /tmp/'* | *.news | fork* | write*.log) echo kill ;;
+    # The DHCP clients look after themselves; what is theirs fails behind the answer.
+    *) [[ $1 != dhcpcd\ * && $1 != udhcpc\ * ]] || { echo kill && return; } ;;&
     send*) if [[ $1 == 'ip '* ]]; then echo kill EACCES; else echo kill; fi ;; # ethtool would wait for an answer
     'open /proc/'*) echo kill EROFS EACCES ;;
     'write /proc/'* | exec* | sethostname*) echo kill EACCES ;;
@@ -98,8 +144,8 @@ plan() {
   grep -xF -f /tmp/calls.1 /tmp/calls.2 >/tmp/calls.both
   while IFS=$'\t' read -r occurrence call; do
     for fault in $(faults_of "$call"); do printf '%s\t%s\t%s\t%s\n' "$1" "$fault" "$occurrence" "$call"; done
-  done </tmp/calls.both >"$FOLDER/cases.$1"
-  [[ -s $FOLDER/cases.$1 ]] || fail 'it makes no call that a fault could happen to'
+  done </tmp/calls.both >"$FOLDER/$world.$1.cases"
+  [[ -s $FOLDER/$world.$1.cases ]] || fail 'it makes no call that a fault could happen to'
 }
 
 # try_case CHANGE FAULT OCCURRENCE CALL
@@ -112,7 +158,7 @@ try_case() {
   run_with_fault
   judge_answer
   power_off
-  expect_success apply_settings
+  expect_success start_again
   judge_start
   expect_success run "${to_old[$change]}"
   expect_readings "$old"
@@ -146,15 +192,12 @@ judge_answer() {
   case $ended in
     0)
       # Programs may have said what came of it for them.
-      ! grep -q '^[A-Za-z0-9]*\.sh: ' <<<"$said" || fail 'ended with 0, but said:' "$said"
+      may_try_again "$change" || ! grep -q '^[A-Za-z0-9]*\.sh: ' <<<"$said" || fail 'ended with 0, but said:' "$said"
       outcomes=("$new")
       ;;
     1)
-      expect_match '^[A-Za-z0-9]+(\.sh)?: [^'$'\n'']+$' "${said##*$'\n'}"
-      case $change in
-        ipv6_o* | start*) ;; # the watcher can end, with the setting stored; a start goes on
-        *) outcomes=("$old") ;;
-      esac
+      expect_match '^[A-Za-z0-9_/]+(\.sh|\.php)?: [^'$'\n'']+$' "${said##*$'\n'}"
+      may_end_between "$change" || outcomes=("$old")
       ;;
     126)
       [[ $call == 'cmdwrap exec '* ]] || fail "ended with 126: $said"
@@ -179,7 +222,7 @@ expect_outcome() {
 judge_start() {
   expect_outcome
   await_agreement "$outcome"
-  [[ -z $(find "$SETTINGS" -name '*.before' -o -name '*.damaged') ]] || fail "beside the settings: $(ls "$SETTINGS")"
+  expect_equal '' "$(wrong_after_start)"
 }
 
 # try_pair ROUNDS CHANGE CHANGE
@@ -234,31 +277,30 @@ in_words() {
   echo "$1: $2 at the $order call \"$4\""
 }
 
-install -m 755 "$BUILD/cmdwrap" "$COMMAND_WRAPPER" || exit
-# An address is there at once: that nobody else on the small LAN has it is not what is tried here.
-echo 0 >/proc/sys/net/ipv6/conf/eth0/dad_transmits
-echo 0 >/proc/sys/net/ipv6/conf/eth0/router_solicitation_delay
-mapfile -t lines <"$FOLDER/changes"
-while take changes; do
-  try "$taken: is made, and makes calls" plan "$taken" >"$FOLDER/planning.$taken"
-  mv "$FOLDER/planning.$taken" "$FOLDER/planned.$taken.results"
-done
-until [[ -e $FOLDER/queue ]]; do sleep 0.1; done
-mapfile -t lines <"$FOLDER/queue"
-established=''
-while take queue; do
-  IFS=$'\t' read -r name fault occurrence call <<<"$taken"
-  started=${EPOCHREALTIME/./}
-  if [[ $name == PAIR ]]; then
-    established='' name=$occurrence+$call
-    judged "$occurrence and $call at once, $fault times" "--pairs $fault $occurrence $call" \
-      try_pair "$fault" "$occurrence" "$call"
-  else
-    if [[ $established != "$name" ]]; then (begin "$name" && stored >"/tmp/stored.$name") >/dev/null; fi
-    established=''
-    judged "$(in_words "$name" "$fault" "$occurrence" "$call")" "--case '$name $fault $occurrence $call'" \
-      try_case "$name" "$fault" "$occurrence" "$call" && established=$name
-  fi
-  echo "$(((${EPOCHREALTIME/./} - started) / 1000)) $name" >>"$FOLDER/times"
-done
-finish
+work() {
+  world=$1
+  mapfile -t lines <"$FOLDER/$world.changes"
+  while take changes; do
+    try "$taken: is made, and makes calls" plan "$taken" >"$FOLDER/$world.$taken.planning"
+    mv "$FOLDER/$world.$taken.planning" "$FOLDER/$world.$taken.planned.results"
+  done
+  until [[ -e $FOLDER/$world.queue ]]; do sleep 0.1; done
+  mapfile -t lines <"$FOLDER/$world.queue"
+  established=''
+  while take queue; do
+    IFS=$'\t' read -r name fault occurrence call <<<"$taken"
+    started=${EPOCHREALTIME/./}
+    if [[ $name == PAIR ]]; then
+      established='' name=$occurrence+$call
+      judged "$occurrence and $call at once, $fault times" "--pairs $fault $occurrence $call" \
+        try_pair "$fault" "$occurrence" "$call"
+    else
+      if [[ $established != "$name" ]]; then (begin "$name" && stored >"/tmp/stored.$name") >/dev/null; fi
+      established=''
+      judged "$(in_words "$name" "$fault" "$occurrence" "$call")" "--case '$name $fault $occurrence $call'" \
+        try_case "$name" "$fault" "$occurrence" "$call" && established=$name
+    fi
+    echo "$(((${EPOCHREALTIME/./} - started) / 1000)) $name" >>"$FOLDER/times"
+  done
+  finish
+}
