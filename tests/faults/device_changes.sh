@@ -175,6 +175,7 @@ finish_words() { :; }
 start_again() { apply_settings; }
 stored() { grep -r '' "$SETTINGS" 2>/dev/null; }
 wrong_after_start() { find "$SETTINGS" -name '*.before' -o -name '*.damaged'; }
+may_be_silent() { false; }
 may_try_again() { [[ $1 == ipv6_o* ]]; }
 # The watcher can end, and a start can fail to do all of it.
 may_end_between() { [[ $1 == ipv6_o* || $1 == start* ]]; }
