@@ -21,7 +21,7 @@
 #   power_off, start_again  what an appliance loses without power, and its start
 #   stored                  the settings as they are stored, and all that is beside them
 #   wrong_after_start       what is beside the settings, or else is there, that a start must not leave
-#   may_be_silent CHANGE    whether the change tells nobody that it failed
+#   may_be_silent CHANGE SAID   whether the change, which has said that, tells nobody else that it failed
 #   may_try_again CHANGE    whether the change may have said that something failed, and then done it
 #   may_end_between CHANGE  whether the change may fail with the setting already stored; the start ends it then
 
@@ -194,7 +194,7 @@ judge_answer() {
     0)
       # Programs may have said what came of it for them.
       may_try_again "$change" || ! grep -q '^[A-Za-z0-9]*\.sh: ' <<<"$said" || fail 'ended with 0, but said:' "$said"
-      may_be_silent "$change" || outcomes=("$new")
+      may_be_silent "$change" "$said" || outcomes=("$new")
       ;;
     1)
       expect_match '^[A-Za-z0-9_/]+(\.sh|\.php)?: [^'$'\n'']+$' "${said##*$'\n'}"
