@@ -23,7 +23,8 @@
 #   wrong_after_start       what is beside the settings, or else is there, that a start must not leave
 #   may_be_silent CHANGE SAID   whether the change, which has said that, tells nobody else that it failed
 #   may_try_again CHANGE    whether the change may have said that something failed, and then done it
-#   may_end_between CHANGE  whether the change may fail with the setting already stored; the start ends it then
+#   may_end_between CHANGE CALL   whether the change, that call failing, may fail with the setting already stored; the
+#                           start ends it then
 
 FOLDER=$FAULTS_FOLDER
 INJECTOR=$BUILD/tests/fault_injector
@@ -198,7 +199,7 @@ judge_answer() {
       ;;
     1)
       expect_match '^[A-Za-z0-9_/]+(\.sh|\.php)?: [^'$'\n'']+$' "${said##*$'\n'}"
-      may_end_between "$change" || outcomes=("$old")
+      may_end_between "$change" "$call" || outcomes=("$old")
       ;;
     126)
       [[ $call == 'cmdwrap exec '* ]] || fail "ended with 126: $said"

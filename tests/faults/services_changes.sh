@@ -101,5 +101,6 @@ wrong_after_start() {
 # A receiver that is not removed is no failure to a page; and a mode that cannot be read counts as "off" already.
 may_be_silent() { [[ $1 == receiver_deleted || $1 == ssl_off && $2 == *'getSSLEnabled: '* ]]; }
 may_try_again() { false; }
-# What is stored of several parts stays when the next one, or the agent, fails.
-may_end_between() { [[ $1 == snmp_* ]]; }
+# What is stored of several parts stays when the next one, or the agent, fails. And a transaction of which the disk does not
+# say that it is there is in doubt: it counts as failed, and is there or not, whole, when the database is opened again.
+may_end_between() { [[ $1 == snmp_* || $2 == 'php sync '*/management.db-wal ]]; }
