@@ -19,7 +19,8 @@ put_into_force() {
   if ! "$apply"; then
     taken_back=
     for name; do
-      [ -f "$SETTINGS/$name.before" ] && restore_before "$name" && taken_back="$taken_back $name"
+      read_stored before "$name" .before && judge "$name" "$before" && restore_before "$name" &&
+        taken_back="$taken_back $name"
     done
     [ -n "$taken_back" ] && complain "back to the settings of before the last change:$taken_back" && "$apply"
   fi || {
@@ -44,16 +45,28 @@ put_aside_damaged() {
       ;;
     esac
   fi
-  complain "the stored setting \"$1\" is damaged and counts as missing; it is kept as $SETTINGS/$1.damaged"
   rm -rf "$SETTINGS/$1.damaged"
-  mv -fT "$SETTINGS/$1" "$SETTINGS/$1.damaged" || status=1
+  if mv -fT "$SETTINGS/$1" "$SETTINGS/$1.damaged" && sync "$SETTINGS"; then
+    complain "the stored setting \"$1\" is damaged and counts as missing; it is kept as $SETTINGS/$1.damaged"
+  else
+    complain "the stored setting \"$1\" is damaged and cannot be put aside"
+    status=1
+  fi
 }
 
-# judge NAME TEXT: static settings as when they were set; the status is that of checkSettings.
+# judge NAME TEXT: as when it was set. 0: right, 2: wrong, anything else: that cannot be told.
 judge() {
   case "$1 $2" in
-  'ipv4 static '*) "$BIN/checkSettings" ipv4 "${2#static }" ;;
+  "ipv4 dhcp $ABSENT_IPV4") ;;
+  'ipv4 '*) "$BIN/checkSettings" ipv4 "${2#* }" ;;
   'ipv6 '?*) "$BIN/checkSettings" ipv6 "$2" ;;
+  'hostname '?*) "$BIN/checkSettings" host-name "$2" ;;
+  'dns '*)
+    "$BIN/checkSettings" dns "$2"
+    verdict=$?
+    [ "$verdict" != 44 ] || verdict=2
+    return "$verdict"
+    ;;
   esac
 }
 

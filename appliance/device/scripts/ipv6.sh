@@ -18,17 +18,20 @@ ipv6_parameter() {
 # The flag file follows from the setting wherever the setting is put into force.
 apply_ipv6() {
   read_setting dhcpv6 dhcpv6
-  mark_dhcpv6 "$dhcpv6"
-  marked=$?
-  in_place || restart_ipv6 "$dhcpv6" || return
-  return "$marked"
+  failed=0
+  mark_dhcpv6 "$dhcpv6" || failed=1
+  if ! in_place; then
+    # What cannot be forgotten of a lease is no reason to leave IPv6 as it is.
+    stop_dhcpv6 || failed=1
+    restart_ipv6 "$dhcpv6" || return
+  fi
+  return "$failed"
 }
 
 # restart_ipv6 on|off: starts IPv6 afresh, so that nothing learned under other settings stays and the routers are asked
-# again; with DHCPv6, or without.
+# again; with DHCPv6, or without. The client of before has ended.
 restart_ipv6() {
   ip link set "$PRIMARY" up || return
-  stop_dhcpv6
   ipv6_parameter disable_ipv6 1 || return
   rm -f "$ASSIGNED_STATIC" "$STARTED_IPV6" || return
   ipv6_enabled || return 0

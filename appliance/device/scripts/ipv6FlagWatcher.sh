@@ -9,17 +9,16 @@
 # shellcheck source=SCRIPTDIR/change.sh
 . "$BIN/change.sh"
 
-TRIES=10
-PAUSE=3 # seconds
+LONGEST_PAUSE=30 # seconds
 
-# Waits for its turn as long as that takes, and tries again when IPv6 could not be switched: nobody else will.
+# Waits for its turn as long as that takes, and tries until IPv6 is switched: nobody else will.
 follow_flag() {
-  tries=1
+  pause=1
+  sync "${IPV6_ENABLED%/*}" # those who touch and remove the flag do not
   # The lock goes with the subshell.
   until (take_settings_lock && sync_ipv6); do
-    [ "$tries" -lt "$TRIES" ] || fail "IPv6 could not be switched in $TRIES tries"
-    tries=$((tries + 1))
-    sleep "$PAUSE"
+    sleep "$pause"
+    pause=$((pause * 2 < LONGEST_PAUSE ? pause * 2 : LONGEST_PAUSE))
   done
 }
 

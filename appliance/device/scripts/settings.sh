@@ -17,10 +17,11 @@ read_setting() {
   esac
 }
 
-# read_stored VARIABLE NAME: fails when nothing is stored under that name, or what is stored there is damaged.
-# Every setting is stored with its line end, so a file that was cut off shows.
+# read_stored VARIABLE NAME [.before]: the setting, or the one of before an unfinished change. Fails when nothing is stored
+# there, or what is stored is damaged. Every setting is stored with its line end, so a file that was cut off shows.
 read_stored() {
-  [ -f "$SETTINGS/$2" ] && [ -r "$SETTINGS/$2" ] && IFS= read -r "$1" <"$SETTINGS/$2" &&
+  file=$SETTINGS/$2${3-}
+  [ -f "$file" ] && [ -r "$file" ] && IFS= read -r "$1" <"$file" &&
     eval "has_form_of \"\$2\" \"\$$1\""
 }
 

@@ -7,7 +7,8 @@
 #   3. puts it into force,
 #   4. and forgets the setting of before; or, when 3 was impossible, goes back to it.
 # A start puts what is stored into force. What was interrupted before 2 is the old setting then, what was
-# interrupted behind it the new one, unless that proves impossible: then it is the one of before again.
+# interrupted behind it the new one, unless that proves impossible: then it is the one of before again. A setting of before that
+# is still there at 1 stays: the one beside it was never seen in force.
 # shellcheck shell=sh disable=SC2154 # variables are set by the functions that read into them
 
 # Waits for the change under way, if there is one; the lock is held until the script ends. The DHCP clients are the
@@ -45,8 +46,10 @@ store() {
 change_setting() {
   mkdir -p "$SETTINGS" 2>/dev/null
   [ -w "$SETTINGS" ] || fail "the settings in $SETTINGS cannot be written"
-  read_setting setting_of_before "$1"
-  store "$1.before" "$setting_of_before" || exit 1
+  read_stored setting_of_before "$1" .before || {
+    read_setting setting_of_before "$1"
+    store "$1.before" "$setting_of_before" || exit 1
+  }
   store "$1" "$2" || go_back "$1" : 'could not be stored'
   "$3" || go_back "$1" "$3" 'could not be put into force'
   forget_before "$1"
