@@ -1,6 +1,7 @@
 <?php
 // Judges the cases of the table: judge.php TABLE PROGRAM LIST_OF_INTERNAL_NETWORKS
 error_reporting(E_ALL);
+define('INTERNAL_NETWORKS', $argv[3]);
 require dirname(dirname(dirname(__FILE__))) . '/http/pages/shared/addresses.php';
 
 const WHAT = array('settings' => 'the settings', 'address' => 'the address', 'netmask' => 'the netmask',

@@ -7,5 +7,6 @@ require('./reading.cjs');
 require('./changing.cjs');
 require('./addresses.cjs');
 require('./web_security.cjs');
+require('./trial.cjs');
 require('./looks.cjs');
 require('./safety.cjs'); // ends with what the web server has written down meanwhile

@@ -26,6 +26,8 @@ const changes = [
   ['traps.php', {change: 'add', transport: '1', ip: '10.20.0.66', port: '162'}],
   ['traps.php', {change: 'delete', id: '00000000-00000000-00000000'}],
   ['traps.php', {change: 'test'}],
+  ['applying.php', {change: 'keep', id: '0'}],
+  ['applying.php', {change: 'undo', id: '0'}],
 ];
 
 async function session(page, context) {

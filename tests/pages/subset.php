@@ -6,15 +6,15 @@
 
 // Functions that were there before 4.4 and are there still.
 $old = array('array_fill', 'array_merge', 'array_slice', 'basename', 'bin2hex', 'chmod', 'clearstatcache', 'count', 'crypt',
-    'dechex', 'define', 'defined', 'dirname', 'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof',
+    'dechex', 'define', 'defined', 'dirname', 'end', 'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof',
     'fflush', 'fgets', 'file', 'file_exists', 'filemtime', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftruncate', 'function_exists',
-    'fwrite', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string',
+    'fwrite', 'gmdate', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'in_array', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string',
     'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
     'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start', 'session_write_close',
-    'set_error_handler', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
-    'trim', 'ucfirst', 'umask', 'unlink', 'unserialize', 'urlencode');
+    'set_error_handler', 'sha1', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
+    'trim', 'ucfirst', 'umask', 'unlink', 'unserialize', 'urldecode', 'urlencode', 'usleep');
 // Only behind function_exists() of the same name, in the same function.
-$guarded = array('get_magic_quotes_gpc', 'password_hash');
+$guarded = array('fsync', 'get_magic_quotes_gpc', 'password_hash');
 
 // Words and signs of the language that came later.
 $late = array(T_ABSTRACT, T_ATTRIBUTE, T_CATCH, T_CLASS_C, T_CLONE, T_COALESCE, T_COALESCE_EQUAL, T_CONST, T_DIR, T_ELLIPSIS,

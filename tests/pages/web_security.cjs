@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const net = require('node:net');
 const {applianceFolder, ipv4Address, php, until, withScript} = require('./appliance.cjs');
-const {base, certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
+const {base, beside, certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
 
 // Who switches is signed out: a session of its own each.
 test('HTTPS is switched on: the page comes back encrypted, with a cookie of its own', {}, async (page, context) => {
@@ -15,11 +15,17 @@ test('HTTPS is switched on: the page comes back encrypted, with a cookie of its 
   await page.check('#https-1');
   await press(page, 'Save');
   assert.match(await page.innerText('main'), /The web server restarts with HTTPS on/);
-  await page.waitForURL(`https://${ipv4Address()}/security.php`, {timeout: 20000});
-  const {subject, subjectaltname} = await certificate();
+  const shown = await beside(page, 'SHA-256 fingerprint');
+  const {subject, subjectaltname, fingerprint256} = await served('https');
+  assert.equal(shown, fingerprint256, 'what is to be compared is shown before the page goes on');
+  assert.match(await beside(page, 'For'), new RegExp(`library.*${ipv4Address().replaceAll('.', '\\.')}`));
+  await page.click('text=Continue with HTTPS');
+  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 20000});
   assert.equal(subject.CN, 'library');
   assert.ok(subjectaltname.includes(`IP Address:${ipv4Address()}`), subjectaltname);
   await enterPassword(page);
+  assert.equal(await page.innerText('h1'), 'Kept');
+  await open(page, 'security.php');
   assert.ok(await page.isChecked('#https-1'));
   assert.match(await page.innerText('main'), /Encrypted: HTTPS is on/);
   const cookies = await context.cookies(`https://${ipv4Address()}/`);
@@ -60,8 +66,10 @@ test('HTTPS is switched off: the page comes back without it', {}, async (page) =
   await signIn(page, 'admin', 'security.php', 'https');
   await page.check('#https-0');
   await press(page, 'Save');
-  await page.waitForURL(`http://${ipv4Address()}/security.php`, {timeout: 20000});
+  await page.waitForURL(`http://${ipv4Address()}/applying.php`, {timeout: 20000});
   await enterPassword(page);
+  assert.equal(await page.innerText('h1'), 'Kept');
+  await open(page, 'security.php');
   assert.ok(await page.isChecked('#https-0'));
   await press(page, 'Save');
   assert.match(await messages(page), /HTTPS is off already; nothing was changed\./);
@@ -96,8 +104,14 @@ test('Without scripts the pages come back in the other mode as well', {javaScrip
   for (const [mode, scheme] of [['1', 'https'], ['0', 'http']]) {
     await page.check(`#https-${mode}`);
     await press(page, 'Save');
-    await page.waitForURL(`${scheme}://${ipv4Address()}/security.php`, {timeout: 20000});
+    if (scheme === 'https') {
+      await served('https');
+      await page.click('text=Continue with HTTPS');
+    }
+    await page.waitForURL(`${scheme}://${ipv4Address()}/applying.php`, {timeout: 20000});
     await enterPassword(page);
+    assert.equal(await page.innerText('h1'), 'Kept');
+    await open(page, 'security.php');
     assert.ok(await page.isChecked(`#https-${mode}`));
   }
 });

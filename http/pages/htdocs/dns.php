@@ -1,5 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 
 class DnsSettings
 {
@@ -10,12 +11,19 @@ class DnsSettings
 $session = signed_in();
 $settings = get_network_dns($session);
 $errors = array();
+$meanwhile = array();
+$seen = array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary);
 if (is_post()) {
     $settings = new DnsSettings();
     $settings->dnsPrimary = posted('dnsPrimary');
     $settings->dnsSecondary = posted('dnsSecondary');
     $errors = dns_errors($settings);
-    if (!$errors) {
+    $meanwhile = $errors ? array() : changed_meanwhile($seen, array('dnsPrimary' => 'Primary server',
+        'dnsSecondary' => 'Secondary server'));
+    if (!$errors && !$meanwhile) {
+        if (is_unchanged(array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary), $seen)) {
+            go_to('dns.php', UNCHANGED);
+        }
         begin_change();
         set_network_dns($session, $settings);
         if (!change_failed()) {
@@ -25,7 +33,7 @@ if (is_post()) {
     }
 }
 show('dns', array('title' => 'DNS', 'lead' => 'The servers that the appliance asks for the addresses of names.',
-    'settings' => $settings, 'errors' => $errors));
+    'settings' => $settings, 'errors' => $errors, 'meanwhile' => $meanwhile, 'seen' => $seen));
 
 function dns_errors($settings)
 {

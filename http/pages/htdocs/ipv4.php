@@ -1,34 +1,34 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 require dirname(dirname(__FILE__)) . '/shared/applying.php';
-
-// As the module reads them. It takes any text in "dhcpEnabled" for DHCP, so that static is null.
-class Ipv4Settings
-{
-    var $hostname;
-    var $dhcpEnabled;
-    var $ip;
-    var $netmask;
-    var $gateway;
-}
+require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
+require dirname(dirname(__FILE__)) . '/shared/review.php';
 
 $session = signed_in();
 $settings = get_network_configuration_ipv4($session);
 $current_name = $settings->hostname;
 $errors = array();
+$meanwhile = array();
+$seen = values_shown($settings);
+$current = $settings;
 if (is_post() && posted('change') == 'name') {
     $settings->hostname = posted('hostname');
-    $errors = change_name($session, $current_name, $settings->hostname);
+    $meanwhile = changed_meanwhile(array('hostname' => $current_name), array('hostname' => 'Name'));
+    if (!$meanwhile) {
+        $errors = change_name($session, $current_name, $settings->hostname);
+    }
 } elseif (is_post()) {
     $wanted = wanted_settings($current_name);
     $errors = addressing_errors($wanted);
-    if (!$errors) {
-        begin_ipv4($session, $settings, $wanted);
+    $meanwhile = $errors ? array() : changed_meanwhile($seen, $kinds_of_change['ipv4']['labels']);
+    if (!$errors && !$meanwhile && posted('reviewed') != 'back') {
+        $errors = change_addressing($session, $settings, $wanted);
     }
     $settings = $wanted;
 }
 show('ipv4', array('title' => 'IPv4 and host name', 'settings' => $settings, 'errors' => $errors, 'name' => $current_name,
     'mode' => posted('change') == 'addressing' ? posted('mode') : ($settings->dhcpEnabled ? 'dhcp' : 'static'),
+    'meanwhile' => $meanwhile, 'seen' => $seen, 'current' => $current, 'servers' => servers_in_use(),
     'lead' => 'The name and the address under which the appliance is found.'));
 
 function change_name($session, $old, $new)
@@ -48,13 +48,8 @@ function change_name($session, $old, $new)
 
 function wanted_settings($hostname)
 {
-    $wanted = new Ipv4Settings();
-    $wanted->hostname = $hostname;
-    $wanted->dhcpEnabled = posted('mode') == 'dhcp' ? '1' : null;
-    $wanted->ip = posted('ip');
-    $wanted->netmask = posted('netmask');
-    $wanted->gateway = posted('gateway');
-    return $wanted;
+    return ipv4_settings($hostname, array('dhcp' => posted('mode') == 'dhcp', 'ip' => posted('ip'),
+        'netmask' => posted('netmask'), 'gateway' => posted('gateway')));
 }
 
 function addressing_errors($wanted)
@@ -72,18 +67,82 @@ function addressing_errors($wanted)
     return ipv4_errors($wanted->ip, $wanted->netmask, $wanted->gateway);
 }
 
-function begin_ipv4($session, $settings, $wanted)
+// What the settings are, as the form shows them; what a DHCP server gives is nobody's setting.
+function values_shown($settings)
 {
-    if ($wanted->dhcpEnabled !== null) {
-        $values = array('mode' => 'DHCP');
-    } else {
-        $values = array('mode' => 'Static', 'ip' => $wanted->ip, 'netmask' => $wanted->netmask,
-            'gateway' => $wanted->gateway);
+    return $settings->dhcpEnabled ? array('mode' => 'DHCP') : array('mode' => 'Static', 'ip' => $settings->ip,
+        'netmask' => $settings->netmask, 'gateway' => $settings->gateway);
+}
+
+// Begins the change, when nothing speaks against it; else errors.
+function change_addressing($session, $now, $wanted)
+{
+    $values = values_shown($wanted);
+    // Without a lease, asking the DHCP server again is what is wanted.
+    if (is_unchanged($values, values_shown($now)) && present_value($now->ip) != 'None') {
+        go_to('ipv4.php', UNCHANGED);
     }
-    $change = new_change($session, 'ipv4', $values, $settings->ip, $wanted->dhcpEnabled !== null ? '' : $wanted->ip);
-    begin_change();
-    set_network_configuration_ipv4($session, $wanted);
-    if (!change_failed()) {
-        follow_change($session, $change);
+    if ($wanted->dhcpEnabled === null && posted('reviewed') != 'yes') {
+        $warnings = array_merge(address_warnings($now->ip, $wanted->ip, $wanted->gateway, $now->gateway),
+            network_warnings($wanted->ip, $wanted->netmask, $now));
+        if ($warnings) {
+            show_review($warnings, $values, $now);
+        }
     }
+    $to = $wanted->dhcpEnabled === null ? $wanted->ip : '';
+    $trial = new_trial($session, 'ipv4', $values, settings_of($session, 'ipv4'), $now->ip, $to, chosen_seconds());
+    $trial['others'] = $to == '' ? places_with_dhcp($now->hostname) : array();
+    if ($now->dhcpEnabled && $to != '' && is_host_address($now->ip)) {
+        replace_file(EARLIER_LEASE, $now->ip);
+    }
+    $errors = start_change($session, $trial, array('hostname' => $wanted->hostname,
+        'dhcp' => $wanted->dhcpEnabled !== null, 'ip' => $wanted->ip, 'netmask' => $wanted->netmask,
+        'gateway' => $wanted->gateway));
+    return $errors ? array('mode' => $errors[0]) : array();
+}
+
+function show_review($warnings, $values, $now)
+{
+    $rows = array();
+    $old = array('mode' => $now->dhcpEnabled ? 'DHCP' : 'Static', 'ip' => $now->ip, 'netmask' => $now->netmask,
+        'gateway' => $now->gateway);
+    foreach ($values as $name => $value) {
+        $rows[] = array('label' => $GLOBALS['kinds_of_change']['ipv4']['labels'][$name], 'now' => present_value($old[$name]),
+            'wanted' => $value);
+    }
+    $typed = array();
+    foreach (array('change', 'seen', 'mode', 'ip', 'netmask', 'gateway', 'trial') as $name) {
+        $typed[$name] = text_of($_POST, $name);
+    }
+    show('review', array('title' => 'Before it is applied', 'part_of' => 'ipv4.php', 'page' => 'ipv4.php',
+        'warnings' => $warnings, 'rows' => $rows, 'typed' => $typed,
+        'lead' => 'Nothing has been changed yet.'));
+}
+
+// Where an appliance that asks a DHCP server is likely to be found: under the lease of before, or under its name.
+function places_with_dhcp($hostname)
+{
+    $places = array();
+    $lease = is_readable(EARLIER_LEASE) ? trim(implode('', file(EARLIER_LEASE))) : '';
+    if (ipv4_bytes($lease) && is_host_address($lease)) {
+        $places[] = $lease;
+    }
+    if (host_name_error($hostname) == '') {
+        $places[] = $hostname;
+    }
+    return $places;
+}
+
+// The name servers that are asked, whoever has named them.
+function servers_in_use()
+{
+    $servers = array();
+    if (is_readable('/etc/resolv.conf')) {
+        foreach (file('/etc/resolv.conf') as $line) {
+            if (preg_match('/^nameserver\s+(\S+)/', $line, $found)) {
+                $servers[] = $found[1];
+            }
+        }
+    }
+    return $servers;
 }

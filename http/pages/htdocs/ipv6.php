@@ -1,16 +1,8 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 require dirname(dirname(__FILE__)) . '/shared/applying.php';
-
-// As the module reads them. It takes any text in "staticEnabled" for a static address, so that none is null; the
-// others carry texts in either case.
-class Ipv6Settings
-{
-    var $staticEnabled;
-    var $ipStatic;
-    var $gateway;
-    var $prefix;
-}
+require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
+require dirname(dirname(__FILE__)) . '/shared/review.php';
 
 $session = signed_in();
 $settings = get_network_configuration_ipv6($session);
@@ -20,76 +12,137 @@ $typed = array('static' => $settings->staticEnabled, 'prefix' => $settings->pref
     'gateway' => $settings->staticEnabled ? short_ipv6($settings->gateway) : '');
 $errors = array();
 $change = is_post() ? posted('change') : '';
-if ($change == 'enabled') {
-    switch_ipv6($session);
-} elseif ($change == 'modes') {
-    switch_modes($session, $modes);
+$seen = values_shown($settings, $modes);
+$meanwhile = array();
+if ($change != '') {
+    list($errors, $meanwhile) = change_ipv6($session, $change, $seen, $settings);
     $modes = read_modes();
-} elseif ($change == 'static') {
+    $seen = values_shown($settings, $modes);
+}
+if ($change == 'static') {
     $typed = array('static' => posted('static') == '1', 'ipStatic' => posted('ipStatic'), 'prefix' => posted('prefix'),
         'gateway' => posted('gateway'));
-    $errors = $typed['static'] ? ipv6_errors($typed['ipStatic'], $typed['prefix'], $typed['gateway']) : array();
-    if (!$errors) {
-        begin_ipv6($session, $settings, $typed);
-    }
 }
 show('ipv6', array('title' => 'IPv6', 'enabled' => is_ipv6_enabled(), 'modes' => $modes, 'typed' => $typed,
     'in_use' => is_ipv6_static_enabled(), 'addresses' => get_all_ipv6_addresses(), 'errors' => $errors,
+    'meanwhile' => $meanwhile, 'change' => $change, 'seen' => $seen,
     'lead' => 'Whether the appliance uses IPv6, and where its addresses come from.'));
 
-function switch_ipv6($session)
+// What each form shows: the form's change => its values, under the names that its kind of change has.
+function values_shown($settings, $modes)
 {
-    $on = posted('enabled') == '1';
-    begin_change();
-    set_ipv6_enabled($session, $on);
-    if (!change_failed()) {
-        go_to('ipv6.php', $on ? 'IPv6 is on. Addresses appear within some seconds.' : 'IPv6 is off.');
-    }
+    return array('enabled' => array('enabled' => is_ipv6_enabled() ? 'On' : 'Off'),
+        'modes' => array('stateless' => $modes['stateless'] ? 'On' : 'Off', 'dhcp' => $modes['dhcp'] ? 'On' : 'Off'),
+        'static' => $settings->staticEnabled ? array('mode' => 'On', 'ip' => short_ipv6($settings->ipStatic),
+            'prefix' => (string) $settings->prefix, 'gateway' => short_ipv6($settings->gateway)) : array('mode' => 'Off'));
 }
 
-// Each mode by itself, so that one that fails does not keep the other from being set.
-function switch_modes($session, $now)
+// Makes a change, unless something is wrong with it: array of errors and of what has changed meanwhile.
+function change_ipv6($session, $change, $seen, $settings)
 {
-    $stateless = posted('stateless') == '1';
-    $dhcp = posted('dhcp') == '1';
+    $kinds = array('enabled' => 'ipv6-switch', 'modes' => 'ipv6-modes', 'static' => 'ipv6');
+    if (!isset($kinds[$change])) {
+        return array(array(), array());
+    }
+    $kind = $kinds[$change];
+    $errors = $change == 'static' && posted('static') == '1'
+        ? ipv6_errors(posted('ipStatic'), posted('prefix'), posted('gateway')) : array();
+    $meanwhile = $errors ? array() : changed_meanwhile($seen[$change], $GLOBALS['kinds_of_change'][$kind]['labels']);
+    if ($errors || $meanwhile || posted('reviewed') == 'back') {
+        return array($errors, $meanwhile);
+    }
+    $values = values_typed($change);
+    if (is_unchanged($values, $seen[$change])) {
+        go_to('ipv6.php', UNCHANGED);
+    }
+    $before = settings_of($session, $kind);
+    if ($change == 'static' && posted('static') == '1' && $before['enabled'] && posted('reviewed') != 'yes') {
+        $warnings = address_warnings($before['static'] ? $before['ip'] : '', posted('ipStatic'), posted('gateway'),
+            $before['static'] ? $before['gateway'] : '');
+        if ($warnings) {
+            show_review($warnings, $values, $seen['static']);
+        }
+    }
+    if (chosen_seconds() == 0 && $change != 'static') {
+        return array(switch_at_once($session, $change, $before), array());
+    }
+    return array(begin_ipv6($session, $kind, $values, $before), array());
+}
+
+// What is wanted, as it is shown.
+function values_typed($change)
+{
+    if ($change == 'static') {
+        return posted('static') != '1' ? array('mode' => 'Off') : array('mode' => 'On', 'ip' => posted('ipStatic'),
+            'prefix' => posted('prefix'), 'gateway' => posted('gateway'));
+    }
+    return $change == 'enabled' ? array('enabled' => posted('enabled') == '1' ? 'On' : 'Off')
+        : array('stateless' => posted('stateless') == '1' ? 'On' : 'Off', 'dhcp' => posted('dhcp') == '1' ? 'On' : 'Off');
+}
+
+// What is wanted, as put_back() takes it: all settings of IPv6, of which the form changes some.
+function wanted_ipv6($kind, $before)
+{
+    $wanted = $before;
+    if ($kind == 'ipv6-switch') {
+        $wanted['enabled'] = posted('enabled') == '1';
+    } elseif ($kind == 'ipv6-modes') {
+        $wanted['stateless'] = posted('stateless') == '1';
+        $wanted['dhcp'] = posted('dhcp') == '1';
+    } elseif (posted('static') == '1') {
+        $wanted['static'] = true;
+        $wanted['ip'] = posted('ipStatic');
+        $wanted['prefix'] = posted('prefix');
+        $wanted['gateway'] = posted('gateway');
+    } else {
+        $wanted['static'] = false;
+    }
+    return $wanted;
+}
+
+function begin_ipv6($session, $kind, $values, $before)
+{
+    // What is only stored locks nobody out.
+    $seconds = $kind == 'ipv6' && !$before['enabled'] ? 0 : chosen_seconds();
+    $to = $kind == 'ipv6' && posted('static') == '1' ? posted('ipStatic') : '';
+    $trial = new_trial($session, $kind, $values, $before, $before['static'] ? $before['ip'] : '', $to, $seconds);
+    $ipv4 = get_network_configuration_ipv4($session);
+    $trial['others'] = is_host_address($ipv4->ip) ? array($ipv4->ip) : array();
+    $errors = start_change($session, $trial, wanted_ipv6($kind, $before));
+    return $errors ? array('static' => $errors[0]) : array();
+}
+
+// Without a trial. Each mode by itself, so that one that fails does not keep the other from being set.
+function switch_at_once($session, $change, $before)
+{
+    if (trial_in_the_way()) {
+        return array('static' => 'Another change of addressing is on trial: keep or undo it first. Yours was not applied.');
+    }
     begin_change();
-    if ($stateless != $now['stateless']) {
-        set_stateless_enabled($session, $stateless);
-    }
-    if ($dhcp != $now['dhcp']) {
-        set_ipv6_dhcp_enabled($session, $dhcp);
-    }
+    put_back($session, 'ipv6', wanted_ipv6($change == 'enabled' ? 'ipv6-switch' : 'ipv6-modes', $before));
     if (!change_failed()) {
-        go_to('ipv6.php', 'The sources of addresses are set. Addresses appear or go within some seconds.');
+        go_to('ipv6.php', $change == 'modes' ? 'The sources of addresses are set. Addresses appear or go within some seconds.'
+            : (posted('enabled') == '1' ? 'IPv6 is on. Addresses appear within some seconds.' : 'IPv6 is off.'));
     }
+    return array();
+}
+
+function show_review($warnings, $values, $now)
+{
+    $rows = array();
+    foreach ($values as $name => $value) {
+        $rows[] = array('label' => $GLOBALS['kinds_of_change']['ipv6']['labels'][$name],
+            'now' => isset($now[$name]) ? $now[$name] : 'None', 'wanted' => $value);
+    }
+    $typed = array();
+    foreach (array('change', 'seen', 'static', 'ipStatic', 'prefix', 'gateway', 'trial') as $name) {
+        $typed[$name] = text_of($_POST, $name);
+    }
+    show('review', array('title' => 'Before it is applied', 'part_of' => 'ipv6.php', 'page' => 'ipv6.php',
+        'warnings' => $warnings, 'rows' => $rows, 'typed' => $typed, 'lead' => 'Nothing has been changed yet.'));
 }
 
 function read_modes()
 {
     return array('stateless' => is_stateless_enabled(), 'dhcp' => is_ipv6_dhcp_enabled());
-}
-
-function begin_ipv6($session, $settings, $typed)
-{
-    $wanted = new Ipv6Settings();
-    if ($typed['static']) {
-        $wanted->staticEnabled = '1';
-        $wanted->ipStatic = $typed['ipStatic'];
-        $wanted->prefix = $typed['prefix'];
-        $wanted->gateway = $typed['gateway'];
-        $values = array('mode' => 'On', 'ip' => $wanted->ipStatic, 'prefix' => $wanted->prefix,
-            'gateway' => $wanted->gateway);
-    } else {
-        $wanted->staticEnabled = null;
-        $wanted->ipStatic = $settings->ipStatic;
-        $wanted->prefix = $settings->prefix;
-        $wanted->gateway = $settings->gateway;
-        $values = array('mode' => 'Off');
-    }
-    $change = new_change($session, 'ipv6', $values, $settings->ipStatic, $typed['static'] ? $typed['ipStatic'] : '');
-    begin_change();
-    set_network_configuration_ipv6($session, $wanted);
-    if (!change_failed()) {
-        follow_change($session, $change);
-    }
 }

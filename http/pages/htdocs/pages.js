@@ -45,30 +45,101 @@ if (polled) follow(polled);
 
 async function follow(section) {
   const parts = section.dataset.parts.split(' ');
-  const other = section.dataset.otherOrigin;
-  const bar = section.querySelector('progress');
-  const began = Date.now() - (bar ? bar.value / 100 * section.dataset.expected * 1000 : 0);
   let misses = 0;
   showEnd();
   for (;;) {
     await new Promise((resolve) => setTimeout(resolve, section.dataset.poll));
-    if (document.hidden) await new Promise((resolve) => addEventListener('visibilitychange', resolve, {once: true}));
-    if (bar) bar.value = Math.min(95, (Date.now() - began) / section.dataset.expected / 10);
+    // A change on trial is followed in the background, too.
+    if (document.hidden && !document.getElementById('way')) {
+      await new Promise((resolve) => addEventListener('visibilitychange', resolve, {once: true}));
+    }
     const asked = location.href;
     const page = await fetchPage();
     if (location.href !== asked) continue; // the filter has changed meanwhile
     misses = page ? 0 : misses + 1;
     for (const lost of section.querySelectorAll('[data-when-lost]')) lost.hidden = misses < 3;
-    if (!page) {
-      if (other && await answers(`${other}/icon.svg`)) {
-        return location.assign(`${other}/applying.php`);
-      }
-      continue;
-    }
+    for (const told of section.querySelectorAll('[data-when-answering]')) told.hidden = misses >= 3;
+    if (await goWhereItIs(misses)) return undefined;
+    if (!page) continue;
     // Another title is another state, and no part at all another page.
     if (heading(page) !== heading(document) || !parts.every((id) => page.getElementById(id))) return location.reload();
     parts.forEach((id) => replace(document.getElementById(id), page.getElementById(id)));
+    countDown(page);
     if (!page.querySelector('[data-poll]')) return undefined;
+  }
+}
+
+// When the appliance is elsewhere, the page goes there; where the address in use stays, it only proves that the other one is
+// reached. The random number tells the appliance from another web server at its address. Returns whether it goes.
+async function goWhereItIs(misses) {
+  const way = document.querySelector('[data-origins]');
+  if (!way || (way.dataset.leaves && misses === 0)) return false;
+  for (const origin of way.dataset.origins.split(' ')) {
+    const isIt = await isThisAppliance(origin, way.dataset.probe, way.dataset.answer);
+    if (way.dataset.leaves && (isIt || (way.dataset.known && misses > 4))) {
+      location.assign(way.dataset.key ? `${origin}/trial.php#${way.dataset.key}` : `${origin}/applying.php`);
+      return true;
+    }
+    if (isIt && way.dataset.key) {
+      await fetch(`${origin}/trial.php?background=1`, {method: 'POST', mode: 'no-cors', credentials: 'omit',
+        body: new URLSearchParams({key: way.dataset.key}), signal: AbortSignal.timeout(3000)}).catch(() => {});
+      return false;
+    }
+  }
+  return false;
+}
+
+async function isThisAppliance(origin, number, answer) {
+  try {
+    const said = await fetch(`${origin}/trial.php?probe=${number}`,
+      {cache: 'no-store', credentials: 'omit', signal: AbortSignal.timeout(2000)});
+    return said.ok && (await said.text()).trim() === answer;
+  } catch {
+    return false;
+  }
+}
+
+// The time that is left, counted here between the server's answers.
+let countdownEnd = 0;
+const countdown = document.querySelector('[data-countdown]');
+if (countdown) {
+  countDown(document);
+  setInterval(() => {
+    const left = Math.max(0, Math.ceil((countdownEnd - performance.now()) / 1000));
+    countdown.textContent = left;
+    const bar = countdown.closest('section').querySelector('progress[value]');
+    if (bar) bar.value = left;
+  }, 500);
+}
+
+function countDown(page) {
+  const told = page.querySelector('[data-countdown]');
+  if (told) countdownEnd = performance.now() + told.dataset.countdown * 1000;
+}
+
+// The key comes in the address's last part, which is sent to no server; it is good for one use.
+const keyForm = document.querySelector('[data-key-form]');
+if (keyForm && /^#[0-9a-f]{32}$/.test(location.hash)) {
+  keyForm.key.value = location.hash.slice(1);
+  history.replaceState(null, '', location.pathname);
+  keyForm.hidden = false;
+  keyForm.submit();
+}
+
+// A mode that nobody has reached is taken back: then this address answers again.
+const returning = document.querySelector('[data-return]');
+if (returning) waitForReturn(returning.dataset.return);
+
+async function waitForReturn(address) {
+  for (;;) {
+    await new Promise((resolve) => setTimeout(resolve, 2000));
+    try {
+      const answer = await fetch(`${address}?background=1`, {redirect: 'manual', signal: AbortSignal.timeout(3000)});
+      const page = answer.ok ? new DOMParser().parseFromString(await answer.text(), 'text/html') : null;
+      if (page && page.querySelector('[data-over]')) return location.assign(address);
+    } catch {
+      // Not yet.
+    }
   }
 }
 
@@ -85,15 +156,6 @@ async function fetchPage() {
     return page && page.querySelector('h1') ? page : null;
   } catch {
     return null;
-  }
-}
-
-async function answers(address) {
-  try {
-    await fetch(address, {mode: 'no-cors', cache: 'no-store', signal: AbortSignal.timeout(2000)});
-    return true;
-  } catch {
-    return false;
   }
 }
 

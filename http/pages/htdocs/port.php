@@ -1,5 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 
 class PortSettings
 {
@@ -11,13 +12,20 @@ class PortSettings
 $session = signed_in();
 $settings = get_eth2_port_settings($session);
 $errors = array();
+$meanwhile = array();
+$seen = values_shown($settings);
 if (is_post()) {
     $settings = new PortSettings();
     $settings->AutoNegotiate = posted('auto') == '1' ? 1 : 0;
     $settings->Speed = (int) posted('speed');
     $settings->Duplex = posted('duplex') == '' ? -1 : (int) posted('duplex');
     $errors = port_errors($settings);
-    if (!$errors) {
+    $meanwhile = $errors ? array() : changed_meanwhile($seen, array('auto' => 'Autonegotiation', 'speed' => 'Speed',
+        'duplex' => 'Duplex'));
+    if (!$errors && !$meanwhile) {
+        if (is_unchanged(values_shown($settings), $seen)) {
+            go_to('port.php', UNCHANGED);
+        }
         begin_change();
         set_eth2_port_settings($session, $settings->AutoNegotiate, $settings->Speed, $settings->Duplex);
         if (!change_failed()) {
@@ -26,7 +34,15 @@ if (is_post()) {
     }
 }
 show('port', array('title' => 'Ethernet port', 'settings' => $settings, 'errors' => $errors,
+    'meanwhile' => $meanwhile, 'seen' => $seen,
     'lead' => 'The second Ethernet port (eth2). These pages are on the first one, which stays as it is.'));
+
+function values_shown($settings)
+{
+    $duplex = array(-1 => 'not known', 0 => 'Half', 1 => 'Full');
+    return array('auto' => $settings->AutoNegotiate ? 'On' : 'Off', 'speed' => $settings->Speed . ' Mbit/s',
+        'duplex' => $duplex[$settings->Duplex]);
+}
 
 function port_errors($settings)
 {

@@ -1,6 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
-require dirname(dirname(__FILE__)) . '/shared/audit_trail.php';
+require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 
 // What the module reads of the settings; it takes the flags as truth values.
 class AgentSettings
@@ -12,10 +12,16 @@ class AgentSettings
     var $community_name;
 }
 
+// What a form shows => its label.
+$labels = array('version1' => 'Versions 1 and 2c', 'community' => 'Read community', 'trap1' => 'Traps of version 1',
+    'trap2' => 'Traps of version 2c', 'auth' => 'Trap about a wrong community');
+
 $session = signed_in();
 $settings = get_snmp_settings($session);
 $facts = $settings; // of these the page shows what no form changes
 $errors = array();
+$meanwhile = array();
+$seen = values_shown($settings);
 if (is_post()) {
     $settings = new AgentSettings();
     $settings->version1 = posted('version1') == '1';
@@ -24,17 +30,31 @@ if (is_post()) {
     $settings->auth_traps_enabled = posted('auth_traps_enabled') == '1';
     $settings->community_name = posted('community_name');
     $errors = agent_errors($settings);
-    if (!$errors) {
+    $meanwhile = $errors ? array() : changed_meanwhile($seen, $labels);
+    if (!$errors && !$meanwhile) {
+        // After a failure it is stored, but the agent may not run with it.
+        if (posted('again') != '1' && is_unchanged(values_shown($settings), $seen)) {
+            go_to('snmp.php', UNCHANGED);
+        }
         name_user_to_services($session);
         begin_change();
         set_snmp_settings($session, $settings);
         if (!change_failed()) {
             go_to('snmp.php', 'The SNMP agent is set and has restarted.');
         }
+        $seen = values_shown(get_snmp_settings($session));
     }
 }
-show('snmp', array('title' => 'SNMP agent', 'settings' => $settings, 'facts' => $facts, 'errors' => $errors,
+show('snmp', array('title' => 'SNMP agent', 'settings' => $settings, 'facts' => $facts, 'errors' => $errors, 'meanwhile' => $meanwhile,
+    'seen' => $seen,
     'lead' => 'How network management systems read the appliance\'s state, and how it tells them about events.'));
+
+function values_shown($settings)
+{
+    return array('version1' => $settings->version1 ? 'On' : 'Off', 'trap1' => $settings->trap1 ? 'On' : 'Off',
+        'trap2' => $settings->trap2 ? 'On' : 'Off', 'auth' => $settings->auth_traps_enabled ? 'On' : 'Off',
+        'community' => $settings->community_name);
+}
 
 function agent_errors($settings)
 {

@@ -2,6 +2,12 @@
 // The rules for addresses and host names that a person types. The appliance has its own and checks again; these are
 // there to say what is wrong beside the field. This file needs no other one.
 
+// Networks within the appliance, a line each in CIDR notation. A device may have no such list; then it says itself what it
+// refuses.
+if (!defined('INTERNAL_NETWORKS')) {
+    define('INTERNAL_NETWORKS', '/home/embedded/library/AppManager/etc/internal_networks');
+}
+
 // The four bytes of a dotted decimal address, or false.
 function ipv4_bytes($text)
 {
@@ -144,6 +150,36 @@ function netmask_length($bytes)
     return preg_match('/^(1*)0*$/D', $bits, $found) ? strlen($found[1]) : -1;
 }
 
+// The network within the appliance that holds the address, as the list has it, or ''.
+function internal_network_of($address)
+{
+    $bytes = ipv6_bytes(ipv4_bytes($address) ? '::ffff:' . $address : $address);
+    $lines = $bytes && is_readable(INTERNAL_NETWORKS) && is_file(INTERNAL_NETWORKS) ? file(INTERNAL_NETWORKS) : array();
+    foreach ($lines as $line) {
+        if (!preg_match('/^([0-9A-Fa-f:.]+)\/([0-9]{1,3})$/D', trim($line), $found)) {
+            continue;
+        }
+        $is_ipv4 = ipv4_bytes($found[1]) !== false;
+        $network = ipv6_bytes(($is_ipv4 ? '::ffff:' : '') . $found[1]);
+        if ($network && same_network($bytes, $network, $found[2] + ($is_ipv4 ? 96 : 0))) {
+            return trim($line);
+        }
+    }
+    return '';
+}
+
+// What is wrong when the address or the gateway is used within the appliance: field => sentence. $field: that of the address.
+function internal_errors($field, $address, $gateway)
+{
+    foreach (array($field => $address, 'gateway' => $gateway) as $name => $value) {
+        $network = internal_network_of($value);
+        if ($network != '') {
+            return array($name => "The network $network is used inside the appliance. Choose an address of your own network.");
+        }
+    }
+    return array();
+}
+
 // What is wrong with a host name, or ''.
 function host_name_error($name)
 {
@@ -196,7 +232,7 @@ function ipv4_errors($ip, $netmask, $gateway)
     } elseif (is_first_or_last($gateway_bytes, $length)) {
         $errors['gateway'] = 'The first and the last address of a network belong to the network itself.';
     }
-    return $errors;
+    return $errors ? $errors : internal_errors('ip', $ip, $gateway);
 }
 
 // Whether all bits behind the prefix are 0, or all are 1.
@@ -238,5 +274,5 @@ function ipv6_errors($address, $prefix, $gateway)
     } elseif (!same_network($bytes, $gateway_bytes, $prefix) && !same_network($link_local, $gateway_bytes, 10)) {
         $errors['gateway'] = "The gateway must have the same first $prefix bits as the address, or begin with fe80.";
     }
-    return $errors;
+    return $errors ? $errors : internal_errors('ipStatic', $address, $gateway);
 }

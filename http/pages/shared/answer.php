@@ -3,10 +3,11 @@
 
 // Shows templates/$template.php, which finds $values as variables, within the frame. Of $values the frame itself uses
 // 'title', 'lead', 'errors', 'part_of' (the page whose place in the menu this one takes), 'refresh' (array of 'seconds' and
-// 'address', for browsers without scripts) and 'other_origin'.
+// 'address', for browsers without scripts), 'other_origins' (list) and 'restarts' (the page itself
+// says what is on trial).
 function show($template, $values)
 {
-    send_headers(isset($values['other_origin']) ? $values['other_origin'] : '');
+    send_headers(isset($values['other_origins']) ? $values['other_origins'] : array());
     $content = render($template, $values);
     $values['content'] = $content; // rendered first: what it reports is shown above it
     echo render(isset($GLOBALS['session']) ? 'frame' : 'bare', $values);
@@ -50,16 +51,17 @@ function give_up($reason)
     refuse('500 Internal Server Error', 'The appliance cannot go on', $reason);
 }
 
-// The headers of every answer. $other_origin is one more that the page may ask for a sign of life.
-function send_headers($other_origin = '')
+// The headers of every answer. $other_origins are further ones that the page may ask whether they are this appliance.
+function send_headers($other_origins = array())
 {
-    // The policy knows no addresses in brackets, so that of IPv6 becomes its scheme alone.
-    if (strpos($other_origin, '[') !== false) {
-        $other_origin = substr($other_origin, 0, strpos($other_origin, '/'));
+    $others = '';
+    foreach ($other_origins as $origin) {
+        // The policy knows no addresses in brackets, so that of IPv6 becomes its scheme alone.
+        $others .= ' ' . (strpos($origin, '[') === false ? $origin : substr($origin, 0, strpos($origin, '/')));
     }
     header('Content-Type: text/html; charset=utf-8');
     header("Content-Security-Policy: default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self';"
-        . " connect-src 'self' $other_origin; form-action 'self'; base-uri 'none'; frame-ancestors 'none'");
+        . " connect-src 'self'$others; form-action 'self'; base-uri 'none'; frame-ancestors 'none'");
     header('X-Content-Type-Options: nosniff');
     header('X-Frame-Options: DENY');
     header('Referrer-Policy: no-referrer');

@@ -14,13 +14,14 @@ function make_private_folders()
 }
 
 // Writes another file and gives it the name when it is complete: whoever reads at any moment gets the old content or the
-// new one. Returns whether that worked.
-function replace_file($path, $content)
+// new one. $durable: it is on the disk before it gets the name, where the engine can say so. Returns whether that worked.
+function replace_file($path, $content, $durable = false)
 {
     $new = $path . '.' . random_hex(4);
     $mask = umask(077);
     $file = fopen($new, 'wb');
-    $written = $file && fwrite($file, $content) == strlen($content) && fflush($file) && fclose($file);
+    $written = $file && fwrite($file, $content) == strlen($content) && fflush($file)
+        && (!$durable || put_on_disk($file)) && fclose($file);
     umask($mask);
     if ($written && rename($new, $path)) {
         return true;
@@ -29,6 +30,16 @@ function replace_file($path, $content)
         unlink($new);
     }
     return false;
+}
+
+// 4.3 cannot say it of one file.
+function put_on_disk($file)
+{
+    if (function_exists('fsync')) {
+        return fsync($file);
+    }
+    exec('sync');
+    return true;
 }
 
 // Opens a file for reading and writing, and keeps others who open it so waiting until it is closed. Makes it where it is

@@ -14,11 +14,11 @@ function form_begin($page, $change)
         . '<input type="hidden" name="change" value="' . h($change) . '">';
 }
 
-// Ends the form with its button. Who may not change anything is told so in its place.
-function form_end($label)
+// Ends the form with its button; $beside: markup in front of that. Who may not change anything is told so in its place.
+function form_end($label, $beside = '')
 {
     $button = may_change($GLOBALS['session'])
-        ? '<p class="actions"><button type="submit" class="primary">' . h($label) . '</button></p>'
+        ? $beside . '<p class="actions"><button type="submit" class="primary">' . h($label) . '</button></p>'
         : '<p class="hint">You may look at these settings; changing them needs the role admin.</p>';
     return '</fieldset>' . $button . '</form>';
 }

@@ -5,6 +5,16 @@
 // The values as they are now, under the names that a change of this kind has.
 function values_now($session, $kind)
 {
+    if ($kind == 'ssl') {
+        $now = get_ssl_settings($session);
+        return array('https' => $now->isEnabled ? 'On' : 'Off');
+    }
+    if ($kind == 'ipv6-switch') {
+        return array('enabled' => is_ipv6_enabled() ? 'On' : 'Off');
+    }
+    if ($kind == 'ipv6-modes') {
+        return array('stateless' => is_stateless_enabled() ? 'On' : 'Off', 'dhcp' => is_ipv6_dhcp_enabled() ? 'On' : 'Off');
+    }
     if ($kind == 'ipv4') {
         $now = get_network_configuration_ipv4($session);
         return array('mode' => $now->dhcpEnabled ? 'DHCP' : 'Static', 'ip' => $now->ip, 'netmask' => $now->netmask,
@@ -28,21 +38,11 @@ function compare_values($change, $now)
         $rows['ip'] = array('label' => 'Address', 'wanted' => 'From the DHCP server', 'now' => $address,
             'same' => $address != 'None' && $now['mode'] == 'DHCP');
     }
-    if ($change['kind'] == 'ipv6' && $change['values']['mode'] == 'On' && $now['enabled']) {
+    if ($change['kind'] == 'ipv6' && $change['values']['mode'] == 'On' && $now['enabled'] && $change['to'] != '') {
         $used = is_among($change['to'], $now['addresses']);
         $rows['used'] = array('label' => 'In use', 'wanted' => 'Yes', 'now' => $used ? 'Yes' : 'No', 'same' => $used);
     }
     return $rows;
-}
-
-function is_among($address, $others)
-{
-    foreach ($others as $other) {
-        if (same_value($address, $other)) {
-            return true;
-        }
-    }
-    return false;
 }
 
 // A value as it is shown: the module says with zeros that there is none.
@@ -62,83 +62,87 @@ function all_as_wanted($rows)
     return true;
 }
 
-// What the trace log says about changes since this one began.
-function lines_about($change)
+// What the record comes to, beside the values of now: its state; 'late' when a change without a trial should have come to its
+// end, and 'missing' when one on trial is in force but not all is as wanted.
+function outcome_of($trial, $rows)
 {
-    if ($change['outcome'] != 'waiting') {
-        return $change['lines'];
+    $longest = $GLOBALS['kinds_of_change'][$trial['kind']]['longest_seconds'];
+    if ($trial['state'] == 'applying' && $trial['seconds'] == 0 && seconds_since($trial) >= $longest) {
+        return 'late';
     }
-    $lines = trace_lines_since($change['trace'], TRACED_CHANGE);
-    return $lines ? $lines : array();
+    if ($trial['state'] == 'kept' && $trial['why'] == 'no trial' && !$trial['as_wanted'] && !all_as_wanted($rows)) {
+        return seconds_since($trial) < $longest ? 'applying' : 'late';
+    }
+    return $trial['state'] == 'trial' && !all_as_wanted($rows) ? 'missing' : $trial['state'];
 }
 
-// How many changes of the kind have begun, are done and have failed, as these lines of the trace log say.
-function progress_of($change, $lines)
+// The page's heading.
+function title_of_outcome($trial, $outcome)
 {
-    $progress = array();
-    foreach ($GLOBALS['traced_changes'][$change['kind']] as $step => $pattern) {
-        $progress[$step] = 0;
-        foreach ($lines as $line) {
-            $progress[$step] += preg_match($pattern, $line);
-        }
-    }
-    return $progress;
+    $titles = array('applying' => 'Applying', 'trial' => 'On trial', 'missing' => 'On trial',
+        'kept' => $trial['why'] == 'no trial' ? 'Applied' : 'Kept', 'refused' => 'Refused by the appliance',
+        'undoing' => 'Undoing', 'undone' => $trial['why'] == 'start' ? 'Undone after a start' : 'Undone',
+        'late' => 'Not applied');
+    return $outcome == 'undone' && $trial['undo_failed'] ? 'Not undone' : $titles[$outcome];
 }
 
-function has_ended($progress)
+function kind_of_outcome($outcome)
 {
-    $ended = $progress['done'] + $progress['failed'];
-    return $ended > 0 && $ended >= $progress['begun'];
+    $kinds = array('applying' => 'wait', 'trial' => 'wait', 'missing' => 'caution', 'kept' => 'good', 'refused' => 'bad',
+        'undoing' => 'wait', 'undone' => 'caution', 'late' => 'caution');
+    return $kinds[$outcome];
 }
 
-function seconds_since($change)
+// What the change has come to, in a sentence whose first words say which it is. $stored_only: its values are not in force,
+// because IPv6 is off.
+function outcome_sentence($trial, $outcome, $rows, $stored_only)
 {
-    return max(0, time() - $change['began']);
-}
-
-// What the change has come to: 'applied' or 'failed', which stays so whatever is changed later; else 'waiting', or 'late'
-// when its time is over, which may still become one of the others. $lines: what the trace log says about it.
-function outcome_of($change, $rows, $lines)
-{
-    if ($change['outcome'] != 'waiting') {
-        return $change['outcome'];
-    }
-    $same = all_as_wanted($rows);
-    $progress = progress_of($change, $lines);
-    // Several may go on at the same time: which of them has failed is known when all have ended.
-    if (has_ended($progress)) {
-        // The settings read as wanted some time before they are in force.
-        if ($same && $progress['done'] > 0 && moved_to($change) == '') {
-            return 'applied';
-        }
-        if ($progress['failed'] > 0 && !$same || $progress['done'] == 0) {
-            return 'failed';
-        }
-    }
-    if (seconds_since($change) < $GLOBALS['kinds_of_change'][$change['kind']]['longest_seconds']) {
-        return 'waiting';
-    }
-    return $same ? 'applied' : 'late';
-}
-
-// What the change has come to, in a sentence. $stored_only: its values are not in force, because IPv6 is off.
-function outcome_sentence($change, $outcome, $rows, $stored_only)
-{
-    if ($outcome == 'waiting') {
+    $by = $trial['by'] == '' ? '' : ' by ' . $trial['by'];
+    if ($outcome == 'applying') {
         return 'The appliance is changing its settings.';
     }
-    if ($outcome == 'applied') {
-        return $stored_only ? 'The settings are stored. They come into force when IPv6 is switched on.'
-            : 'The settings are in force.';
+    if ($outcome == 'trial') {
+        return 'The new settings are in force and on trial: they are kept when you are back under them.';
     }
-    if ($outcome == 'failed') {
-        return 'The appliance did not apply the change.'
+    if ($outcome == 'missing' || $outcome == 'late') {
+        $missing = isset($trial['values']['mode']) && $trial['values']['mode'] == 'DHCP' && $rows['mode']['same']
+            ? 'No DHCP server has answered yet. The appliance goes on asking.'
+            : 'Not everything is as wanted' . ($outcome == 'late' ? ', although the time for it is over.' : ' yet.');
+        return $missing;
+    }
+    if ($outcome == 'kept') {
+        if ($trial['why'] == 'no trial') {
+            return $stored_only ? 'The settings are stored. They come into force when IPv6 is switched on.'
+                : 'The settings are in force.';
+        }
+        return "Kept$by: " . ($trial['why'] == 'asked' ? 'as asked for.' : 'reached under the new settings.');
+    }
+    if ($outcome == 'refused') {
+        return 'Refused by the appliance' . ($trial['why'] == '' ? '.' : ': ' . $trial['why'] . '.')
             . (all_as_wanted($rows) ? '' : ' It has the values that are marked below.');
     }
-    if ($change['values']['mode'] == 'DHCP' && $rows['mode']['same']) {
-        return 'No DHCP server has answered yet. The appliance goes on asking.';
+    return undo_sentence($trial, $outcome);
+}
+
+function undo_sentence($trial, $outcome)
+{
+    $when = ' at ' . gmdate('H:i:s', $trial['settled']) . ' UTC';
+    if ($outcome == 'undoing') {
+        return 'The settings of before are being put back, because ' . reason_of_undo($trial) . '.';
     }
-    return 'Not everything is as wanted, although the time for it is over.';
+    if ($trial['undo_failed']) {
+        return 'The settings of before could not be put back: look at the values below, and at the trace log under Diagnostics.';
+    }
+    return $trial['why'] == 'start' ? 'Undone after a start' . $when . ': ' . reason_of_undo($trial) . '.'
+        : 'Undone' . $when . ', because ' . reason_of_undo($trial) . '.';
+}
+
+function reason_of_undo($trial)
+{
+    if ($trial['why'] == 'time') {
+        return 'nobody was back under the new settings within ' . $trial['seconds'] . ' seconds';
+    }
+    return $trial['why'] == 'start' ? 'the appliance started anew during the trial' : $trial['by'] . ' asked for it';
 }
 
 // The state of one value, as markup.
@@ -147,12 +151,43 @@ function row_state($row, $outcome)
     if ($row['same']) {
         return state('good', 'As wanted');
     }
-    if ($outcome == 'waiting') {
+    if ($outcome == 'applying' || $outcome == 'trial' || $outcome == 'missing') {
         return state('wait', 'Not yet');
     }
-    if ($outcome == 'applied') {
+    if ($outcome == 'kept') {
         return state('caution', 'Changed since');
     }
-    $has_old_value = $outcome == 'failed' && $row['now'] != 'None' && $row['now'] != 'No';
+    if ($outcome == 'undone' || $outcome == 'undoing') {
+        return state('off', $outcome == 'undone' ? 'As before' : 'Going back');
+    }
+    $has_old_value = $outcome == 'refused' && $row['now'] != 'None' && $row['now'] != 'No';
     return state('bad', $has_old_value ? 'Old value' : 'Not as wanted');
+}
+
+// How far the change is: each of the steps with the kind of its state.
+function steps_of($trial, $outcome)
+{
+    $set = $outcome == 'applying' ? 'wait' : ($outcome == 'refused' ? 'bad' : 'good');
+    $reached = $trial['state'] == 'kept' ? 'good' : ($trial['state'] == 'trial' ? 'wait' : 'off');
+    $steps = array('Asked' => 'good', 'Set' => $set, 'Reached' => $reached, 'Kept' => $reached == 'wait' ? 'off' : $reached);
+    return $trial['state'] == 'undoing' || $trial['state'] == 'undone'
+        ? array('Asked' => 'good', 'Set' => 'good', 'Undone' => $trial['state'] == 'undone' ? 'caution' : 'wait') : $steps;
+}
+
+// What the next page says once to everybody who may change settings: array of the kind of message and its sentence; or false.
+function news_of_trial($session)
+{
+    $trial = read_trial();
+    if (!$trial || !is_settled($trial) || !may_change($session) || $trial['seconds'] == 0
+        || in_array($session->user, $trial['told']) || seconds_since($trial) > 86400) {
+        return false;
+    }
+    $told = $trial['told'];
+    $told[] = $session->user;
+    if (!change_trial($trial['id'], array($trial['state']), array('told' => $told), array('told' => $trial['told']))) {
+        return false;
+    }
+    $kind = $GLOBALS['kinds_of_change'][$trial['kind']];
+    return array('kind' => kind_of_outcome($trial['state']), 'sentence' => $kind['name'] . ': '
+        . outcome_sentence($trial, $trial['state'], array(), false));
 }

@@ -16,6 +16,14 @@ require $shared . '/session.php';
 require $shared . '/permission.php';
 require $shared . '/html.php';
 require $shared . '/forms.php';
+require $shared . '/trace_log.php';
+require $shared . '/traced_changes.php';
+require $shared . '/audit_trail.php';
+require $shared . '/audit.php';
+require $shared . '/put_back.php';
+require $shared . '/trial.php';
+require $shared . '/coming_back.php';
+require $shared . '/outcome.php';
 
 error_reporting(E_ALL);
 ini_set('display_errors', '0');

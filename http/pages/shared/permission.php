@@ -11,6 +11,7 @@ class Session
 // The session object of the signed-in user, who may do what the request asks for. Anybody else is asked to sign in first.
 function signed_in()
 {
+    advance_trial(); // whoever asks: the watcher may have been ended
     open_session();
     $accounts = read_accounts();
     if (!is_session_of_an_account($accounts)) {
@@ -32,6 +33,7 @@ function signed_in()
     $session->user = $_SESSION['user'];
     $session->role = $accounts[$session->user]['role'];
     $GLOBALS['session'] = $session;
+    keep_if_back($session);
     if (is_post()) {
         check_change($session);
     }

@@ -56,7 +56,7 @@ function begin_session_of($user)
     start_session(random_hex(16));
     $accounts = read_accounts();
     $_SESSION = array('user' => $user, 'account' => md5($accounts[$user]['hash']), 'https' => is_https(), 'seen' => time(),
-        'token' => random_hex(16));
+        'signed_in' => time(), 'token' => random_hex(16));
 }
 
 // Whether the session is that of an account which is still there, with the same password. One that has travelled
@@ -73,6 +73,9 @@ function is_session_of_an_account($accounts)
 // is lost.
 function leave_session()
 {
+    if (session_id() == '') {
+        return; // none was opened
+    }
     session_write_close();
     $GLOBALS['session_left'] = true;
 }

@@ -55,4 +55,21 @@ $same_filter = 'filter=' . urlencode($filter);
     </tbody>
   </table>
 <?php } ?>
+<?php if ($own_audit) { ?>
+  <h3>Changes on trial</h3>
+  <table class="stacks">
+    <thead><tr><th scope="col">Time (UTC)</th><th scope="col">User</th><th scope="col">From</th><th scope="col">What</th></tr></thead>
+    <tbody>
+<?php foreach ($own_audit as $entry) { ?>
+    <tr>
+      <th scope="row" class="time"><?php echo h(gmdate('Y-m-d H:i:s', $entry['time'])); ?></th>
+      <td class="user" data-label="User"><?php echo h($entry['user']); ?></td>
+      <td data-label="From"><?php echo h($entry['client'] == '' ? 'the appliance' : $entry['client']); ?></td>
+      <td data-label="What"><div><p><?php echo h($entry['operation']); ?></p><p class="hint"><?php
+        echo h($entry['details']); ?></p></div></td>
+    </tr>
+<?php } ?>
+    </tbody>
+  </table>
+<?php } ?>
 </section>

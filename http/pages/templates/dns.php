@@ -1,6 +1,7 @@
 <section class="card" aria-label="DNS servers">
 <?php
-echo form_begin('dns.php', 'dns');
+if ($meanwhile) echo meanwhile_message($meanwhile);
+echo form_begin('dns.php', 'dns'), seen_field($seen);
 echo text_field('dnsPrimary', 'Primary server', $settings->dnsPrimary, $errors,
     'IPv4 or IPv6 address. Leave both empty to remove the servers.');
 echo text_field('dnsSecondary', 'Secondary server', $settings->dnsSecondary, $errors,

@@ -11,6 +11,10 @@ if (!is_background()) {
     $message = text_of($_SESSION, 'message');
     unset($_SESSION['message']);
 }
+$news = is_background() || !isset($GLOBALS['session']) || $page == 'applying.php' ? false : news_of_trial($GLOBALS['session']);
+$trial = read_trial();
+// The page of a restart says it itself.
+$on_trial = $trial && $trial['seconds'] > 0 && is_active($trial) && $page != 'applying.php' && !isset($restarts) ? $trial : false;
 $wrong = failed() || !empty($errors);
 $current = isset($part_of) ? $part_of : $page;
 ?>
@@ -44,6 +48,15 @@ $current = isset($part_of) ? $part_of : $page;
   </div>
   <div id="messages" role="status"<?php if ($wrong || $message != '') echo ' tabindex="-1" data-focus'; ?>>
     <?php if ($message != '') echo message('good', '<p>' . h($message) . '</p>'); ?>
+    <?php if ($news) echo message($news['kind'] == 'good' ? 'good' : 'caution', '<p>' . h($news['sentence'])
+        . ' <a href="applying.php">Show the change</a></p>'); ?>
+    <?php if ($on_trial) { ?>
+    <div class="message note"><?php echo icon('wait'); ?><div>
+      <p><?php echo h($GLOBALS['kinds_of_change'][$on_trial['kind']]['name']); ?>: a change by <?php echo h($on_trial['user']); ?> is on
+        trial for <?php echo (int) seconds_left($on_trial); ?> more seconds. <a href="applying.php">Show the change</a></p>
+      <?php echo render('wishes', array('trial' => $on_trial)); ?>
+    </div></div>
+    <?php } ?>
     <?php if (!empty($errors)) { ?>
       <?php echo message('bad', '<p><strong>Nothing was changed.</strong> Correct what is marked and save again.</p>'); ?>
     <?php } ?>

@@ -2,10 +2,22 @@
 // What is not known reads as zeros; what was typed stays.
 $known = posted('change') == 'addressing' || $settings->ip != '0.0.0.0';
 ?>
+<section class="card" aria-labelledby="now">
+  <h2 id="now">Now</h2>
+  <dl>
+    <dt>Address in use</dt><dd><?php echo h(present_value($current->ip)); ?></dd>
+    <dt>Comes from</dt><dd><?php echo $current->dhcpEnabled ? 'A DHCP server' : 'The static setting'; ?></dd>
+    <dt>Netmask in use</dt><dd><?php echo h(present_value($current->netmask)); ?></dd>
+    <dt>Gateway in use</dt><dd><?php echo h(present_value($current->gateway)); ?></dd>
+    <dt>Name servers in use</dt><dd><?php echo h($servers ? implode(', ', $servers) : 'None'); ?></dd>
+  </dl>
+</section>
+
 <section class="card" aria-labelledby="name">
   <h2 id="name">Host name</h2>
 <?php
-echo form_begin('ipv4.php', 'name');
+if ($meanwhile && posted('change') == 'name') echo meanwhile_message($meanwhile);
+echo form_begin('ipv4.php', 'name'), seen_field(array('hostname' => $name));
 echo text_field('hostname', 'Name', $settings->hostname, $errors, 'Letters, digits, hyphens and dots; at most 64 characters.');
 ?>
 <p class="note">The new name is in use at once. With HTTPS on, the web server restarts with a certificate for it.</p>
@@ -15,7 +27,8 @@ echo text_field('hostname', 'Name', $settings->hostname, $errors, 'Letters, digi
 <section class="card" aria-labelledby="addressing">
   <h2 id="addressing">IPv4 address</h2>
 <?php
-echo form_begin('ipv4.php', 'addressing');
+if ($meanwhile && posted('change') == 'addressing') echo meanwhile_message($meanwhile);
+echo form_begin('ipv4.php', 'addressing'), seen_field($seen);
 echo choice_field('mode', 'Obtained by', array(
     'dhcp' => array('label' => 'DHCP',
         'hint' => 'A server in your network gives the address, and may give another one later.'),
@@ -31,9 +44,9 @@ echo text_field('gateway', 'Gateway', $known ? $settings->gateway : '', $errors,
 </div>
 <p class="note when-static">The change begins after three seconds. When the address changes, this page loses its connection;
 it is then at <span class="address" data-address-from="ip"><?php echo is_https() ? 'https' : 'http'; ?>://(the new address)/</span>,
-where you sign in again.</p>
+where it goes on.</p>
 <p class="note when-dhcp">The change begins after three seconds. When the server gives another address than the present one, this
 page loses its connection; the server's list of leases then shows the new address beside the name <?php
   echo h($name); ?>.</p>
-<?php echo form_end('Apply'); ?>
+<?php echo form_end('Apply', trial_field('trial')); ?>
 </section>

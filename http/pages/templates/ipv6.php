@@ -21,17 +21,19 @@
 <section class="card" aria-labelledby="switch">
   <h2 id="switch">IPv6 altogether</h2>
 <?php
-echo form_begin('ipv6.php', 'enabled');
+if ($meanwhile && $change == 'enabled') echo meanwhile_message($meanwhile);
+echo form_begin('ipv6.php', 'enabled'), seen_field($seen['enabled']);
 echo check_field('enabled', 'Use IPv6', $enabled, 'Off means off for all sources below; their settings are kept.');
 ?>
 <p class="note">When IPv6 is switched off, pages that were opened under an IPv6 address lose their connection.</p>
-<?php echo form_end('Save'); ?>
+<?php echo form_end('Save', trial_field('trial-switch')); ?>
 </section>
 
 <section class="card" aria-labelledby="sources">
   <h2 id="sources">Automatic addresses</h2>
 <?php
-echo form_begin('ipv6.php', 'modes');
+if ($meanwhile && $change == 'modes') echo meanwhile_message($meanwhile);
+echo form_begin('ipv6.php', 'modes'), seen_field($seen['modes']);
 echo check_field('stateless', 'Router advertisements', $modes['stateless'],
     'The appliance makes its address from what the router announces (SLAAC).');
 echo check_field('dhcp', 'DHCP', $modes['dhcp'], 'A DHCPv6 server in your network gives the address.');
@@ -39,14 +41,15 @@ echo check_field('dhcp', 'DHCP', $modes['dhcp'], 'A DHCPv6 server in your networ
 <p class="note">Addresses of a source that is switched off go at once: pages that were opened under one of them lose their
 connection.</p>
 <?php
-echo form_end('Save');
+echo form_end('Save', trial_field('trial-modes'));
 ?>
 </section>
 
 <section class="card" aria-labelledby="static-address">
   <h2 id="static-address">Static address</h2>
 <?php
-echo form_begin('ipv6.php', 'static');
+if ($meanwhile && $change == 'static') echo meanwhile_message($meanwhile);
+echo form_begin('ipv6.php', 'static'), seen_field($seen['static']);
 echo check_field('static', 'Use a static address', $typed['static'], 'In addition to the automatic ones.');
 ?>
 <div class="when-static">
@@ -60,5 +63,5 @@ echo text_field('gateway', 'Gateway', $typed['gateway'], $errors,
 <p class="note"><?php echo $enabled ? 'The change begins at once.'
     : 'IPv6 is off: the address is stored, and comes into force when IPv6 is switched on.'; ?> A page that was
 opened under the static address loses its connection when that address changes or goes.</p>
-<?php echo form_end('Apply'); ?>
+<?php echo form_end('Apply', trial_field('trial-static')); ?>
 </section>

@@ -1,6 +1,7 @@
 <section class="card" aria-label="Ethernet port 2">
 <?php
-echo form_begin('port.php', 'port');
+if ($meanwhile) echo meanwhile_message($meanwhile);
+echo form_begin('port.php', 'port'), seen_field($seen);
 echo check_field('auto', 'Autonegotiation', $settings->AutoNegotiate == 1,
     'The port agrees on speed and duplex with what it is connected to. Switch it off only when the other side has it off too.');
 echo choice_field('speed', 'Speed', array(

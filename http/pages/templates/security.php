@@ -10,14 +10,14 @@
 <section class="card" aria-labelledby="change">
   <h2 id="change">Change</h2>
 <?php
-echo form_begin('security.php', 'https');
+if ($meanwhile) echo meanwhile_message($meanwhile);
+echo form_begin('security.php', 'https'), seen_field($seen);
 echo choice_field('https', 'These pages are served by', array(
     '1' => array('label' => 'HTTPS',
         'hint' => 'Encrypted. The appliance makes its own certificate, so your browser will ask you once whether to trust it.'),
     '0' => array('label' => 'HTTP', 'hint' => 'Not encrypted: anybody on the network can read along.')),
     $settings->isEnabled ? '1' : '0', $errors);
 ?>
-<p class="note">The web server restarts in the new mode, and you will sign in again. The page opens by itself then; if it does not,
-open <a href="<?php echo h($address); ?>"><?php echo h($address); ?></a>.</p>
-<?php echo form_end('Save'); ?>
+<p class="note">The web server restarts in the new mode, and you will sign in again there: <a href="<?php echo h($address); ?>"><?php echo h($address); ?></a>.</p>
+<?php echo form_end('Save', trial_field('trial')); ?>
 </section>

@@ -2,7 +2,9 @@
 $traps_error = isset($errors['traps']) ? $errors['traps'] : '';
 ?>
 <section class="card" aria-label="SNMP agent">
-<?php echo form_begin('snmp.php', 'agent'); ?>
+<?php if ($meanwhile) echo meanwhile_message($meanwhile);
+echo form_begin('snmp.php', 'agent'), seen_field($seen);
+if (change_failed()) echo '<input type="hidden" name="again" value="1">'; ?>
 <fieldset class="field"><legend>Answers requests of</legend>
   <?php echo check_field('version1', 'Versions 1 and 2c', $settings->version1,
       'Not encrypted: who knows the community can read everything.'); ?>

@@ -1,0 +1,17 @@
+#!/bin/sh
+# Starts the process that waits for the end of a change on trial, and puts the settings of before back when nobody was back in
+# time. It takes everything from the record of the pages, lives in a session of its own, and outlives the web server and
+# the interpreter that asked for it. Returns at once.
+# shellcheck source=SCRIPTDIR/device.sh
+. "${0%/*}/device.sh"
+
+PAGES=$LIBRARY/HTTPService/lighttpd
+
+[ $# = 0 ] || refuse_call 'none' "$@"
+for program in php setsid; do
+  command -v "$program" >/dev/null || fail "there is no program $program"
+done
+# Nothing of the web service stays open: not its connection, not its session.
+# shellcheck disable=SC2016 # the variable is PHP's
+setsid php -r 'require $argv[1]; watch_trial();' "$PAGES/shared/page.php" \
+  </dev/null >>"$PAGES/logs/trial.log" 2>&1 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&- &

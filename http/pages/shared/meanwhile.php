@@ -1,0 +1,64 @@
+<?php
+// Whether a form changes anything, and whether somebody else has changed the settings since it was opened. Each form carries
+// the settings that it showed; they are told apart as texts.
+
+// $values: name => setting, as the page shows it.
+function seen_field($values)
+{
+    $pairs = array();
+    foreach ($values as $name => $value) {
+        $pairs[] = urlencode($name) . '=' . urlencode((string) $value);
+    }
+    return '<input type="hidden" name="seen" value="' . h(implode('&', $pairs)) . '">';
+}
+
+// The settings that the form showed: name => text; empty when it said nothing about that.
+function seen_values()
+{
+    $seen = array();
+    foreach (explode('&', text_of($_POST, 'seen')) as $pair) {
+        $parts = explode('=', $pair);
+        if (count($parts) == 2) {
+            $seen[urldecode($parts[0])] = urldecode($parts[1]);
+        }
+    }
+    return $seen;
+}
+
+// What is no longer as the form showed it: rows of 'label', 'then' and 'now'. $labels: name => label.
+function changed_meanwhile($now, $labels)
+{
+    $rows = array();
+    $seen = seen_values();
+    foreach ($labels as $name => $label) {
+        $value = isset($now[$name]) ? (string) $now[$name] : '';
+        if ($seen && (isset($seen[$name]) ? $seen[$name] : '') != $value) {
+            $rows[] = array('label' => $label, 'then' => isset($seen[$name]) ? $seen[$name] : '', 'now' => $value);
+        }
+    }
+    return $rows;
+}
+
+function is_unchanged($wanted, $now)
+{
+    foreach ($wanted as $name => $value) {
+        if (!isset($now[$name]) || !same_value((string) $value, (string) $now[$name])) {
+            return false;
+        }
+    }
+    return count($wanted) == count($now);
+}
+
+define('UNCHANGED', 'These are the settings already; nothing was changed.');
+
+// What somebody else has changed, as markup.
+function meanwhile_message($rows)
+{
+    $html = '<p><strong>Somebody has changed these settings since you opened the form; yours were not applied.</strong> Compare, then'
+        . ' send the form again if yours are still right.</p><ul>';
+    foreach ($rows as $row) {
+        $html .= '<li>' . h($row['label']) . ': ' . h($row['then'] == '' ? 'none' : $row['then']) . ' when you opened it, '
+            . h($row['now'] == '' ? 'none' : $row['now']) . ' now</li>';
+    }
+    return message('caution', $html . '</ul>');
+}

@@ -1,0 +1,393 @@
+<?php
+// The change that is on trial: one record, changed under one lock, so that of those who want to keep it, undo it or begin
+// another one at the same instant exactly one wins.
+//
+//   applying   asked for; the module has not come to its end yet
+//   trial      in force; waits for its maker to be back
+//   kept       for good
+//   refused    by the appliance, which has the settings of before
+//   undoing    the settings of before are being put back
+//   undone     they are back
+//
+// watch_trial() waits for the end of the time, in a process of its own; coming_back.php says who keeps one.
+
+define('TRIAL_FILE', PRIVATE_FOLDER . '/trial');
+define('TRIAL_LOCK', PRIVATE_FOLDER . '/trial.lock');
+define('TRIAL_SECONDS', 90); // unless another time is chosen
+define('UNDO_SECONDS', 60); // in which undoing comes to its end; then somebody else tries
+define('UNDO_TRIES', 3);
+define('EARLIER_LEASE', PRIVATE_FOLDER . '/lease'); // the address before the last change from DHCP
+
+// The last change of addressing or of the SSL mode, or false.
+function read_trial()
+{
+    clearstatcache();
+    $text = is_readable(TRIAL_FILE) ? implode('', file(TRIAL_FILE)) : '';
+    $trial = $text == '' ? false : unserialize($text);
+    return isset($trial['id'], $trial['state'], $trial['lines']) ? $trial : false;
+}
+
+// Makes $trial the change that is on trial, unless there is one already. Returns whether that worked.
+function begin_trial($trial)
+{
+    make_private_folders();
+    $lock = open_locked(TRIAL_LOCK);
+    $current = read_trial();
+    $begun = $lock && !($current && is_active($current)) && store_trial($trial);
+    if ($lock) {
+        fclose($lock);
+    }
+    if ($begun) {
+        audit_trial($trial, 'begun', $trial['user'], $trial['client'], $trial['seconds'] == 0 ? 'without a trial'
+            : 'for ' . $trial['seconds'] . ' seconds');
+    }
+    return $begun;
+}
+
+// A new record. $values: name => what is wanted, as it is shown; $before: all that it takes to put it back; $from and
+// $to: the address that goes away and the one that comes, '' when not known; $seconds: 0 for no trial.
+function new_trial($session, $kind, $values, $before, $from, $to, $seconds)
+{
+    $current = read_trial();
+    // Where the change before may still be going on, its lines of the trace log are this one's too.
+    $trace = $current && $current['state'] == 'applying' ? $current['trace'] : trace_size();
+    $accounts = read_accounts();
+    return array('id' => random_hex(8), 'state' => 'applying', 'kind' => $kind, 'values' => $values, 'before' => $before,
+        'from' => $from, 'to' => $to, 'trace' => $trace, 'began' => time(), 'seconds' => $seconds,
+        // who asked for it
+        'user' => $session->user, 'account' => md5($accounts[$session->user]['hash']),
+        'client' => plain_address(text_of($_SERVER, 'REMOTE_ADDR')),
+        // hash of the single-use key, what the answer to a random number is made of, that number, and the session that ends
+        // with the keeping; where else the appliance may be found, and what the watcher has to ask for
+        'key' => '', 'secret' => random_hex(16), 'probe' => random_hex(16), 'session' => '', 'others' => array(),
+        'later' => array(),
+        // when it came to its end and was settled; why, by whom, from where; what the trace log said; who has been told
+        'ended' => 0, 'settled' => 0, 'why' => '', 'by' => '', 'from_client' => '', 'lines' => array(), 'told' => array(),
+        'as_wanted' => false,
+        // the undoing: when it was handed to the watcher and begun, where in the trace log, how often, with what end
+        'undo_handed' => 0, 'undo_began' => 0, 'undo_trace' => 0, 'undo_tries' => 0, 'undo_asked' => false,
+        'undo_failed' => false);
+}
+
+// Whether another change has to wait for this one.
+function is_active($trial)
+{
+    if ($trial['state'] == 'applying' && $trial['seconds'] == 0) {
+        return seconds_since($trial) < $GLOBALS['kinds_of_change'][$trial['kind']]['longest_seconds'];
+    }
+    return !is_settled($trial);
+}
+
+function is_settled($trial)
+{
+    return $trial['state'] == 'kept' || $trial['state'] == 'refused' || $trial['state'] == 'undone';
+}
+
+function seconds_since($trial)
+{
+    return max(0, time() - $trial['began']);
+}
+
+// Until the settings of before come back.
+function seconds_left($trial)
+{
+    return max(0, min($trial['seconds'], $trial['began'] + $trial['seconds'] - time()));
+}
+
+// Changes the record when it is still this trial, in one of these states, and as it is expected to be (name => value).
+// Returns the new record, or false.
+function change_trial($id, $states, $changes, $expected = array())
+{
+    $lock = open_locked(TRIAL_LOCK);
+    $trial = read_trial();
+    $right = $lock && $trial && $trial['id'] == $id && in_array($trial['state'], $states);
+    foreach ($expected as $name => $value) {
+        $right = $right && $trial[$name] === $value;
+    }
+    if ($right) {
+        foreach ($changes as $name => $value) {
+            $trial[$name] = $value;
+        }
+        $right = store_trial($trial);
+    }
+    if ($lock) {
+        fclose($lock);
+    }
+    return $right ? $trial : false;
+}
+
+// It has to outlive a power cut.
+function store_trial($trial)
+{
+    return replace_file(TRIAL_FILE, serialize($trial), true);
+}
+
+// The change has been asked for in vain: nothing is on trial.
+function drop_trial($trial, $why)
+{
+    if (change_trial($trial['id'], array('applying'), array('state' => 'refused', 'settled' => time(), 'why' => $why,
+        'told' => array($trial['user'])))) {
+        audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], $why);
+    }
+}
+
+// Brings the record to where it is by now: called by every request of somebody who is signed in, and by the watcher. $overdue:
+// whether the time is over by another measure than the clock. Returns the record, or false.
+function advance_trial($overdue = false)
+{
+    $trial = read_trial();
+    if ($trial && $trial['state'] == 'applying') {
+        $trial = follow_trace($trial);
+    }
+    if ($trial && $trial['state'] != 'undoing' && !is_settled($trial) && $trial['seconds'] > 0
+        && ($overdue || seconds_left($trial) == 0)) {
+        $trial = undo_trial($trial, 'time', '', '');
+    }
+    if ($trial && $trial['state'] == 'undoing') {
+        $trial = follow_undo($trial);
+    }
+    return $trial;
+}
+
+// Takes down what the trace log says of the end of the change.
+function follow_trace($trial)
+{
+    $lines = traced_since($trial['trace']);
+    $end = how_it_ended($trial['kind'], $lines);
+    if ($end == '') {
+        return $trial;
+    }
+    if ($end == 'failed') {
+        $changes = array('state' => 'refused', 'settled' => time(), 'ended' => time(), 'lines' => $lines);
+    } elseif ($trial['seconds'] == 0) {
+        $changes = array('state' => 'kept', 'settled' => time(), 'ended' => time(), 'lines' => $lines, 'why' => 'no trial');
+    } else {
+        $changes = array('state' => 'trial', 'ended' => time(), 'lines' => $lines);
+    }
+    if (change_trial($trial['id'], array('applying'), $changes) && $end == 'failed') {
+        audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], '');
+    }
+    return read_trial();
+}
+
+// A change that is in force when the module's function returns.
+function ended_at_once($trial)
+{
+    return change_trial($trial['id'], array('applying'), array('state' => 'trial', 'ended' => time()));
+}
+
+// Keeps the change for good. $why: how it was proved, or asked for. Returns whether it was this call that did it.
+function keep_trial($trial, $why, $by, $client)
+{
+    $kept = change_trial($trial['id'], array('trial'), array('state' => 'kept', 'settled' => time(), 'why' => $why, 'by' => $by,
+        'from_client' => $client, 'told' => array()));
+    if (!$kept) {
+        return false;
+    }
+    audit_trial($kept, 'kept', $by, $client, $why);
+    // What has travelled unencrypted is of no use any longer.
+    if ($kept['session'] != '' && is_file(SESSIONS_FOLDER . '/sess_' . $kept['session'])) {
+        unlink(SESSIONS_FOLDER . '/sess_' . $kept['session']);
+    }
+    return true;
+}
+
+// Decides that the settings of before come back. $why: 'time', 'asked' or 'start'. What was kept can still be undone by
+// somebody who asks for it. Returns the record.
+function undo_trial($trial, $why, $by, $client)
+{
+    $states = $why == 'asked' ? array('applying', 'trial', 'kept') : array('applying', 'trial');
+    $undoing = change_trial($trial['id'], $states, array('state' => 'undoing', 'why' => $why, 'by' => $by,
+        'from_client' => $client, 'undo_began' => 0, 'undo_tries' => 0, 'undo_handed' => 0,
+        'told' => array()));
+    if ($undoing) {
+        audit_trial($undoing, 'undoing', $by == '' ? $trial['user'] : $by, $client, why_undone($undoing));
+    }
+    return read_trial();
+}
+
+// Puts the settings of before back, unless another process is at it, and takes down how that ended. A request of a browser
+// leaves it to the watcher where it can: the answer is to go out first.
+function follow_undo($trial)
+{
+    if ($trial['undo_began'] > 0 && !is_undo_late($trial)) {
+        return follow_end_of_undo($trial);
+    }
+    if (php_sapi_name() != 'cli' && $trial['why'] == 'asked' && hand_to_watcher($trial)) {
+        return $trial;
+    }
+    if (php_sapi_name() == 'cli' && $trial['why'] == 'asked') {
+        pause(1); // until the answer to who asked has gone out
+    }
+    // What is still going on of the change itself ends in the same place of the trace log.
+    $from = $trial['ended'] == 0 ? $trial['trace'] : trace_size();
+    $mine = change_trial($trial['id'], array('undoing'), array('undo_began' => time(), 'undo_trace' => $from,
+        'undo_tries' => $trial['undo_tries'] + 1, 'undo_asked' => false),
+        array('undo_began' => $trial['undo_began'], 'undo_tries' => $trial['undo_tries']));
+    if (!$mine) {
+        return read_trial();
+    }
+    begin_change();
+    if (!put_back(session_of_trial($trial), $trial['kind'], $trial['before'])) {
+        end_undo($mine, change_failed(), array());
+    } elseif (change_failed()) {
+        end_undo($mine, true, array());
+    } else {
+        // Only from now on an end in the trace log is the end of this.
+        change_trial($mine['id'], array('undoing'), array('undo_asked' => true), array('undo_began' => $mine['undo_began']));
+    }
+    return read_trial();
+}
+
+// Whether the watcher does it: it is started once, and has some seconds to begin.
+function hand_to_watcher($trial)
+{
+    if ($trial['undo_handed'] > 0) {
+        $since = time() - $trial['undo_handed'];
+        return $since >= 0 && $since < 10;
+    }
+    return !change_trial($trial['id'], array('undoing'), array('undo_handed' => time()), array('undo_handed' => 0))
+        || start_watching();
+}
+
+// Several tries: a lock of the device may have been held by another change.
+function is_undo_late($trial)
+{
+    $since = time() - $trial['undo_began'];
+    return $trial['undo_tries'] < UNDO_TRIES && ($since < 0 || $since > UNDO_SECONDS);
+}
+
+function follow_end_of_undo($trial)
+{
+    $lines = traced_since($trial['undo_trace']);
+    $end = $trial['undo_asked'] ? how_it_ended($trial['kind'], $lines) : '';
+    if ($end != '') {
+        end_undo($trial, $end == 'failed', $lines);
+    } elseif ($trial['undo_tries'] >= UNDO_TRIES && time() - $trial['undo_began'] > UNDO_SECONDS) {
+        end_undo($trial, true, array());
+    }
+    return read_trial();
+}
+
+function end_undo($trial, $failed, $lines)
+{
+    if ($failed && $trial['undo_tries'] < UNDO_TRIES) {
+        change_trial($trial['id'], array('undoing'), array('undo_began' => 0));
+        return;
+    }
+    if (change_trial($trial['id'], array('undoing'), array('state' => 'undone', 'settled' => time(), 'undo_failed' => $failed,
+        'lines' => $lines))) {
+        audit_trial($trial, $failed ? 'could not be undone' : 'undone', $trial['by'] == '' ? $trial['user'] : $trial['by'],
+            $trial['from_client'], why_undone($trial));
+    }
+}
+
+function why_undone($trial)
+{
+    if ($trial['why'] == 'start') {
+        return 'the appliance started anew during the trial';
+    }
+    return $trial['why'] == 'time' ? 'nobody was back under the new settings in time' : 'asked for by ' . $trial['by'];
+}
+
+// The undo of a power cut, before the stored settings are put into force.
+function undo_at_start()
+{
+    $trial = read_trial();
+    if ($trial && $trial['seconds'] > 0 && ($trial['state'] == 'applying' || $trial['state'] == 'trial')) {
+        $trial = undo_trial($trial, 'start', '', '');
+    } elseif ($trial && $trial['state'] == 'undoing') {
+        // Whoever was at it is gone.
+        $trial = change_trial($trial['id'], array('undoing'), array('undo_began' => 0, 'undo_tries' => 0, 'why' => 'start'));
+    } elseif ($trial && $trial['state'] == 'applying') {
+        change_trial($trial['id'], array('applying'), array('state' => 'kept', 'settled' => time(), 'why' => 'no trial'));
+        return;
+    } else {
+        return;
+    }
+    // Nothing else goes on at a start.
+    change_trial($trial['id'], array('undoing'), array('ended' => 1));
+    watch_undo(UNDO_SECONDS * UNDO_TRIES);
+}
+
+// The process stays until the module's thread has come to its end.
+function watch_undo($seconds)
+{
+    for ($i = 0; $i < 2 * $seconds; $i++) {
+        $trial = advance_trial();
+        if (!$trial || is_settled($trial)) {
+            return;
+        }
+        pause(0.5);
+    }
+}
+
+// Waits for the end of the trial, whatever becomes of the web server and of who asked: the watcher's work.
+function watch_trial()
+{
+    $trial = read_trial();
+    $id = $trial ? $trial['id'] : '';
+    carry_out_later($trial);
+    // The steps are counted too: a clock that is set back must not lengthen the trial.
+    $limit = $trial ? $trial['seconds'] + 5 : 0;
+    for ($step = 0; $trial && $trial['id'] == $id && !is_settled($trial) && $step < 2 * ($limit + UNDO_SECONDS * UNDO_TRIES);
+        $step++) {
+        pause(0.5);
+        $trial = advance_trial($step > 2 * $limit);
+    }
+}
+
+// A change that would cut the connection before the answer is out is asked for here: 'later' holds the settings.
+function carry_out_later($trial)
+{
+    if (!$trial || !$trial['later']) {
+        return;
+    }
+    pause(2);
+    if (!change_trial($trial['id'], array('applying'), array('later' => array()), array('later' => $trial['later']))) {
+        return;
+    }
+    begin_change();
+    $is_traced = put_back(session_of_trial($trial), $trial['kind'], $trial['later']);
+    if (change_failed()) {
+        $failure = end($GLOBALS['failures']);
+        change_trial($trial['id'], array('applying'), array('state' => 'refused', 'settled' => time(),
+            'why' => $failure['message']));
+        audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], $failure['message']);
+    } elseif (!$is_traced) {
+        ended_at_once($trial);
+    }
+}
+
+// What the module is asked for is asked for in the name of who made the change.
+function session_of_trial($trial)
+{
+    $session = new Session();
+    $session->user = $trial['user'];
+    $session->role = 'admin';
+    return $session;
+}
+
+function pause($seconds)
+{
+    usleep((int) (1000000 * $seconds));
+}
+
+// Starts the process that watches; returns whether that worked.
+function start_watching()
+{
+    $lines = array();
+    $status = 1;
+    exec('/bin/sh ' . APPLIANCE_FOLDER . '/AppManager/bin/trialWatch.sh', $lines, $status);
+    return $status == 0;
+}
+
+function audit_trial($trial, $operation, $user, $client, $details)
+{
+    $values = array();
+    foreach ($trial['values'] as $name => $value) {
+        $values[] = $GLOBALS['kinds_of_change'][$trial['kind']]['labels'][$name] . ' ' . $value;
+    }
+    write_audit($user, $client, $GLOBALS['kinds_of_change'][$trial['kind']]['name'] . ' ' . $operation,
+        implode(', ', $values) . ($details == '' ? '' : '; ' . $details));
+}

@@ -1,0 +1,609 @@
+// Changes on trial: whoever makes one is never locked out.
+'use strict';
+
+const assert = require('node:assert/strict');
+const fs = require('node:fs');
+const http = require('node:http');
+const {execFileSync} = require('node:child_process');
+const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, ipv4ChangesOver, php, until, web,
+  withScript} = require('./appliance.cjs');
+const {accessibilityFaults, base, enterPassword, errorOf, messages, open, press, served, signIn, test} = require('./browser.cjs');
+
+const record = `${applianceFolder}/HTTPService/dat/trial`;
+
+// A field of the record of the change on trial.
+function trial(field) {
+  const text = fs.existsSync(record) ? fs.readFileSync(record, 'utf8') : '';
+  const found = text.match(new RegExp(`"${field}";(?:s:\\d+:"([^"]*)"|i:(\\d+))`));
+  return found ? found[1] ?? found[2] : '';
+}
+
+function audit() {
+  return fs.readFileSync(`${applianceFolder}/HTTPService/dat/audit`, 'utf8').trim().split('\n').map((line) => line.split('\t').slice(1));
+}
+
+// Lets so many seconds of the trial be over.
+function passes(seconds) {
+  const text = fs.readFileSync(record, 'utf8');
+  const [, began] = text.match(/"began";i:(\d+);/);
+  fs.writeFileSync(`${record}.test`, text.replace(`"began";i:${began};`, `"began";i:${began - seconds};`));
+  fs.renameSync(`${record}.test`, record);
+}
+
+// Until the trial is in this state.
+function reaches(state, seconds = 30) {
+  return until(() => trial('state') === state, `the trial to be ${state}`, seconds);
+}
+
+async function setStatic(ip) {
+  ask('ipv4Manager.sh', '-c', '-s', `${ip}?255.255.255.0?10.20.0.1`);
+  await until(() => ipv4Address() === ip, `the address ${ip}`);
+}
+
+async function fillStatic(page, ip, gateway = '10.20.0.1', seconds = '60') {
+  await open(page, 'ipv4.php');
+  await page.check('#mode-static');
+  await page.fill('#ip', ip);
+  await page.fill('#netmask', '255.255.255.0');
+  await page.fill('#gateway', gateway);
+  await page.selectOption('#trial', seconds);
+}
+
+// Sends the form, past the step at which the appliance warns.
+async function applyIfFree(page) {
+  await press(page, 'Apply');
+  if (await page.innerText('h1') === 'Before it is applied') await press(page, 'Apply');
+}
+
+async function apply(page) {
+  await applyIfFree(page);
+  assert.equal(await page.innerText('h1'), 'Applying');
+}
+
+test('A static address in the right network: the page arrives there with its session, and the change is kept', {}, async (page) => {
+  await setStatic('10.20.0.7');
+  await signIn(page);
+  await fillStatic(page, '10.20.0.8');
+  await press(page, 'Apply');
+  assert.equal(await page.innerText('h1'), 'Applying', 'nothing speaks against it: no further step');
+  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")');
+  assert.match(await page.innerText('#outcome'), /^Kept by admin: reached under the new settings\./);
+  assert.equal(trial('state'), 'kept');
+  assert.deepEqual(addresses('inet'), ['10.20.0.8/24']);
+  assert.deepEqual(audit().slice(-2).map(([user, client, operation]) => [user, client, operation]),
+    [['admin', '10.20.0.1', 'IPv4 settings begun'], ['admin', '10.20.0.1', 'IPv4 settings kept']]);
+  await press(page, 'Undo now');
+  await reaches('undone');
+  await until(() => ipv4Address() === '10.20.0.7', 'the address of before');
+});
+
+test('A static address in a wrong network: the settings of before come back by themselves', {}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '10.99.0.7', '10.99.0.1');
+  await press(page, 'Apply');
+  assert.equal(await page.innerText('h1'), 'Before it is applied');
+  assert.match(await page.innerText('main'), /Your computer has the address 10\.20\.0\.1, which is outside of the network of 10\.99\.0\.7/);
+  assert.match(await page.innerText('main'), /The gateway 10\.99\.0\.1 does not answer/);
+  await press(page, 'Back');
+  assert.equal(await page.inputValue('#ip'), '10.99.0.7', 'nothing typed is lost');
+  assert.equal(trial('to'), '10.20.0.8', 'nothing is on trial');
+  await apply(page);
+  await until(() => ipv4Address() === '10.99.0.7', 'the wrong address');
+  await reaches('trial');
+  await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+  const left = Number(await page.innerText('[data-countdown]'));
+  assert.ok(left > 30 && left < 60, `${left} seconds are left`);
+  passes(45);
+  await reaches('undone', 40);
+  assert.equal(ipv4Address(), '10.20.0.7');
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  assert.match(await page.innerText('#outcome'), /^Undone at [\d:]+ UTC, because nobody was back under the new settings within 60 seconds\./);
+  assert.equal(audit().at(-1)[2], 'IPv4 settings undone');
+});
+
+test('The same with the tab closed at once', {}, async (page, context) => {
+  await signIn(page);
+  await fillStatic(page, '10.99.0.7', '10.99.0.1');
+  await apply(page);
+  await context.clearCookies();
+  await page.goto('about:blank');
+  await until(() => ipv4Address() === '10.99.0.7', 'the wrong address');
+  await reaches('trial');
+  php('set_network_hostname($session, "shelf");');
+  passes(55);
+  await reaches('undone', 40);
+  assert.equal(ipv4Address(), '10.20.0.7');
+  assert.equal(inAppliance('hostname'), 'shelf', 'a name that was changed meanwhile stays');
+  php('set_network_hostname($session, "library");');
+});
+
+test('The right network and a wrong gateway: said before, and kept, as its maker is back', {}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '10.20.0.7', '10.20.0.66');
+  await press(page, 'Apply');
+  assert.match(await page.innerText('main'), /The gateway 10\.20\.0\.66 does not answer/);
+  assert.doesNotMatch(await page.innerText('main'), /Your computer|Another device/);
+  await press(page, 'Apply');
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.66 /);
+  await setStatic('10.20.0.7');
+});
+
+// Another device of the LAN under an address, while the work is done; with a web server when there is an answer.
+async function withOtherDevice(ip, answer, work) {
+  fromLan('ip', 'address', 'add', `${ip}/32`, 'dev', 'lan0');
+  const asked = [];
+  const server = http.createServer((request, response) => {
+    asked.push(request.url);
+    response.setHeader('Access-Control-Allow-Origin', '*');
+    response.end(answer);
+  });
+  try {
+    if (answer) await new Promise((resolve) => server.listen(80, ip, resolve));
+    await work(asked);
+  } finally {
+    server.closeAllConnections();
+    server.close();
+    fromLan('ip', 'address', 'del', `${ip}/32`, 'dev', 'lan0');
+  }
+}
+
+test('An address that another web server has: said before, and it gets neither the visitor nor the key', {}, async (page) => {
+  await signIn(page);
+  await withOtherDevice('10.20.0.9', 'Here is somebody else.', async (asked) => {
+    await fillStatic(page, '10.20.0.9');
+    await press(page, 'Apply');
+    assert.match(await page.innerText('main'), /Another device answers under 10\.20\.0\.9 already/);
+    await press(page, 'Apply');
+    await page.waitForSelector('[data-when-lost]:visible', {timeout: 30000});
+    await until(() => asked.length > 1, 'questions to the other web server');
+    assert.ok(page.url().startsWith('http://10.20.0.7/'), page.url());
+    passes(50);
+    await page.waitForSelector('h1:text-is("Undone")', {timeout: 40000});
+    assert.ok(asked.every((address) => /^\/trial\.php\?probe=[0-9a-f]{32}$/.test(address)), asked.join(' '));
+  });
+  assert.equal(ipv4Address(), '10.20.0.7');
+});
+
+test('An address that another host has, and the tab closed at once', {}, async (page) => {
+  await signIn(page);
+  await withOtherDevice('10.20.0.9', '', async () => {
+    await fillStatic(page, '10.20.0.9');
+    await apply(page);
+    await page.goto('about:blank');
+    await reaches('trial');
+    passes(55);
+    await reaches('undone', 40);
+  });
+  assert.equal(ipv4Address(), '10.20.0.7');
+});
+
+async function applyDhcp(page) {
+  await open(page, 'ipv4.php');
+  await page.check('#mode-dhcp');
+  await page.selectOption('#trial', '60');
+  await apply(page);
+}
+
+test('DHCP without a server: the page shows that the settings of before are back', {}, async (page) => {
+  await signIn(page);
+  // The client goes on asking, and nothing comes of it.
+  await withScript('dhcpv4Event.sh', 'exit 0', async () => {
+    await applyDhcp(page);
+    await reaches('trial');
+    assert.equal(ipv4Address(), undefined);
+    await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+    assert.match(await page.innerText('[data-when-lost]'), /Leave this page open: it shows when the settings of before are back/);
+    passes(50);
+    await reaches('undone', 40);
+  });
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  assert.equal(ipv4Address(), '10.20.0.7');
+});
+
+test('Another web server, and DHCP without a server, with the tab closed at once', {}, async (page) => {
+  const closed = async (begin) => {
+    await begin();
+    await page.goto('about:blank');
+    await reaches('trial');
+    passes(55);
+    await reaches('undone', 40);
+    assert.equal(ipv4Address(), '10.20.0.7');
+    await page.context().clearCookies();
+    await signIn(page);
+  };
+  await signIn(page);
+  await withOtherDevice('10.20.0.9', 'Here is somebody else.', () => closed(async () => {
+    await fillStatic(page, '10.20.0.9');
+    await apply(page);
+  }));
+  await withScript('dhcpv4Event.sh', 'exit 0', () => closed(() => applyDhcp(page)));
+});
+
+test('DHCP with a lease that nobody can guess: undone with the tab closed, kept by whoever signs in there', {}, async (page) => {
+  const earlier = `${applianceFolder}/HTTPService/dat/lease`;
+  const lease = () => until(() => ask('ipv4Manager.sh', '-d', 'status').match(/^(10\.20\.0\.1\d\d)\?/), 'a lease', 30);
+  await signIn(page);
+  fs.writeFileSync(earlier, '10.20.0.99');
+  await applyDhcp(page);
+  await page.goto('about:blank');
+  await lease();
+  await reaches('trial');
+  passes(55);
+  await reaches('undone', 40);
+  assert.equal(ipv4Address(), '10.20.0.7');
+
+  await page.context().clearCookies();
+  await signIn(page);
+  await applyDhcp(page);
+  const [, ip] = await lease();
+  await reaches('trial');
+  await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+  await page.context().clearCookies();
+  await page.goto(`http://${ip}/index.php`);
+  await enterPassword(page);
+  assert.match(await messages(page), /^IPv4 settings: Kept by admin: reached under the new settings\./);
+  assert.equal(trial('state'), 'kept');
+  await setStatic('10.20.0.7');
+});
+
+test('One trial at a time, and two administrators: the other one is offered to keep and to undo it', {}, async (page, context) => {
+  await signIn(page);
+  const other = await (await context.browser().newContext()).newPage();
+  await signIn(other);
+  await fillStatic(other, '10.20.0.9');
+  await fillStatic(page, '10.20.0.7', '10.20.0.66', '300');
+  await apply(page);
+  // Before the page's own request keeps it.
+  await page.goto('about:blank');
+  await applyIfFree(other);
+  assert.match(await messages(other), /IPv4 settings: a change by admin is on trial for \d+ more seconds/);
+  assert.match(await errorOf(other, 'mode'), /^Another change is on trial: keep or undo it first/);
+  assert.equal(await other.inputValue('#ip'), '10.20.0.9', 'nothing typed is lost');
+  await press(other, 'Undo now');
+  await reaches('undone');
+  await open(other, 'applying.php');
+  assert.match(await other.innerText('#outcome'), /^Undone at [\d:]+ UTC, because admin asked for it\./);
+  assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.1 /);
+  await other.context().close();
+});
+
+test('A form that was opened before somebody else\'s change overwrites nothing silently', {}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '10.20.0.8');
+  await setStatic('10.20.0.7');
+  ask('ipv4Manager.sh', '-c', '-s', '10.20.0.7?255.255.255.0?10.20.0.44');
+  await press(page, 'Apply');
+  assert.match(await page.innerText('main'), /Somebody has changed these settings since you opened the form/);
+  assert.match(await page.innerText('main'), /Gateway: 10\.20\.0\.1 when you opened it, 10\.20\.0\.44 now/);
+  assert.equal(await page.inputValue('#ip'), '10.20.0.8');
+  assert.equal(ipv4Address(), '10.20.0.7');
+  await setStatic('10.20.0.7');
+});
+
+test('So do those of the host name, the name servers and the agent; sent again, they are taken', {}, async (page) => {
+  const cases = [
+    ['ipv4.php', 'set_network_hostname($session, "shelf");', '#hostname', 'rack', 'Save name', /Name: library when you opened it, shelf now/,
+      () => inAppliance('hostname'), 'rack'],
+    ['dns.php', 'class D { var $dnsPrimary = "10.20.0.1"; var $dnsSecondary = ""; } set_network_dns($session, new D());', '#dnsPrimary',
+      '10.20.0.3', 'Save', /Primary server: none when you opened it, 10\.20\.0\.1 now/, () => ask('ipv6Manager.sh', '-g', 'dns'), '10.20.0.3'],
+    ['snmp.php', 'set_snmp_settings($session, (object) array("version1" => true, "trap1" => true, "trap2" => false, '
+      + '"auth_traps_enabled" => false, "community_name" => "theirs"));', '#community_name', 'mine', 'Save',
+    /Read community: public when you opened it, theirs now/, () => php('echo get_snmp_settings($session)->community_name;'), 'mine'],
+  ];
+  await signIn(page);
+  for (const [name, meanwhile, field, typed, button, said, now, wanted] of cases) {
+    await open(page, name);
+    await page.fill(field, typed);
+    php(meanwhile);
+    const theirs = now();
+    await press(page, button);
+    assert.match(await page.innerText('main'), said, name);
+    assert.equal(now(), theirs, name);
+    assert.equal(await page.inputValue(field), typed, name);
+    await press(page, button);
+    assert.equal(now(), wanted, name);
+  }
+  php('set_network_hostname($session, "library"); class D { var $dnsPrimary = ""; var $dnsSecondary = ""; } set_network_dns($session, new D());'
+    + 'set_snmp_settings($session, (object) array("version1" => true, "trap1" => true, "trap2" => false, '
+    + '"auth_traps_enabled" => false, "community_name" => "public"));');
+});
+
+test('An unchanged form changes nothing and says so', {}, async (page) => {
+  await signIn(page);
+  const logged = fs.statSync(`${web}/logs/php_extension.log`).size;
+  for (const [name, button] of [['ipv4.php', 'Apply'], ['dns.php', 'Save'], ['port.php', 'Save'], ['snmp.php', 'Save']]) {
+    await open(page, name);
+    await press(page, button);
+    assert.equal(await messages(page), 'These are the settings already; nothing was changed.', name);
+  }
+  for (const section of ['switch', 'sources', 'static-address']) {
+    await open(page, 'ipv6.php');
+    await press(page, section === 'static-address' ? 'Apply' : 'Save', `[aria-labelledby=${section}]`);
+    assert.equal(await messages(page), 'These are the settings already; nothing was changed.', section);
+  }
+  const trace = fs.readFileSync(`${web}/logs/php_extension.log`, 'utf8').slice(logged);
+  assert.match(trace, /ntering get_/);
+  assert.doesNotMatch(trace, /ntering set_/);
+});
+
+// Nothing is on trial any longer.
+async function keepWhatIs() {
+  if (trial('state') === 'trial' || trial('state') === 'applying') passes(400);
+  await until(() => ['', 'kept', 'undone', 'refused'].includes(trial('state')), 'the end of the trial', 40);
+}
+
+test('Keeping, and the end of the time, at the same instant: exactly one wins, 50 times', {}, async () => {
+  await keepWhatIs();
+  const code = 'require "/home/embedded/library/HTTPService/lighttpd/shared/page.php";';
+  const outcomes = inAppliance('php', '-r', `${code}
+    $session = new Session(); $session->user = "admin"; $session->role = "admin";
+    for ($round = 0; $round < 50; $round++) {
+      $before = settings_of($session, "ssl");
+      $record = new_trial($session, "ssl", array("https" => "Off"), $before, "", "", 300);
+      if (!begin_trial($record) || !ended_at_once($record)) { echo "no trial\\n"; exit; }
+      $start = microtime(true) + 0.05;
+      $running = array();
+      foreach (array("keep" => 'echo keep_trial($t, "asked", "one", "") ? 1 : 0;',
+          "undo" => '$t = undo_trial($t, "time", "", ""); echo $t["state"] == "undoing" ? 1 : 0;') as $wish => $do) {
+        $program = 'require "/home/embedded/library/HTTPService/lighttpd/shared/page.php"; $t = read_trial();'
+          . 'while (microtime(true) < ' . $start . ') {} ' . $do;
+        $running[$wish] = popen("php -r " . escapeshellarg($program), "r");
+      }
+      $said = array();
+      foreach ($running as $wish => $process) { $said[] = $wish . fgets($process); pclose($process); }
+      $now = read_trial();
+      echo implode(" ", $said), " ", $now["state"], "\\n";
+      // Nothing is to be put back here.
+      change_trial($now["id"], array("undoing"), array("state" => "undone", "settled" => time()));
+    }`).split('\n');
+  assert.equal(outcomes.length, 50, outcomes.join('\n'));
+  for (const outcome of outcomes) assert.ok(['keep1 undo0 kept', 'keep0 undo1 undoing'].includes(outcome), outcome);
+});
+
+test('The web server starts anew during a trial, and the watcher is killed: the time is over all the same', {}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '10.20.0.8');
+  await press(page, 'Apply');
+  await page.goto('about:blank');
+  process.kill(Number(fs.readFileSync('/run/appmanager/web/lighttpd.pid', 'utf8')), 'SIGUSR1');
+  await reaches('trial');
+  assert.equal(ipv4Address(), '10.20.0.8');
+  passes(55);
+  await reaches('undone', 40);
+  assert.equal(ipv4Address(), '10.20.0.7');
+
+  await served('http');
+  await page.context().clearCookies();
+  await signIn(page);
+  await fillStatic(page, '10.20.0.8');
+  await press(page, 'Apply');
+  await page.goto('about:blank');
+  await reaches('trial');
+  for (const watcher of fromLan('pgrep', '-f', '^php -r .*watch_trial').split('\n')) process.kill(Number(watcher), 'SIGKILL');
+  passes(65);
+  assert.equal(trial('state'), 'trial', 'nobody is there to undo it');
+  await fetch('http://10.20.0.8/index.php');
+  await until(async () => {
+    await fetch('http://10.20.0.7/index.php', {signal: AbortSignal.timeout(500)}).catch(() => {});
+    return trial('state') === 'undone';
+  }, 'the undoing by a request', 40);
+  assert.equal(ipv4Address(), '10.20.0.7');
+});
+
+test('IPv6 is switched on by a visitor over IPv4: proved over IPv6, and kept', {}, async (page) => {
+  await signIn(page);
+  await open(page, 'ipv6.php');
+  await page.check('#enabled');
+  await press(page, 'Save', '[aria-labelledby=switch]');
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  assert.ok(page.url().includes('10.20.0.7'), 'the page stays where it is');
+  const [user, client, what] = audit().at(-1);
+  assert.deepEqual([user, what], ['admin', 'IPv6 switch kept']);
+  assert.match(client, /^2001:db8:20::/);
+});
+
+test('IPv6 is switched off by a visitor over IPv6: the page goes on over IPv4 with its session', {}, async (page) => {
+  const [address] = await until(() => addresses('inet6').length > 0 && addresses('inet6'), 'an address');
+  await page.goto(`http://[${address.split('/')[0]}]/ipv6.php`);
+  await enterPassword(page);
+  await page.uncheck('#enabled');
+  await press(page, 'Save', '[aria-labelledby=switch]');
+  assert.match(await page.innerText('main'), /It goes on by itself to\s+http:\/\/10\.20\.0\.7\//);
+  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")');
+  assert.deepEqual(addresses('inet6'), []);
+});
+
+test('IPv6 modes: nobody proves them, so that they are undone; nothing of a part that is refused stays', {}, async (page) => {
+  php('set_ipv6_enabled($session, true);');
+  await signIn(page);
+  await open(page, 'ipv6.php');
+  await page.uncheck('#stateless');
+  await press(page, 'Save', '[aria-labelledby=sources]');
+  await reaches('trial');
+  assert.equal(ask('ipv6Manager.sh', '-l'), '0');
+  passes(85);
+  await reaches('undone', 40);
+  assert.equal(ask('ipv6Manager.sh', '-l'), '1');
+  await page.waitForSelector('h1:text-is("Undone")');
+  await withScript('ipv6Manager.sh', 'case "$*" in "-c -d on") exit 1 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
+    await open(page, 'ipv6.php');
+    await page.uncheck('#stateless');
+    await page.check('#dhcp');
+    await press(page, 'Save', '[aria-labelledby=sources]');
+    assert.match(await messages(page), /Failed to configure DHCP settings/);
+  });
+  assert.equal(ask('ipv6Manager.sh', '-l'), '1');
+  php('set_ipv6_enabled($session, false);');
+});
+
+test('HTTPS, and a browser that refuses the certificate: HTTP is back, and the page says so', {ignoreHTTPSErrors: false}, async (page) => {
+  await signIn(page, 'admin', 'security.php');
+  await page.check('#https-1');
+  await page.selectOption('#trial', '60');
+  await press(page, 'Save');
+  await served('https');
+  await page.click('text=Continue with HTTPS').catch(() => {});
+  await page.waitForURL(/^chrome-error|https:/, {timeout: 5000}).catch(() => {});
+  assert.equal(trial('state'), 'trial');
+  passes(57);
+  await reaches('undone', 40);
+  await served('http');
+  await page.goto(`${base()}index.php`);
+  assert.match(await messages(page), /^Web security: Undone at [\d:]+ UTC, because nobody was back/);
+  await open(page, 'index.php');
+  assert.equal(await messages(page), '', 'it is said once');
+});
+
+test('HTTPS that nobody goes to: the page that waits comes back to HTTP', {}, async (page) => {
+  await signIn(page, 'admin', 'security.php');
+  await page.check('#https-1');
+  await page.selectOption('#trial', '60');
+  await press(page, 'Save');
+  await served('https');
+  passes(57);
+  await page.waitForURL(`${base()}applying.php`, {timeout: 40000});
+  assert.match(await page.innerText('#outcome'), /^Undone at/);
+});
+
+test('Under HTTPS the session moves along to another address, too', {}, async (page) => {
+  php('set_ssl_settings($session, true);');
+  await served('https');
+  await signIn(page, 'admin', 'ipv4.php', 'https');
+  await fillStatic(page, '10.20.0.8');
+  await press(page, 'Apply');
+  await page.waitForURL('https://10.20.0.8/applying.php', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")');
+  php('set_ssl_settings($session, false);');
+  await served('http');
+  await setStatic('10.20.0.7');
+});
+
+test('Without scripts the session moves along as well', {javaScriptEnabled: false}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '10.20.0.8');
+  await press(page, 'Apply');
+  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+  assert.equal(await page.innerText('h1'), 'Kept');
+  await press(page, 'Undo now');
+  await reaches('undone');
+  await until(() => ipv4Address() === '10.20.0.7', 'the address of before');
+});
+
+test('The key is good for one use, for the right address, and for nobody who guesses', {}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '10.20.0.8');
+  await press(page, 'Apply');
+  const key = await page.getAttribute('[data-key]', 'data-key');
+  assert.match(key, /^[0-9a-f]{32}$/);
+  const use = async (where, value) => {
+    const answer = await fetch(`http://${where}/trial.php`, {method: 'POST', redirect: 'manual', body: new URLSearchParams({key: value})});
+    const cookie = (answer.headers.get('set-cookie') || '').split(';')[0];
+    const text = await (await fetch(`http://${where}/index.php`, {headers: {cookie}})).text();
+    return /<nav/.test(text);
+  };
+  assert.equal(await use('10.20.0.7', key), false, 'the old address proves nothing');
+  assert.ok(!fs.readFileSync(record, 'utf8').includes(key), 'only its hash is stored');
+  await page.goto('about:blank');
+  await reaches('trial');
+  assert.equal(await use('10.20.0.8', '0'.repeat(32)), false);
+  assert.equal(await use('10.20.0.8', key), true);
+  assert.equal(trial('state'), 'kept');
+  assert.equal(await use('10.20.0.8', key), false);
+  await setStatic('10.20.0.7');
+});
+
+test('The trial by the keyboard alone, read out, and 390 pixels wide', {viewport: {width: 390, height: 844}}, async (page) => {
+  await signIn(page);
+  await open(page, 'ipv4.php');
+  await page.focus('#gateway');
+  await page.keyboard.press('Control+A');
+  await page.keyboard.type('10.20.0.66');
+  const stop = async (label) => {
+    for (let i = 0; i < 40; i += 1) {
+      await page.keyboard.press('Tab');
+      if ((await page.evaluate(() => document.activeElement.innerText)).startsWith(label)) return;
+    }
+    throw new Error(`The keyboard does not reach ${label}.`);
+  };
+  await page.keyboard.press('Enter');
+  await page.waitForSelector('h1:text-is("Before it is applied")');
+  assert.deepEqual(await accessibilityFaults(page), []);
+  await stop('Apply');
+  await page.keyboard.press('Enter');
+  await page.waitForSelector('h1:text-is("Applying")');
+  assert.equal(await page.getAttribute('#outcome', 'role'), 'status', 'what becomes of it is read out');
+  assert.equal(await page.getAttribute('[data-countdown]', 'aria-live'), 'off', 'the seconds are not');
+  assert.deepEqual(await accessibilityFaults(page), []);
+  assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth));
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  await stop('Undo now');
+  await page.keyboard.press('Enter');
+  await reaches('undone');
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  assert.deepEqual(await accessibilityFaults(page), []);
+  assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth));
+});
+
+test('An IPv6 address that another host has is said before', {}, async (page) => {
+  php('set_ipv6_enabled($session, true);');
+  await until(() => addresses('inet6').length > 0, 'an address');
+  await signIn(page);
+  await open(page, 'ipv6.php');
+  await page.check('#static');
+  await page.fill('#ipStatic', '2001:db8:20::1');
+  await page.fill('#gateway', 'fe80::1');
+  await press(page, 'Apply');
+  assert.match(await page.innerText('main'), /Another device answers under 2001:db8:20::1 already/);
+  assert.match(await page.innerText('main'), /The gateway fe80::1 does not answer/);
+  await press(page, 'Back');
+  assert.equal(await page.inputValue('#ipStatic'), '2001:db8:20::1');
+  assert.ok(await page.isChecked('#static'));
+  php('set_ipv6_enabled($session, false);');
+});
+
+test('The internal network is refused at its field', {}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '192.168.250.7', '192.168.250.1');
+  await press(page, 'Apply');
+  assert.match(await errorOf(page, 'ip'), /^The network 192\.168\.250\.0\/24 is used inside the appliance/);
+});
+
+test('The script that asks the network takes an address and nothing else', {}, () => {
+  assert.equal(ask('probeAddress.sh', '10.20.0.1'), 'answers');
+  assert.equal(ask('probeAddress.sh', '10.20.0.66'), 'silent');
+  for (const word of ['', '-f', '10.20.0.1 10.20.0.2', '10.20.0.1;id', 'lan.test', '-I lo']) {
+    assert.throws(() => ask('probeAddress.sh', word), /is none/, word);
+  }
+  assert.throws(() => ask('probeAddress.sh'), /are none of/);
+});
+
+test('Who may only look sees the trial, and no buttons', {}, async (page, context) => {
+  await signIn(page);
+  const other = await (await context.browser().newContext()).newPage();
+  await signIn(other, 'monitor');
+  await fillStatic(page, '10.20.0.8');
+  await press(page, 'Apply');
+  await open(other, 'index.php');
+  assert.match(await messages(other), /IPv4 settings: a change by admin is on trial for \d+ more seconds/);
+  assert.equal(await other.locator('main button').count(), 0);
+  await open(other, 'applying.php');
+  assert.equal(await other.locator('main button').count(), 0);
+  assert.equal(await other.locator('[data-key]').evaluateAll((all) => all.map((way) => way.dataset.key).join('')), '', 'nor the key');
+  await other.context().close();
+  await press(page, 'Undo now');
+  await reaches('undone');
+});
+
+test('What was on trial is in the audit under Diagnostics', {user: 'admin'}, async (page) => {
+  await open(page, 'diagnostics.php?live=0');
+  const said = await page.innerText('[aria-labelledby=audit]');
+  assert.match(said, /IPv4 settings undone/);
+  assert.match(said, /asked for by admin/);
+  assert.match(said, /Address 10\.20\.0\.8/);
+  // As the other tests find it.
+  ask('ipv4Manager.sh', '-c', '-d', 'on');
+  await until(() => /^10\.20\.0\.1\d\d$/.test(ipv4Address()), 'a lease');
+});
