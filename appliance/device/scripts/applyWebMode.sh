@@ -125,6 +125,7 @@ restart_web_server() {
 
 apply_mode() {
   enabled=$(query 'SELECT ssl_enabled FROM settings') || fail 'the SSL mode cannot be read'
+  case $enabled in 0 | 1) ;; *) fail 'the SSL mode is missing in the management database' ;; esac
   [ "$enabled" = 0 ] || require_certificate
   store_mode "$enabled" || fail "$MODE cannot be written"
   restart_web_server "$enabled"

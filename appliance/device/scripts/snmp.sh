@@ -31,6 +31,10 @@ STATELESS='--noPersistentLoad=yes --noPersistentSave=yes'
 read_agent_settings() {
   settings=$(query 'SELECT version1, version2, version3, trap1, trap2, auth_traps_enabled, read_community FROM snmp_agent') ||
     fail 'the SNMP settings cannot be read'
+  case $settings in
+  [01]\ [01]\ [01]\ [01]\ [01]\ [01]\ ?*) ;;
+  *) fail 'the SNMP settings are missing in the management database' ;;
+  esac
   read -r version1 version2 version3 trap1 trap2 auth_traps community <<SETTINGS
 $settings
 SETTINGS
