@@ -438,6 +438,14 @@ TEST_F(AppConfigTest, AWebServiceThatDoesNotFollowFailsTheChangeOfTheModeWhichSt
       Audit());
 }
 
+TEST_F(AppConfigTest, AChangeOfTheModeThatCannotBeTakenBackFailsWithItsFirstReason) {
+  WriteScript(places.applyWebMode, "sqlite3 " + places.database + " 'DELETE FROM settings'; exit 3");
+  const std::string said = Said([&] { EXPECT_EQ(Result::Failed, config->setSSLEnabled(true)); });
+  EXPECT_EQ("setSSLEnabled: the settings are missing in the database\nsetSSLEnabled: " + places.applyWebMode +
+                " ended with exit status 3\n",
+            said);
+}
+
 // Of two that meet, the second must not take what the first has stored for the mode of before.
 TEST_F(AppConfigTest, TwoChangesOfTheModeAtOnceThatBothFailLeaveTheModeThatWas) {
   WriteScript(places.applyWebMode, "echo >>" + folder + "/begun; sleep 0.5; exit 1");

@@ -116,6 +116,90 @@ TEST_F(CopiesTest, AnEmptyOrMissingFileComesBackFromTheCopy) {
   EXPECT_EQ("kept\n", CommunityNow());
 }
 
+TEST_F(CopiesTest, AnImpossibleVersionComesBackFromTheCopy) {
+  for (const char* version : {"-1", "-2147483648", "10000", "2147483647"}) {
+    Store("kept");
+    Ask("PRAGMA user_version = " + std::string(version));
+    ExpectKept();
+    Ask("DELETE FROM audit");
+  }
+}
+
+// What is in the folder is kept, too.
+TEST_F(CopiesTest, AFolderInThePlaceOfTheDatabaseIsPutAsideAndTheCopyComesBack) {
+  Store("kept");
+  Settle();
+  for (const char* ending : {"", "-wal", "-shm"}) std::filesystem::remove(places.database + ending);
+  std::filesystem::create_directories(places.database + "/inside");
+  ExpectKept();
+  EXPECT_TRUE(std::filesystem::is_directory(places.database + ".damaged/inside"));
+}
+
+TEST_F(CopiesTest, AFolderInThePlaceOfTheLogIsPutAsideAndTheCopyComesBack) {
+  for (const char* ending : {"-wal", "-shm"}) {
+    Store("kept");
+    Settle();
+    std::filesystem::remove(places.database + ending);
+    std::filesystem::create_directories(places.database + ending + "/inside");
+    ExpectKept();
+    EXPECT_TRUE(std::filesystem::is_directory(places.database + ".damaged" + ending + "/inside")) << ending;
+    Ask("DELETE FROM audit");
+  }
+}
+
+TEST_F(CopiesTest, FoldersInTheWayOfWhatIsPutAsideAndOfWhatIsRestoredGo) {
+  Store("kept");
+  Settle();
+  for (const char* ending : {".damaged", ".damaged-wal", ".damaged-shm", ".restored", ".restored-wal"}) {
+    std::filesystem::create_directories(places.database + ending + "/inside");
+  }
+  OverwriteBehind(0, places.database);
+  const std::string damaged = Contents(places.database);
+  ExpectKept();
+  EXPECT_TRUE(damaged == Contents(places.database + ".damaged"));
+  EXPECT_FALSE(std::filesystem::exists(places.database + ".damaged-wal/inside"));
+}
+
+// As a start leaves it that was interrupted when the damaged database had been put aside, but not yet its
+// log.
+TEST_F(CopiesTest, AStartThatIsInterruptedKeepsTheLogWithItsDatabase) {
+  Store("kept");
+  const std::string log = "the log";
+  std::ofstream(places.database + ".damaged") << "the database";
+  std::ofstream(places.database + ".damaged-shm") << "its index";
+  for (const char* ending : {"", "-wal", "-shm"}) std::filesystem::remove(places.database + ending);
+  std::ofstream(places.database + "-wal") << log;
+  ExpectKept();
+  EXPECT_EQ("the database", Contents(places.database + ".damaged"));
+  EXPECT_EQ(log, Contents(places.database + ".damaged-wal"));
+  EXPECT_EQ("its index", Contents(places.database + ".damaged-shm"));
+}
+
+TEST_F(CopiesTest, ALogWithoutDatabaseAndCopyIsKeptAndSaid) {
+  std::ofstream(places.database + "-wal") << "the log";
+  ExpectDefaults();
+  EXPECT_EQ("the log", Contents(places.database + ".damaged-wal"));
+}
+
+TEST_F(CopiesTest, ALinkToNowhereInThePlaceOfTheDatabaseIsReplacedByTheCopy) {
+  Store("kept");
+  Settle();
+  for (const char* ending : {"", "-wal", "-shm"}) std::filesystem::remove(places.database + ending);
+  std::filesystem::create_symlink("management.db", places.database);
+  ExpectKept();
+}
+
+TEST_F(CopiesTest, ARestorationLeavesTheAuditItsNewestTenThousandRows) {
+  Store("kept");
+  Ask(R"(WITH RECURSIVE numbers(number) AS (SELECT 2 UNION ALL SELECT number + 1 FROM numbers WHERE number < 10000)
+         INSERT INTO audit (user, operation, "values", result) SELECT '', 'filler', number, 'stored' FROM numbers)");
+  EXPECT_EQ("", BringIntoOrder());
+  Settle();
+  OverwriteBehind(0, places.database);
+  ExpectKept();
+  EXPECT_EQ("10000|2|10001\n", Ask("SELECT count(*), min(number), max(number) FROM audit"));
+}
+
 TEST_F(CopiesTest, ALogThatIsLeftOfALostDatabaseIsNotAppliedToTheCopy) {
   Store("kept");
   const std::string copy = Contents(places.database + ".copy");

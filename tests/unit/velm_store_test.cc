@@ -190,7 +190,7 @@ TEST_F(AppConfigTest, AnOlderDatabaseIsBroughtForwardWithWhatItHolds) {
   EXPECT_EQ("public", Community());
   EXPECT_EQ(Result::Succeeded, SetCommunity("new"));
   EXPECT_EQ("7|first\n8|operator\n", Ask("SELECT number, user FROM audit ORDER BY number"));
-  EXPECT_EQ("3\n", Ask("PRAGMA user_version"));
+  EXPECT_EQ("4\n", Ask("PRAGMA user_version"));
 }
 
 TEST_F(StoreTest, OfSeveralProcessesThatFindNoDatabaseOneMakesItAndTheOthersWait) {
@@ -221,7 +221,7 @@ TEST_F(StoreTest, OfSeveralProcessesThatFindNoDatabaseOneMakesItAndTheOthersWait
 }
 
 TEST_F(AppConfigTest, ANewerDatabaseIsRefusedAndStaysUntouched) {
-  Ask("CREATE TABLE settings (something_else TEXT); PRAGMA user_version = 4;");
+  Ask("CREATE TABLE settings (something_else TEXT); PRAGMA user_version = 5;");
   const std::string before = Contents(places.database);
   std::uint32_t ssl = 7;
   const std::string said = Said([&] {
@@ -230,7 +230,7 @@ TEST_F(AppConfigTest, ANewerDatabaseIsRefusedAndStaysUntouched) {
   });
   EXPECT_EQ(7U, ssl);
   const std::string sentence = "database " + places.database +
-                               ": has version 4, this program knows versions up to 3; it stays untouched, "
+                               ": has version 5, this program knows versions up to 4; it stays untouched, "
                                "use the program that wrote it or a newer one\n";
   EXPECT_EQ("getSSLEnabled: " + sentence + "setSSLEnabled: " + sentence, said);
   EXPECT_TRUE(before == Contents(places.database));

@@ -32,15 +32,20 @@ certificate_names() {
 }
 
 # The key is made once; the certificate again when the appliance has got another name or address, or when
-# it is about to end. Both again when they are damaged.
+# it is about to end. Both again when they are damaged. One that can be used stays in use where no other can be made.
 require_certificate() {
   names=$(certificate_names)
   read_line names_of_before "$CERTIFICATE_NAMES"
-  if [ "$names_of_before" != "$names" ] || ! is_of_key ||
-    ! openssl x509 -checkend "$RENEWED_BEFORE" -noout -in "$CERTIFICATE" >/dev/null 2>&1; then
-    (umask 077 && make_certificate "$names") 2>"$RUN/certificate.log" ||
-      fail "no certificate can be made: $(tail -n 1 "$RUN/certificate.log")"
-  fi
+  [ "$names_of_before" = "$names" ] && is_usable "$RENEWED_BEFORE" && return
+  (umask 077 && make_certificate "$names") 2>"$RUN/certificate.log" && return
+  reason="no certificate can be made: $(tail -n 1 "$RUN/certificate.log")"
+  is_usable 0 || fail "$reason"
+  complain "$reason; the one that is there stays in use"
+}
+
+# is_usable SECONDS: for so long.
+is_usable() {
+  is_of_key && openssl x509 -checkend "$1" -noout -in "$CERTIFICATE" >/dev/null 2>&1
 }
 
 # With a certificate of another key, as a change leaves it that was interrupted, the web server would not start.
@@ -110,6 +115,14 @@ store_mode() {
   configuration=$(mode_configuration "$1") && store_file "$MODE" "$configuration"
 }
 
+# A running web server that is told to start anew with what it does not take would end. Renaming needs no room.
+require_that_the_server_takes_it() {
+  [ -s "$WEB_SERVER_PROCESS" ] || return 0
+  refusal=$(lighttpd -tt -f "$CONFIGURATION/lighttpd.conf" 2>&1) && return
+  mv -fT "$MODE.before" "$MODE"
+  fail "the web server does not take its new configuration: $(printf '%s\n' "$refusal" | tail -n 1)"
+}
+
 # Starting anew by itself, the server takes new connections all the while; but only webServer.sh, its parent, can have
 # it give up the sockets of HTTPS.
 restart_web_server() {
@@ -125,8 +138,13 @@ restart_web_server() {
 
 apply_mode() {
   enabled=$(query 'SELECT ssl_enabled FROM settings') || fail 'the SSL mode cannot be read'
+  case $enabled in 0 | 1) ;; *) fail 'the SSL mode is missing in the management database' ;; esac
   [ "$enabled" = 0 ] || require_certificate
+  rm -f "$MODE.before"
+  ln "$MODE" "$MODE.before" 2>/dev/null
   store_mode "$enabled" || fail "$MODE cannot be written"
+  require_that_the_server_takes_it
+  rm -f "$MODE.before"
   restart_web_server "$enabled"
 }
 
@@ -142,7 +160,6 @@ go_back() {
 }
 
 end_interrupted_change() {
-  lock 8 "$DATABASE.ssl_lock"
   before=$(query 'SELECT ssl_enabled_before FROM settings') || fail 'the SSL mode cannot be read'
   if [ -z "$before" ]; then
     apply_mode
@@ -153,9 +170,15 @@ end_interrupted_change() {
   fi
 }
 
-lock 9 "$RUN/web_mode.lock"
 case $#$* in
-0) apply_mode ;;
-1start) end_interrupted_change ;;
+0)
+  lock 9 "$RUN/web_mode.lock"
+  apply_mode
+  ;;
+1start) # the locks in the order of a change, which calls this script with the first of them
+  lock 8 "$DATABASE.ssl_lock"
+  lock 9 "$RUN/web_mode.lock"
+  end_interrupted_change
+  ;;
 *) refuse_call 'none, "start"' "$@" ;;
 esac

@@ -13,9 +13,15 @@ query() {
   sqlite3 -separator ' ' -cmd '.timeout 10000' "file:$DATABASE?mode=rw" "$1"
 }
 
-# store_file FILE TEXT: like `store`, in any folder. Without room for the text the old file stays.
+# store_file FILE TEXT: like `store`, in any folder. Without room for the text the old file stays; one that holds the
+# text already needs none.
 store_file() {
+  ! holds_text "$1" "$2" || return 0
   (SETTINGS=${1%/*} && store "${1##*/}" "$2")
+}
+
+holds_text() {
+  [ -f "$1" ] && printf '%s\n' "$2" | cmp -s - "$1"
 }
 
 # lock DESCRIPTOR FILE: waits for its turn; the lock is held until the descriptor is closed.

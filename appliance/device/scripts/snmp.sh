@@ -18,11 +18,12 @@ TEST_TRAP=.1.3.6.1.4.1.8072.2.3.0.1 # net-snmp's example notification
 
 export SNMP_PERSISTENT_DIR="$AGENT_STATE" MIBS=
 
-# Together these take less than 5 seconds, whatever the receivers of traps do.
+# How long the receivers of traps can keep a start waiting: the first three together, less than 5 seconds. The agent
+# connects to them before it has started; afterwards it waits for none.
 SECONDS_TO_CONNECT=1.5 # to all receivers at once
-SECONDS_TO_STOP=1
-SECONDS_TO_START=2 # the agent, which connects to the receivers before it answers
-SECONDS_TO_SEND=3  # a test trap
+SECONDS_TO_STOP=1      # before it is killed
+SECONDS_TO_START=2
+SECONDS_TO_SEND=3 # a test trap
 
 # The programs that ask and send run at the same time as others, which all would write the same file.
 STATELESS='--noPersistentLoad=yes --noPersistentSave=yes'
@@ -31,6 +32,10 @@ STATELESS='--noPersistentLoad=yes --noPersistentSave=yes'
 read_agent_settings() {
   settings=$(query 'SELECT version1, version2, version3, trap1, trap2, auth_traps_enabled, read_community FROM snmp_agent') ||
     fail 'the SNMP settings cannot be read'
+  case $settings in
+  [01]\ [01]\ [01]\ [01]\ [01]\ [01]\ ?*) ;;
+  *) fail 'the SNMP settings are missing in the management database' ;;
+  esac
   read -r version1 version2 version3 trap1 trap2 auth_traps community <<SETTINGS
 $settings
 SETTINGS
@@ -92,6 +97,7 @@ line() {
   printf '%s\n' "$*"
 }
 
+# Prints it, from what restart_agent has read.
 agent_configuration() {
   line "agentaddress $AGENT_ADDRESSES"
   line 'view all included .1'
@@ -114,14 +120,12 @@ agent_configuration() {
 }
 
 store_agent_configuration() {
-  {
-    configuration=$(agent_configuration) && (umask 077 && store_file "$AGENT_CONFIGURATION" "$configuration")
-  } || fail 'the SNMP agent stays as it is'
+  configuration=$(agent_configuration) && (umask 077 && store_file "$AGENT_CONFIGURATION" "$configuration")
 }
 
-# Waits until it does, 6 seconds at most.
+# Waits until it does, 2.5 seconds at most: it listens already. As restart_agent has read the settings.
 agent_answers() {
-  set -- $STATELESS -t 0.3 -r 20 -Oqv
+  set -- $STATELESS -t 0.5 -r 4 -Oqv
   if [ "$version3" = 1 ]; then
     set -- "$@" -v 3 -l authNoPriv -u "$user" -a MD5 -A "$passphrase"
   elif [ "$version2" = 1 ]; then
@@ -163,28 +167,28 @@ start_agent_without_connections() {
     case $receiver in udp*) receivers_by_udp="$receivers_by_udp $receiver" ;; esac
   done
   reachable=$receivers_by_udp
-  store_agent_configuration
-  start_agent
+  store_agent_configuration && start_agent
 }
 
-# One at a time. The old agent goes when the configuration of the new one is there.
+# One at a time. The old agent goes when the configuration of the new one is there. Sets what read_agent_settings and
+# read_agent_user read, and reachable, the receivers that the agent sends to.
 restart_agent() {
   lock 9 "$AGENT_LOCK"
   read_agent_settings
   read_agent_user
   find_reachable_receivers
-  store_agent_configuration
+  store_agent_configuration || fail 'the SNMP agent stays as it is'
   stop_agent
   start_agent || start_agent_without_connections || fail "the SNMP agent does not start: $(tail -n 1 "$AGENT_LOG")"
   agent_answers || fail "the SNMP agent does not answer: $(tail -n 1 "$AGENT_LOG")"
   exec 9>&-
 }
 
-# send_test_trap VERSION RECEIVER
+# send_test_trap VERSION COMMUNITY RECEIVER
 send_test_trap() {
   if [ "$1" = 1 ]; then
-    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 -c "$community" "$2" "${TEST_TRAP%.0.1}" '' 6 1 ''
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 -c "$2" "$3" "${TEST_TRAP%.0.1}" '' 6 1 ''
   else
-    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" -c "$community" "$2" '' "$TEST_TRAP"
-  fi || complain "no version $1 trap could be sent to $2"
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" -c "$2" "$3" '' "$TEST_TRAP"
+  fi || complain "no version $1 trap could be sent to $3"
 }

@@ -29,8 +29,6 @@ using TarnAbstract::StringAccess;
 
 // Changes of the mode wait for one another; making a key takes long on a slow device.
 constexpr std::chrono::seconds PatienceForTheMode(60);
-// The oldest go first.
-constexpr std::int64_t MostAuditRows = 10000;
 
 constexpr char SSLEnabledQuery[] = "SELECT ssl_enabled FROM settings";
 
@@ -158,9 +156,6 @@ void AppConfig::Change(const char* operation, const std::string& values,
         .Bind(values)
         .Bind(refusal ? std::string("refused: ") + refusal->what() : "stored")
         .Step();
-    database.Prepare("DELETE FROM audit WHERE number <= (SELECT max(number) FROM audit) - ?")
-        .Bind(MostAuditRows)
-        .Step();
   });
   if (refusal) throw Refused(*refusal);
 }
@@ -211,7 +206,8 @@ Result::Code AppConfig::setSSLEnabled(bool enabled) {
     try {
       RunScript(places_.applyWebMode);
     } catch (const ServiceError&) {
-      GoBackToTheModeOfBefore();
+      // Where that fails it is said, too; the change fails with the first reason.
+      static_cast<void>(Answer("setSSLEnabled", [&] { GoBackToTheModeOfBefore(); }));
       throw;
     }
     ForgetTheModeOfBefore();

@@ -21,7 +21,7 @@ const char* const RestorationInTheAudit = "restoreSettings";
 namespace {
 
 constexpr std::chrono::seconds Patience(10);
-// What SQLite keeps beside a database. The log first: it must not be applied to another database.
+// What SQLite keeps beside a database.
 constexpr const char* Companions[] = {"-wal", "-shm"};
 
 [[noreturn]] void FailAt(const std::string& path) { throw ServiceError(path + ": " + std::strerror(errno)); }
@@ -50,21 +50,34 @@ void Replace(const std::string& path, const std::string& by) {
   Sync(path.substr(0, path.rfind('/') + 1));
 }
 
-void RemoveDatabase(const std::string& path) {
-  for (const char* companion : Companions) Remove(path + companion);
-  Remove(path);
+// Also a folder with all that is in it.
+void RemoveAll(const std::string& path) {
+  std::error_code error;
+  std::filesystem::remove_all(path, error);
+  if (error) throw ServiceError(path + ": " + error.message());
 }
 
+void RemoveDatabase(const std::string& path) {
+  for (const char* companion : Companions) RemoveAll(path + companion);
+  RemoveAll(path);
+}
+
+// Whatever it is.
+bool Exists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
+
+// The database before its log: a start that is interrupted between the two leaves both to the next one, which
+// puts the log beside what was put aside already.
 void PutAside(const std::string& path) {
   const std::string aside = path + ".damaged";
-  for (const char* companion : Companions) {
-    if (access((path + companion).c_str(), F_OK) == 0) {
-      Rename(path + companion, aside + companion);
-    } else {
-      Remove(aside + companion);
-    }
+  if (Exists(path)) {
+    RemoveDatabase(aside);
+    Rename(path, aside);
   }
-  if (access(path.c_str(), F_OK) == 0) Rename(path, aside);
+  for (const char* companion : Companions) {
+    if (!Exists(path + companion)) continue;
+    RemoveAll(aside + companion);
+    Rename(path + companion, aside + companion);
+  }
 }
 
 std::int64_t SettingsRows(Database& database) {
@@ -99,9 +112,28 @@ void RequireInOrder(Database& database) {
   }
 }
 
+// Throws Damaged for a folder, say, in the place of one of its files.
+void RequireFiles(const std::string& path) {
+  for (const char* ending : {"", "-wal", "-shm"}) {
+    if (Exists(path + ending) && !std::filesystem::is_regular_file(path + ending)) {
+      throw Damaged(path + ending + " is no file");
+    }
+  }
+}
+
+// SQLite takes an empty file for a new database; a new one has nothing beside it yet.
+void RequireNotLost(const std::string& path) {
+  if (IsThere(path)) return;
+  for (const char* ending : {".copy", ".restored", "-wal"}) {
+    if (IsThere(path + ending)) throw Damaged("it is missing or empty");
+  }
+}
+
 // Empty, or what is damaged.
 std::string DamageOf(const std::string& path) {
   try {
+    RequireFiles(path);
+    RequireNotLost(path);
     Database database(path, Patience);
     RequireInOrder(database);
     return "";
@@ -147,9 +179,7 @@ void TryToKeepCopy(Database& database, const std::string& path) noexcept {
 }
 
 void BringIntoOrder(const std::string& path) {
-  // SQLite takes an empty file for a new database.
-  const bool isLost = !IsThere(path) && IsThere(path + ".copy");
-  const std::string damage = isLost ? "it is missing or empty" : DamageOf(path);
+  const std::string damage = DamageOf(path);
   if (!damage.empty()) Restore(path, damage);
   Database database(path, Patience);
   TryToKeepCopy(database, path);

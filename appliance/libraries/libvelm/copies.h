@@ -15,7 +15,7 @@ void TryToKeepCopy(Database& database, const std::string& path) noexcept;
 // For the start, before anything else uses the database: looks through all of it. When it is damaged it is
 // put aside as PATH.damaged, in its place comes the copy or, without a good one, what a new appliance has;
 // standard error and the audit say so. Throws ServiceError when the database, in order or not, cannot be
-// used.
+// used: it is of a newer program, say, or the disk is full.
 void BringIntoOrder(const std::string& path);
 
 // The operation of the row in the audit that says that the settings were damaged; its values say what the

@@ -64,11 +64,18 @@ constexpr const char* InterruptedModeChange = R"sql(
 ALTER TABLE settings ADD COLUMN ssl_enabled_before INTEGER CHECK (ssl_enabled_before IN (0, 1));
 )sql";
 
+// Whoever inserts a row, the oldest go first.
+constexpr const char* EndOfTheAudit = R"sql(
+CREATE TRIGGER audit_keeps_its_newest_rows AFTER INSERT ON audit BEGIN
+  DELETE FROM audit WHERE number <= NEW.number - 10000;
+END;
+)sql";
+
 }  // namespace
 
 const std::vector<const char*>& SchemaSteps() {
   static const auto* const steps =
-      new std::vector<const char*>{WebServiceAndAudit, SNMPAgent, InterruptedModeChange};
+      new std::vector<const char*>{WebServiceAndAudit, SNMPAgent, InterruptedModeChange, EndOfTheAudit};
   return *steps;
 }
 

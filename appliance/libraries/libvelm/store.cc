@@ -20,8 +20,17 @@ namespace {
 
 [[noreturn]] void Fail(const std::string& path, sqlite3* connection) {
   const std::string sentence = "database " + path + ": " + sqlite3_errmsg(connection);
+  switch (sqlite3_extended_errcode(connection)) {
+    case SQLITE_IOERR_READ:
+    case SQLITE_IOERR_SHORT_READ:
+    case SQLITE_IOERR_CORRUPTFS:
+      throw Damaged(sentence);
+    default:
+      break;
+  }
   switch (sqlite3_errcode(connection)) {
-    case SQLITE_ERROR:  // a table is not there: all commands are right
+    case SQLITE_ERROR:     // a table is not there: all commands are right
+    case SQLITE_CANTOPEN:  // the folder is there
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
       throw Damaged(sentence);
@@ -34,6 +43,9 @@ namespace {
   const char* const path = sqlite3_db_filename(connection, "main");
   Fail(path == nullptr ? "" : path, connection);
 }
+
+// A higher one, or one below 0, was written by no program of ours.
+constexpr std::int64_t HighestVersionThatMayCome = 9999;
 
 std::int64_t NewestVersion() { return static_cast<std::int64_t>(SchemaSteps().size()); }
 
@@ -140,6 +152,9 @@ void Database::UseWriteAheadLog() {
 void Database::RequireKnownVersion() {
   const std::int64_t version = Version();
   if (version >= 0 && version <= NewestVersion()) return;
+  if (version < 0 || version > HighestVersionThatMayCome) {
+    throw Damaged("database " + path_ + ": has the impossible version " + std::to_string(version));
+  }
   throw ServiceError("database " + path_ + ": has version " + std::to_string(version) +
                      ", this program knows versions up to " + std::to_string(NewestVersion()) +
                      "; it stays untouched, use the program that wrote it or a newer one");
