@@ -1,6 +1,5 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
-require dirname(dirname(__FILE__)) . '/shared/audit_trail.php';
 
 $session = signed_in();
 show('index', array('title' => 'Overview', 'lead' => 'The appliance\'s network at a glance.',
