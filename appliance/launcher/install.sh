@@ -7,6 +7,7 @@ APP_MANAGER=$LIBRARY/AppManager
 CORE_SERVICE=$LIBRARY/CoreService
 WEB_SERVER=$LIBRARY/HTTPService/lighttpd
 PAGES_FOLDERS=(htdocs shared templates) # the document root, and what its pages share
+ELSEWHERE=testTrapRegistration.sh # the one script that the device keeps in $LIBRARY
 IN_PLACE=$APP_MANAGER/dat/in-place # tells the device scripts to leave the interfaces alone
 APP_RUN=/run/appmanager
 WEB_RUN=$APP_RUN/web
@@ -31,7 +32,11 @@ ask_php_for_its_places() {
 
 # What belongs to the program, put in place afresh below ROOT; settings that are there stay.
 install_program() {
-  local root=$1 source=$2 build=$3 directory
+  local root=$1 source=$2 build=$3 directory script
+  local -a scripts=()
+  for script in "$source"/appliance/device/scripts/*; do
+    [[ ${script##*/} == "$ELSEWHERE" ]] || scripts+=("$script")
+  done
   install -D -m 755 "$build/cmdwrap" "$root$COMMAND_WRAPPER" &&
     install -D -m 644 -t "$root$PHP_EXTENSION_DIR" "${MODULE_FILES[@]/#/$build/}" || return
   for directory in "${PHP_CONFIGURATION_DIRS[@]}"; do
@@ -41,11 +46,12 @@ install_program() {
   done
   mkdir -p "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat} "$root$WEB_SERVER"/{conf/extra,logs} &&
     mkdir -p "${PAGES_FOLDERS[@]/#/$root$WEB_SERVER/}" &&
-    install -m 755 -t "$root$APP_MANAGER/bin" "$source"/appliance/device/scripts/* "$build/checkSettings" &&
-    install -m 755 -t "$root$CORE_SERVICE/bin" "$build/management_database" &&
-    install -D -m 644 -t "$root$APP_MANAGER/etc" "$source/appliance/device/etc/internal_networks" &&
-    install -m 644 -t "$root$WEB_SERVER/conf" "$source/appliance/device/etc/lighttpd.conf" || return
-  # The one script that the device keeps elsewhere.
-  local trap_test=$root$APP_MANAGER/bin/testTrapRegistration.sh
-  [[ ! -e $trap_test ]] || mv "$trap_test" "$root$LIBRARY/"
+    install_changed 755 "$root$APP_MANAGER/bin" "${scripts[@]}" "$build/checkSettings" &&
+    install_changed 755 "$root$LIBRARY" "$source/appliance/device/scripts/$ELSEWHERE" &&
+    install_changed 755 "$root$CORE_SERVICE/bin" "$build/management_database" &&
+    install_changed 644 "$root$APP_MANAGER/etc" "$source/appliance/device/etc/internal_networks" &&
+    install_changed 644 "$root$WEB_SERVER/conf" "$source/appliance/device/etc/lighttpd.conf"
 }
+
+# install_changed MODE FOLDER FILE...: what is there already as it is to be needs no room on the disk.
+install_changed() { mkdir -p "$2" && install -C -m "$1" -t "$2" "${@:3}"; }
