@@ -27,6 +27,12 @@ change receiver_deleted new receivers=10.20.0.1 receivers= "$CALL $RECEIVER \"11
 together ssl_on ssl_on
 together snmp_community snmp_community
 together snmp_versions snmp_versions
+together snmp_auth_traps snmp_auth_traps
+together receiver_made receiver_made
+together receiver_deleted receiver_deleted
+# the database, and the web server beside it
+together ssl_on snmp_community
+together ssl_on receiver_made
 # the agent and its configuration
 together snmp_community receiver_made
 
