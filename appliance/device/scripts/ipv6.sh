@@ -45,8 +45,8 @@ restart_ipv6() {
   } && replace_file "$STARTED_IPV6" started
 }
 
-# mark_dhcpv6 on|off. By "true", because ":", one of the shell's special built-ins, would end the script where the file cannot be
-# written.
+# mark_dhcpv6 on|off. By "true", because ":", one of the shell's special built-ins, would end the script where the
+# file cannot be written.
 mark_dhcpv6() {
   if [ "$1" = on ]; then
     [ -f "$IPV6_DHCP" ] || { true >"$IPV6_DHCP"; } 2>/dev/null

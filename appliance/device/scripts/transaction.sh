@@ -7,8 +7,8 @@
 #   3. puts it into force,
 #   4. and forgets the setting of before; or, when 3 was impossible, goes back to it.
 # A start puts what is stored into force. What was interrupted before 2 is the old setting then, what was
-# interrupted behind it the new one, unless that proves impossible: then it is the one of before again. A setting of before that
-# is still there at 1 stays: the one beside it was never seen in force.
+# interrupted behind it the new one, unless that proves impossible: then it is the one of before again. A setting
+# of before that is still there at 1 stays: the one beside it was never seen in force.
 # shellcheck shell=sh disable=SC2154 # variables are set by the functions that read into them
 
 # Waits for the change under way, if there is one; the lock is held until the script ends. The DHCP clients are the
