@@ -38,7 +38,7 @@ test('HTTPS is switched on: the page comes back encrypted, with a cookie of its 
 test('A session that has travelled unencrypted is of no use under HTTPS, whatever the cookie is called', {}, async (page, context) => {
   await served('https');
   await signIn(page, 'admin', 'index.php', 'https');
-  const [{name, value}] = await context.cookies();
+  const {name, value} = await sessionCookie(context);
   const asks = async (address, cookie) => {
     const answer = await context.request.get(address, {headers: {cookie}});
     return /action="signin\.php"/.test(await answer.text());

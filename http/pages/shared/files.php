@@ -19,17 +19,26 @@ function replace_file($path, $content, $durable = false)
 {
     $new = $path . '.' . random_hex(4);
     $mask = umask(077);
-    $file = fopen($new, 'wb');
-    $written = $file && fwrite($file, $content) == strlen($content) && fflush($file)
-        && (!$durable || put_on_disk($file)) && fclose($file);
+    $file = @fopen($new, 'wb');
+    $written = $file && @fwrite($file, $content) === strlen($content) && @fflush($file)
+        && (!$durable || put_on_disk($file)) && fclose($file) && keep_owner($path, $new);
     umask($mask);
-    if ($written && rename($new, $path)) {
+    if ($written && @rename($new, $path)) {
         return true;
     }
+    error_log('The file ' . $path . ' cannot be written: its disk is full, or may not be written.');
     if ($file) {
-        unlink($new);
+        @unlink($new);
     }
     return false;
+}
+
+// Root, who writes a file of the web service's user, leaves it to that one. $old: the file that is replaced, which may be missing.
+function keep_owner($old, $new)
+{
+    clearstatcache();
+    $model = file_exists($old) && $old != $new ? $old : dirname($old);
+    return fileowner($model) == fileowner($new) || @chown($new, fileowner($model)) && @chgrp($new, filegroup($model));
 }
 
 // 4.3 cannot say it of one file.
@@ -47,7 +56,11 @@ function put_on_disk($file)
 function open_locked($path)
 {
     $mask = umask(077);
-    $file = fopen($path, 'a+b');
+    $is_new = !file_exists($path);
+    $file = @fopen($path, 'a+b');
     umask($mask);
+    if ($file && $is_new) {
+        keep_owner($path, $path);
+    }
     return $file && flock($file, LOCK_EX) ? $file : false;
 }
