@@ -3,6 +3,7 @@
 
 require('./source.cjs');
 require('./signing_in.cjs');
+require('./account.cjs');
 require('./reading.cjs');
 require('./changing.cjs');
 require('./addresses.cjs');

@@ -7,7 +7,7 @@ const http = require('node:http');
 const {execFileSync} = require('node:child_process');
 const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, ipv4ChangesOver, php, until, web,
   withScript} = require('./appliance.cjs');
-const {accessibilityFaults, base, enterPassword, errorOf, messages, open, press, served, signIn, test} = require('./browser.cjs');
+const {accessibilityFaults, base, enterPassword, errorOf, messages, open, press, served, showCommunity, signIn, test} = require('./browser.cjs');
 
 const record = `${applianceFolder}/HTTPService/dat/trial`;
 
@@ -295,6 +295,7 @@ test('So do those of the host name, the name servers and the agent; sent again, 
   await signIn(page);
   for (const [name, meanwhile, field, typed, button, said, now, wanted] of cases) {
     await open(page, name);
+    if (name === 'snmp.php') await showCommunity(page);
     await page.fill(field, typed);
     php(meanwhile);
     const theirs = now();

@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const net = require('node:net');
 const {applianceFolder, ipv4Address, php, until, withScript} = require('./appliance.cjs');
-const {base, beside, certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
+const {base, beside, certificate, enterPassword, messages, open, press, served, sessionCookie, signIn, test} = require('./browser.cjs');
 
 // Who switches is signed out: a session of its own each.
 test('HTTPS is switched on: the page comes back encrypted, with a cookie of its own', {}, async (page, context) => {
