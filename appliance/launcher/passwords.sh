@@ -5,7 +5,7 @@
 #
 #   reserve_passwords FILE       before the passwords are made: returns 1, after a sentence on standard error, when they
 #                                could not be handed over
-#   hand_over_passwords FILE SHOWN LINES   LINES are "NAME PASSWORD"; SHOWN is the path of FILE as the reader knows it
+#   hand_over_passwords FILE SHOWN LINES   LINES are "NAME PASSWORD", a name may have blanks; SHOWN is the path of FILE as the reader knows it
 
 PASSWORDS_ROOM=1024 # bytes
 
@@ -19,9 +19,9 @@ reserve_passwords() {
 }
 
 hand_over_passwords() {
-  local file=$1 shown=$2 name password text=''
-  while read -r name password; do
-    [[ -z $name ]] || text+="Sign in as $name with the password $password (this is shown only once)."$'\n'
+  local file=$1 shown=$2 line text=''
+  while read -r line; do
+    [[ -z $line ]] || text+="Sign in as ${line% *} with the password ${line##* } (this is shown only once)."$'\n'
   done <<<"$3"
   if [[ -z $text ]]; then
     [[ -t 1 ]] || rm -f "$file"
