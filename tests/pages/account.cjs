@@ -212,7 +212,9 @@ test('A change that is killed leaves the old password or the new one', {}, async
     }
     assert.equal(ends.neither, undefined);
     assert.ok(ends.old > 0, 'some were killed before they were done');
-    for (const name of fs.readdirSync(dat).filter((file) => /^users\.[0-9a-f]{8}$/.test(file))) fs.unlinkSync(`${dat}/${name}`);
+    fs.writeFileSync(`${dat}/users.0123abcd`, 'half of');
+    assert.equal(spawnSync('php', changing('admin', good)).status, 0);
+    assert.deepEqual(fs.readdirSync(dat).filter((name) => /^users\../.test(name)), ['users.lock'], 'the next change clears up');
   });
 });
 

@@ -74,6 +74,7 @@ function set_password($name, $password)
             $found = true;
         }
     }
+    remove_unfinished(ACCOUNTS_FILE);
     $written = $found && replace_file(ACCOUNTS_FILE, implode('', $lines), true);
     fclose($lock);
     if ($written) {

@@ -41,6 +41,20 @@ function keep_owner($old, $new)
     return fileowner($model) == fileowner($new) || @chown($new, fileowner($model)) && @chgrp($new, filegroup($model));
 }
 
+// What a replace_file() that was killed has left. To be called by who holds the lock under which the file is replaced.
+function remove_unfinished($path)
+{
+    $folder = opendir(dirname($path));
+    while ($folder && ($name = readdir($folder)) !== false) {
+        if (preg_match('/^' . basename($path) . '\.[0-9a-f]{8}$/D', $name)) {
+            @unlink(dirname($path) . '/' . $name);
+        }
+    }
+    if ($folder) {
+        closedir($folder);
+    }
+}
+
 // 4.3 cannot say it of one file.
 function put_on_disk($file)
 {
