@@ -413,6 +413,17 @@ test('Marks, choices and the time of a trial come back as well, only once, and o
   assert.equal(await page.inputValue('#hostname'), inAppliance('hostname'));
   await page.reload();
   assert.notEqual(await page.inputValue('#ip'), '10.20.0.77');
+  // A page with several forms and names of its own.
+  await open(page, 'ipv6.php');
+  await page.check('#static');
+  await page.fill('#ipStatic', '2001:db8:20::66');
+  await endSession(context);
+  await press(page, 'Apply');
+  await enterPassword(page);
+  assert.equal(await page.inputValue('#ipStatic'), '2001:db8:20::66');
+  assert.ok(await page.isChecked('#static'));
+  assert.equal(await page.isChecked('#enabled'), false);
+  assert.doesNotMatch(await messages(page), /This page has a fault/);
   await open(page, 'snmp.php');
   const [traps, community] = [await page.isChecked('#trap2'), await page.inputValue('#community_name')];
   await page.setChecked('#trap2', !traps);

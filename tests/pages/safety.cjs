@@ -98,7 +98,7 @@ test('Who is signed out changes nothing, and learns that it was not saved', {}, 
   await open(page, 'dns.php');
   await context.clearCookies();
   await press(page, 'Save');
-  assert.equal(await asksToSignIn(page), 'What you sent was not saved: please enter it again.');
+  assert.equal(await asksToSignIn(page), 'What you sent was not saved. It is in the form again when you have signed in.');
 });
 
 test('Reading a page changes nothing', {user: 'admin'}, async (page, context) => {

@@ -5,8 +5,8 @@
 
 define('TYPED_BYTES', 16384); // that go along at most
 
-$typed = array('page' => '', 'values' => array()); // what this request fills in again
-$typed_form = array(); // of the form that is being written
+$typed_before = array('page' => '', 'values' => array()); // what this request fills in again
+$form_typed_before = array(); // of the form that is being written
 
 // Nobody without the account's hash, which never leaves the appliance, can make it; it says nothing about the hash.
 function proof_of_form($user, $page)
@@ -64,28 +64,28 @@ function take_up_typed()
             $values[urldecode($parts[0])] = urldecode($parts[1]);
         }
     }
-    $GLOBALS['typed'] = array('page' => $_SESSION['typed']['page'], 'values' => $values);
+    $GLOBALS['typed_before'] = array('page' => $_SESSION['typed']['page'], 'values' => $values);
     unset($_SESSION['typed']);
 }
 
 // To be called when a form begins. Returns whether it is the one that had been typed into.
 function fill_again($page, $change)
 {
-    $typed = $GLOBALS['typed'];
-    $is_it = $typed['page'] == $page && isset($typed['values']['change']) && $typed['values']['change'] == $change;
-    $GLOBALS['typed_form'] = $is_it ? $typed['values'] : array();
+    $before = $GLOBALS['typed_before'];
+    $is_it = $before['page'] == $page && isset($before['values']['change']) && $before['values']['change'] == $change;
+    $GLOBALS['form_typed_before'] = $is_it ? $before['values'] : array();
     return $is_it;
 }
 
 function fill_no_more()
 {
-    $GLOBALS['typed_form'] = array();
+    $GLOBALS['form_typed_before'] = array();
 }
 
 // What had been typed into this field, else $value. $missing: what it means that the form sent nothing for it.
 function typed_again($name, $value, $missing = null)
 {
-    $form = $GLOBALS['typed_form'];
+    $form = $GLOBALS['form_typed_before'];
     if (isset($form[$name])) {
         return $form[$name];
     }

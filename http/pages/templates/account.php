@@ -40,7 +40,7 @@ echo password_field('password_again', 'New password again', $own, 'new-password'
     </tbody>
   </table>
 <?php echo own_form_begin('account.php', 'sessions'); ?>
-<p class="note">Ends all of them, also this one. Is one of them not yours? Then change your password first.</p>
+<p class="note">Signing out everywhere ends all of them, this one too. Is one of them not yours? Then change your password first.</p>
 <?php echo own_form_end('Sign out everywhere', 'danger'); ?>
 </section>
 <?php if ($others) { ?>
