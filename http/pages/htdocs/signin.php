@@ -27,7 +27,8 @@ function try_to_sign_in($user, $password)
         return wait_sentence($seconds);
     }
     if (role_by_password($user, $password) == '') {
-        write_audit($user, $client, 'Signing in was refused.', '', 'sign-in', array(), array(), 'refused: wrong name or password');
+        write_audit($user, $client, 'Signing in was refused.', '', 'sign-in', array(), array(),
+            'refused: wrong name or password');
         return 'The name or the password is wrong.';
     }
     attempt_succeeded($count);

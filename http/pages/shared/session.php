@@ -126,6 +126,9 @@ function why_session_is_over()
 // Until the open session ends when nothing is done, and until it ends in any case.
 function seconds_of_session()
 {
+    if (!isset($_SESSION['signed_in'], $_SESSION['seen'])) {
+        return array('idle' => 0, 'at_most' => 0); // ended meanwhile, by another request
+    }
     $at_most = max(0, $_SESSION['signed_in'] + LONGEST_SECONDS - time());
     return array('idle' => max(0, min($at_most, $_SESSION['seen'] + IDLE_SECONDS - time())), 'at_most' => $at_most);
 }

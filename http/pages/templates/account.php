@@ -4,8 +4,8 @@ foreach ($GLOBALS['password_strengths'] as $characters => $word) {
     $strengths[] = $characters . ' ' . $word;
 }
 $about_strength = 'data-strengths="' . h(implode(', ', $strengths)) . '"';
-$rules = 'At least ' . SHORTEST_PASSWORD . ' characters. Length counts most: several words that have nothing to do with one another are'
-    . ' better than one with signs in it.';
+$rules = 'At least ' . SHORTEST_PASSWORD . ' characters. Length counts most: several words that have nothing to do with one'
+    . ' another are better than one with signs in it.';
 $own = $change == 'own' ? $errors : array();
 $other = $change == 'other' ? $errors : array();
 ?>
@@ -24,8 +24,8 @@ echo password_field('password_again', 'New password again', $own, 'new-password'
 <section class="card" aria-labelledby="sessions">
   <h2 id="sessions">Your sessions</h2>
   <p class="hint">A session ends after <?php echo (int) (IDLE_SECONDS / 60); ?> minutes without activity, and
-    <?php echo (int) (LONGEST_SECONDS / 3600); ?> hours after its sign-in. Two minutes before that you are warned, where the browser
-    runs scripts.</p>
+    <?php echo (int) (LONGEST_SECONDS / 3600); ?> hours after its sign-in. Two minutes before that you are warned, where the
+    browser runs scripts.</p>
   <table class="stacks">
     <thead><tr><th scope="col">Signed in (UTC)</th><th scope="col">From</th><th scope="col">Last activity (UTC)</th></tr></thead>
     <tbody>
