@@ -7,9 +7,13 @@ $number = text_of($_GET, 'probe');
 if (preg_match('/^[0-9a-f]{32}$/D', $number)) {
     tell_who_this_is($number);
 }
-$key = text_of($_POST, 'key', text_of($_GET, 'key'));
-if ($key != '') {
-    take_key($key);
+if (text_of($_POST, 'key') != '') {
+    take_key(text_of($_POST, 'key'));
+}
+// In the address only for the other mode of this same address, where it gives no session.
+$current = read_trial();
+if ($current && $current['kind'] == 'ssl' && text_of($_GET, 'key') != '') {
+    take_key(text_of($_GET, 'key'));
 }
 show('trial', array('title' => 'Welcome back'));
 

@@ -5,7 +5,6 @@ $waits = $outcome == 'applying' || $outcome == 'trial' || $outcome == 'missing';
 $on_trial = $waits && $trial['seconds'] > 0;
 $new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) || $stored_only ? ''
     : origin_of($trial['to'], '') . '/';
-$path = $key == '' ? '/applying.php' : '/trial.php?key=' . $key;
 ?>
 <section class="card" aria-label="The change"<?php if ($polls) { ?> data-poll="1000" data-parts="outcome steps wishes values way hint"<?php } ?>>
 <div id="outcome" role="status" data-when-answering<?php if (is_settled($trial)) echo ' data-over'; ?>>
@@ -43,7 +42,7 @@ $path = $key == '' ? '/applying.php' : '/trial.php?key=' . $key;
 <div role="status">
 <p class="message caution" data-when-lost hidden><?php echo icon('caution'); ?><span>The appliance does not answer at this address
   at the moment. <?php if ($moved_to != '' && $trial['to'] != '') { ?>If the page does not go on by itself, open
-  <a href="<?php echo h($moved_to . $path); ?>"><?php echo h($moved_to); ?>/</a>.<?php
+  <a href="<?php echo h($moved_to); ?>/applying.php"><?php echo h($moved_to); ?>/</a> and sign in there.<?php
   } elseif ($new_address != '') { ?>From the network it is at <a href="<?php echo h($new_address); ?>"><?php
   echo h($new_address); ?></a> when the change is done.<?php
   } elseif ($trial['kind'] == 'ipv4' && $trial['to'] == '') { ?>It may have another one now: the DHCP server, or the
@@ -76,9 +75,12 @@ $path = $key == '' ? '/applying.php' : '/trial.php?key=' . $key;
 <?php if ($moved_to != '' && $waits) { ?>
 <div class="message note" data-when-answering><?php echo icon('note'); ?><div>
   <p>This page loses its connection when the address changes. <?php echo is_https()
-      ? 'Then open the new one yourself, as your browser asks about its certificate:' : 'It goes on by itself to'; ?>
-    <a href="<?php echo h($moved_to . $path); ?>"><?php echo h($moved_to); ?>/</a><?php
-    echo $key == '' ? ', where you sign in again' : ''; ?>.</p>
+      ? 'Then open the new one yourself, as your browser asks about its certificate, and sign in:' : 'It goes on by itself to'; ?>
+    <a href="<?php echo h($moved_to); ?>/applying.php"><?php echo h($moved_to); ?>/</a><?php
+    echo $key == '' && !is_https() ? ', where you sign in again' : ''; ?>.</p>
+  <noscript><p><?php echo $trial['goes_alone'] ? 'Your browser runs no scripts, so you sign in there again.'
+      : 'Your browser runs no scripts, and another device may have that address: open it yourself after some seconds, and sign in'
+      . ' only if these pages answer.'; ?></p></noscript>
 <?php if ($on_trial) { ?>
   <p>If nobody reaches it there, this address answers again when the time is over.</p>
 <?php } ?>

@@ -13,6 +13,7 @@ if (may_change($GLOBALS['session']) && $trial['seconds'] > 0) {
 <?php if ($wishes) { ?>
 <form method="post" action="applying.php" class="wishes"><?php echo token_field(); ?>
   <input type="hidden" name="id" value="<?php echo h($trial['id']); ?>">
+  <input type="hidden" name="seen" value="<?php echo h($trial['state']); ?>">
   <p class="actions"><?php foreach ($wishes as $wish => $label) { ?><button type="submit" name="change" value="<?php
     echo $wish; ?>"<?php if ($wish == 'keep') echo ' class="primary"'; ?>><?php echo h($label); ?></button> <?php } ?></p>
 </form>
