@@ -141,7 +141,10 @@ test('Another web server, another host, DHCP without a server and with another l
   await withOtherDevice('10.20.0.9', 'Here is somebody else.', begin);
   await withOtherDevice('10.20.0.9', '', begin);
   await withDhcpServer('ignore', () => closed(() => applyDhcp(page)));
-  await withDhcpServer('10.20.0.141', () => closed(() => applyDhcp(page)));
+  await withDhcpServer('10.20.0.141', () => closed(async () => {
+    await applyDhcp(page);
+    await until(() => ipv4Address() === '10.20.0.141', 'the other lease');
+  }));
 });
 
 test('DHCP with another lease than the page can know: kept by whoever signs in there', {}, async (page) => {
@@ -151,18 +154,18 @@ test('DHCP with another lease than the page can know: kept by whoever signs in t
   await fillStatic(page, '10.20.0.7');
   await apply(page);
   await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
-  await withDhcpServer('10.20.0.141', async () => {
+  await withDhcpServer('10.20.0.142', async () => {
     await applyDhcp(page);
     assert.ok((await page.getAttribute('[data-origins]', 'data-origins')).includes(`http://${earlier}`), 'it looks at the earlier one');
-    await until(() => ipv4Address() === '10.20.0.141', 'the other lease');
+    await until(() => ipv4Address() === '10.20.0.142', 'the other lease');
     await reaches('trial');
     await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
     await page.context().clearCookies();
-    await page.goto('http://10.20.0.141/index.php');
+    await page.goto('http://10.20.0.142/index.php');
     await enterPassword(page);
     assert.match(await messages(page), /^IPv4 settings: Kept by admin: reached under the new settings\./);
     assert.equal(trial('state'), 'kept');
-    await answersAt('10.20.0.141');
+    await answersAt('10.20.0.142');
   });
   await setStatic('10.20.0.7');
 });

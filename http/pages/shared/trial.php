@@ -24,8 +24,9 @@ function read_trial()
 {
     clearstatcache();
     $text = is_readable(TRIAL_FILE) ? implode('', file(TRIAL_FILE)) : '';
-    $trial = $text == '' ? false : unserialize($text);
-    return isset($trial['id'], $trial['state'], $trial['lines']) ? $trial : false;
+    $trial = $text == '' ? false : @unserialize($text); // one that is damaged is none
+    return is_array($trial) && isset($trial['id'], $trial['state'], $trial['kind'], $trial['lines'], $trial['undo_failed'])
+        && isset($GLOBALS['kinds_of_change'][$trial['kind']]) ? $trial : false;
 }
 
 // Makes $trial the change that is on trial, unless there is one already. Returns whether that worked.
