@@ -6,8 +6,8 @@ const fs = require('node:fs');
 const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, until, web,
   withScript} = require('./appliance.cjs');
 const {accessibilityFaults, base, enterPassword, errorOf, messages, open, press, served, signIn, test} = require('./browser.cjs');
-const {answersAt, apply, applyDhcp, applyIfFree, audit, fillStatic, isUndone, isUndoneWithTabClosed, passes, reaches,
-  record, setStatic, trial, withDhcpServer, withOtherDevice} = require('./on_trial.cjs');
+const {answersAt, apply, applyDhcp, applyIfFree, audit, fillStatic, isUndone, isUndoneWithTabClosed, keepWhatIs, passes,
+  reaches, record, setStatic, trial, withDhcpServer, withOtherDevice} = require('./on_trial.cjs');
 
 test('A static address in the right network: the page arrives there with its session, and the change is kept', {}, async (page) => {
   await setStatic('10.20.0.7');
@@ -428,7 +428,7 @@ test('Without scripts another web server under the new address gets neither the 
     // Longer than a free address would be waited for.
     await page.waitForTimeout(8000);
     assert.equal(page.url(), 'http://10.20.0.7/applying.php');
-    await page.click('main a:has-text("http://10.20.0.9/")');
+    await page.click('.message.note a');
     assert.match(await page.innerText('body'), /Here is somebody else/);
     assert.deepEqual(asked.filter((address) => address !== '/favicon.ico'), ['/applying.php'], 'what the visitor asked for, and no key');
     await isUndone();

@@ -119,7 +119,7 @@ function outcome_sentence($trial, $outcome, $rows, $stored_only)
     }
     if ($outcome == 'refused') {
         return 'Refused by the appliance' . ($trial['why'] == '' ? '.' : ': ' . $trial['why'] . '.')
-            . (all_as_wanted($rows) ? '' : ' It has the values that are marked below.');
+            . (all_as_wanted($rows) ? '' : ' It has the values in "Now" below.');
     }
     return undo_sentence($trial, $outcome);
 }

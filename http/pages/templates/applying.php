@@ -17,10 +17,6 @@ $new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) ||
   <p>The trace log does not say why. <a href="diagnostics.php">See all of it under Diagnostics</a>.</p>
 <?php } ?>
 <?php } ?>
-<?php if (!$waits && $outcome != 'undoing') { ?>
-  <p class="actions"><a class="button" href="<?php echo h($kind['page']); ?>"><?php
-    echo $is_over ? 'Back, to try again' : 'Back to the settings'; ?></a></p>
-<?php } ?>
 </div>
 <div id="steps">
 <ol class="steps" aria-label="Steps">
@@ -51,7 +47,8 @@ $new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) ||
   if ($on_trial) echo ' Leave this page open: it shows when the settings of before are back.'; ?></span></p>
 </div>
 <div id="wishes" data-when-answering>
-<?php echo render('wishes', array('trial' => $trial)); ?>
+<?php echo render('wishes', array('trial' => $trial, 'back' => $waits || $outcome == 'undoing' ? '' : '<a class="button" href="'
+    . h($kind['page']) . '">' . ($is_over ? 'Back, to try again' : 'Back to the settings') . '</a>')); ?>
 </div>
 <div id="values">
 <table class="stacks">
