@@ -24,7 +24,9 @@ test('A static address in the right network: the page arrives there with its ses
   assert.deepEqual(audit().slice(-2).map(([user, client, operation]) => [user, client, operation]),
     [['admin', '10.20.0.1', 'IPv4 settings begun'], ['admin', '10.20.0.1', 'IPv4 settings kept']]);
   await press(page, 'Undo now');
-  await reaches('undone');
+  assert.equal(await page.innerText('h1'), 'Undoing');
+  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
   await answersAt('10.20.0.7');
 });
 
@@ -412,7 +414,8 @@ test('Without scripts the page goes to a free address by itself, without the key
     assert.equal(trial('state'), 'kept');
     await answersAt('10.20.0.8');
     await press(page, 'Undo now');
-    await reaches('undone');
+    await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+    assert.equal(await page.innerText('h1'), 'Undone');
     await answersAt('10.20.0.7');
   });
 

@@ -46,6 +46,9 @@ function refresh_of($trial, $ways, $kind)
     if (!$ways['leaves'] || !$ways['origins']) {
         return array('seconds' => 2, 'address' => 'applying.php?background=1');
     }
+    if ($trial['state'] == 'undoing') {
+        return array('seconds' => $kind['usual_seconds'] + 5, 'address' => $ways['origins'][0] . '/applying.php');
+    }
     if ($trial['goes_alone']) {
         return array('seconds' => max(2, $kind['usual_seconds'] + 3 - seconds_since($trial)),
             'address' => $ways['origins'][0] . '/applying.php');

@@ -24,7 +24,7 @@ function tell_who_this_is($number)
     header('Content-Type: text/plain; charset=utf-8');
     // The page at the old address asks, which is another origin. There is nothing else to be read here.
     header('Access-Control-Allow-Origin: *');
-    echo $trial && is_followed($trial) ? answer_to_probe($trial, $number) : '';
+    echo $trial && is_looked_for($trial) ? answer_to_probe($trial, $number) : '';
     exit;
 }
 

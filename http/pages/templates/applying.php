@@ -3,7 +3,7 @@ $is_over = $outcome == 'refused' || $outcome == 'late';
 $moved_to = $ways['leaves'] && $ways['origins'] ? $ways['origins'][0] : '';
 $waits = $outcome == 'applying' || $outcome == 'trial' || $outcome == 'missing';
 $on_trial = $waits && $trial['seconds'] > 0;
-$new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) || $stored_only ? ''
+$new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) || $stored_only || $outcome == 'undoing' ? ''
     : origin_of($trial['to'], '') . '/';
 ?>
 <section class="card" aria-label="The change"<?php if ($polls) { ?> data-poll="1000" data-parts="outcome steps wishes values way hint"<?php } ?>>
@@ -37,11 +37,11 @@ $new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) ||
 <?php } ?>
 <div role="status">
 <p class="message caution" data-when-lost hidden><?php echo icon('caution'); ?><span>The appliance does not answer at this address
-  at the moment. <?php if ($moved_to != '' && $trial['to'] != '') { ?>If the page does not go on by itself, open
+  at the moment. <?php if ($moved_to != '' && ($trial['to'] != '' || $outcome == 'undoing')) { ?>If the page does not go on by itself, open
   <a href="<?php echo h($moved_to); ?>/applying.php"><?php echo h($moved_to); ?>/</a> and sign in there.<?php
   } elseif ($new_address != '') { ?>From the network it is at <a href="<?php echo h($new_address); ?>"><?php
   echo h($new_address); ?></a> when the change is done.<?php
-  } elseif ($trial['kind'] == 'ipv4' && $trial['to'] == '') { ?>It may have another one now: the DHCP server, or the
+  } elseif ($trial['kind'] == 'ipv4' && $trial['to'] == '' && $outcome != 'undoing') { ?>It may have another one now: the DHCP server, or the
   network's router, knows which. Open it there and sign in to keep the change.<?php
   } else { ?>If it does not come back, open it under another of its addresses.<?php } ?><?php
   if ($on_trial) echo ' Leave this page open: it shows when the settings of before are back.'; ?></span></p>
@@ -50,7 +50,7 @@ $new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) ||
 <?php echo render('wishes', array('trial' => $trial, 'back' => $waits || $outcome == 'undoing' ? '' : '<a class="button" href="'
     . h($kind['page']) . '">' . ($is_over ? 'Back, to try again' : 'Back to the settings') . '</a>')); ?>
 </div>
-<div id="values">
+<div id="values" data-when-answering>
 <table class="stacks">
   <thead><tr><th scope="col">Setting</th><th scope="col">Wanted</th><th scope="col">Now</th><th scope="col">State</th></tr></thead>
   <tbody>
@@ -59,7 +59,7 @@ $new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) ||
     <th scope="row"><?php echo h($row['label']); ?></th>
     <td data-label="Wanted"><?php echo h($row['wanted']); ?></td>
     <td data-label="Now"><?php echo h($row['now']); ?></td>
-    <td data-label="State"><?php echo row_state($row, $outcome); ?></td>
+    <td data-label="State"><?php echo row_state($row, $outcome, $trial['undo_failed']); ?></td>
   </tr>
 <?php } ?>
   </tbody>
