@@ -12,7 +12,7 @@ $old = array('array_fill', 'array_keys', 'array_merge', 'array_slice', 'arsort',
     'fwrite', 'gmdate', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'in_array', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string',
     'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'opendir', 'ord', 'php_sapi_name', 'preg_match', 'preg_replace', 'readdir', 'rename', 'reset', 'rewind',
     'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start', 'session_write_close',
-    'set_error_handler', 'sha1', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
+    'set_error_handler', 'sha1', 'sprintf', 'str_repeat', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
     'trim', 'ucfirst', 'umask', 'unlink', 'unserialize', 'urldecode', 'urlencode', 'usleep');
 // Only behind function_exists() of the same name, in the same function.
 $guarded = array('fsync', 'get_magic_quotes_gpc', 'password_hash');

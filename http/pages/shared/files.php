@@ -14,7 +14,8 @@ function make_private_folders()
 }
 
 // Writes another file and gives it the name when it is complete: whoever reads at any moment gets the old content or the
-// new one. $durable: it is on the disk before it gets the name, where the engine can say so. Returns whether that worked.
+// new one. $durable: it is on the disk before it gets the name, where the engine can say so. Returns whether that worked; that it
+// did not, on a full disk, say, is the caller's to tell, and no fault of the page.
 function replace_file($path, $content, $durable = false)
 {
     $new = $path . '.' . random_hex(4);
