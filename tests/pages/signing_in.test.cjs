@@ -171,7 +171,10 @@ test('A name that exists and one that does not take the same time, and the same 
     return {milliseconds: performance.now() - began, said: text.match(/Too many attempts|password is wrong/)[0]};
   };
   const times = {admin: [], nobody: []};
-  for (let i = 0; i < 15; i++) {
+  // The fastest of many: other work on the machine only adds to it. One that was not hashed would always be fast.
+  const fastest = () => [Math.min(...times.admin), Math.min(...times.nobody)];
+  const alike = ([known, unknown]) => known > 20 && Math.abs(known - unknown) < 0.3 * known;
+  for (let i = 0; i < 15 || i < 60 && !alike(fastest()); i++) {
     for (const user of ['admin', 'nobody']) {
       fs.writeFileSync(attempts, '');
       const {milliseconds, said} = await send(user);
@@ -179,9 +182,7 @@ test('A name that exists and one that does not take the same time, and the same 
       times[user].push(milliseconds);
     }
   }
-  // The fastest of many: other work on the machine only adds to it.
-  const [known, unknown] = [Math.min(...times.admin), Math.min(...times.nobody)];
-  assert.ok(known > 20 && Math.abs(known - unknown) < 0.3 * known, `${known} and ${unknown} milliseconds`);
+  assert.ok(alike(fastest()), `${fastest().join(' and ')} milliseconds`);
   for (const user of ['admin', 'nobody']) {
     fs.writeFileSync(attempts, `${countOf(user)} 5 ${now()}\n`);
     assert.equal((await send(user)).said, 'Too many attempts', user);
