@@ -50,6 +50,6 @@ stop_dhcpv4() {
     read_line client "$RUN/dhcpv4.pid"
     [ -z "$client" ] || kill "$client" 2>/dev/null
   done
-  rm -f "$RUN/dhcpv4.pid" "$DHCPV4_LEASE"
+  rm -f "$RUN/dhcpv4.pid" "$DHCPV4_LEASE" "$DHCPV4_LEASE_FACTS"
   drop_name_servers "$DHCPV4_SERVERS"
 }
