@@ -14,6 +14,13 @@ function show($template, $values)
     exit;
 }
 
+// The appliance's name around every page, from the kernel: no script of the device can hold up all pages, and nobody who is not
+// signed in makes the module write its trace.
+function name_in_frame()
+{
+    return php_uname('n');
+}
+
 function render($template, $values)
 {
     extract($values);
