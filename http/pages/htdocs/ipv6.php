@@ -5,8 +5,18 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/review.php';
 
 $session = signed_in();
-$settings = get_network_configuration_ipv6($session);
+if (is_background() && shows_interfaces()) {
+    // What the page fetches again and again: without asking the module, whose trace log it would fill.
+    ask_device(array());
+    show('ipv6_now', array('title' => 'IPv6', 'enabled' => is_readable(IPV6_SWITCH)));
+}
+ask_device(array('get_network_configuration_ipv6', 'is_stateless_enabled', 'get_all_ipv6_addresses'));
+$unknown = array();
+$settings = answers('get_network_configuration_ipv6') ? get_network_configuration_ipv6($session)
+    : unread(array('staticEnabled', 'ipStatic', 'prefix', 'gateway'));
+$unknown['static'] = !could_read();
 $modes = read_modes();
+$unknown['stateless'] = !could_read();
 $typed = array('static' => $settings->staticEnabled, 'prefix' => $settings->prefix,
     'ipStatic' => $settings->staticEnabled ? short_ipv6($settings->ipStatic) : '',
     'gateway' => $settings->staticEnabled ? short_ipv6($settings->gateway) : '');
@@ -23,8 +33,11 @@ if ($change == 'static') {
     $typed = array('static' => posted('static') == '1', 'ipStatic' => posted('ipStatic'), 'prefix' => posted('prefix'),
         'gateway' => posted('gateway'));
 }
+$in_use = $unknown['static'] ? '' : is_ipv6_static_enabled();
+$addresses = answers('get_all_ipv6_addresses') ? get_all_ipv6_addresses() : array();
+$unknown['addresses'] = !could_read();
 show('ipv6', array('title' => 'IPv6', 'enabled' => is_ipv6_enabled(), 'modes' => $modes, 'typed' => $typed,
-    'in_use' => is_ipv6_static_enabled(), 'addresses' => get_all_ipv6_addresses(), 'errors' => $errors,
+    'in_use' => $in_use, 'addresses' => $addresses, 'unknown' => $unknown, 'errors' => $errors,
     'meanwhile' => $meanwhile, 'change' => $change, 'seen' => $seen,
     'lead' => 'Whether the appliance uses IPv6, and where its addresses come from.'));
 
@@ -144,5 +157,5 @@ function show_review($warnings, $values, $now)
 
 function read_modes()
 {
-    return array('stateless' => is_stateless_enabled(), 'dhcp' => is_ipv6_dhcp_enabled());
+    return array('stateless' => answers('is_stateless_enabled') ? is_stateless_enabled() : '', 'dhcp' => is_ipv6_dhcp_enabled());
 }

@@ -17,8 +17,10 @@ $labels = array('version1' => 'Versions 1 and 2c', 'community' => 'Read communit
     'trap2' => 'Traps of version 2c', 'auth' => 'Trap about a wrong community');
 
 $session = signed_in();
+ask_device(array());
 $settings = get_snmp_settings($session);
-$facts = $settings; // of these the page shows what no form changes
+$is_known = !failed();
+$agent = $settings; // of these the page shows what no form changes
 $errors = array();
 $meanwhile = array();
 $seen = values_shown($settings);
@@ -45,7 +47,7 @@ if (is_post()) {
         $seen = values_shown(get_snmp_settings($session));
     }
 }
-show('snmp', array('title' => 'SNMP agent', 'settings' => $settings, 'facts' => $facts, 'errors' => $errors, 'meanwhile' => $meanwhile,
+show('snmp', array('title' => 'SNMP agent', 'settings' => $settings, 'agent' => $agent, 'is_known' => $is_known, 'errors' => $errors, 'meanwhile' => $meanwhile,
     'seen' => $seen,
     'lead' => 'How network management systems read the appliance\'s state, and how it tells them about events.'));
 

@@ -7,6 +7,7 @@ define('ANSWER_SECONDS', 3);
 define('PATIENT_SECONDS', 0.2); // until other requests of the session are let go on
 define('MOST_BYTES', 65536); // that are read of what a script prints
 define('DEVICE_SCRIPTS', APPLIANCE_FOLDER . '/AppManager/bin/');
+define('IPV6_SWITCH', APPLIANCE_FOLDER . '/CoreService/dat/ipv6Enabled'); // a file that is there while IPv6 is on
 define('FACTS_SCRIPT', DEVICE_SCRIPTS . 'deviceFacts.sh');
 
 // A function of the module => what it asks, of which script.

@@ -288,6 +288,16 @@ function service_alarms()
     return $alarms;
 }
 
+// The names and addresses that the certificate is for, as people write them.
+function certificate_names()
+{
+    $names = array();
+    foreach (explode(', ', fact('certificate.names')) as $name) {
+        $names[] = short_ipv6($name);
+    }
+    return implode(', ', $names);
+}
+
 // As markup.
 function alarm_message($alarm)
 {
