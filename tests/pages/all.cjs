@@ -8,5 +8,6 @@ require('./changing.cjs');
 require('./addresses.cjs');
 require('./web_security.cjs');
 require('./trial.cjs');
+require('./facts.cjs');
 require('./looks.cjs');
 require('./safety.cjs'); // ends with what the web server has written down meanwhile

@@ -70,6 +70,11 @@ function ipv4_in_words($settings, $unknown)
     return present_value($settings->ip) == 'None' ? 'No address' : $settings->ip;
 }
 
+function lacks_lease($settings)
+{
+    return $settings->dhcpEnabled && present_value($settings->ip) == 'None';
+}
+
 // Green only for an address that the interface really has.
 function ipv4_state($settings, $unknown)
 {
@@ -80,12 +85,11 @@ function ipv4_state($settings, $unknown)
         return present_value($settings->ip) != 'None' ? state('set', 'Set') : state('caution', $settings->dhcpEnabled
             ? 'No DHCP server has answered' : 'Unknown');
     }
-    $now = ipv4_addresses_now();
-    if (!$now && $settings->dhcpEnabled) {
+    if (lacks_lease($settings)) {
         return state('bad', 'No DHCP server has answered');
     }
-    if (!$settings->dhcpEnabled && !in_array($settings->ip, $now)) {
-        return state('bad', 'The static address is not in use');
+    if (!in_array($settings->ip, ipv4_addresses_now())) {
+        return state('bad', $settings->dhcpEnabled ? 'The leased address is not in use' : 'The static address is not in use');
     }
     return fact('eth0.link') == 'up' ? state('good', 'In use') : state('bad', 'No link');
 }
@@ -254,15 +258,13 @@ function ipv4_alarms($settings)
     if ($settings->ip === '' || fact('eth0.link') == '') {
         return array();
     }
-    $addresses = ipv4_addresses_now();
-    if ($settings->dhcpEnabled) {
-        return $addresses ? array() : array(array('bad', 'No DHCP server has given the appliance an IPv4 address.',
-            'Check that a DHCP server is there and has addresses left; the appliance goes on asking. Or set a static address.',
-            'ipv4.php'));
+    if (lacks_lease($settings)) {
+        return array(array('bad', 'No DHCP server has given the appliance an IPv4 address.', 'Check that a DHCP server is there and'
+            . ' has addresses left; the appliance goes on asking. Or set a static address.', 'ipv4.php'));
     }
-    return in_array($settings->ip, $addresses) ? array() : array(array('bad', 'The static address ' . $settings->ip
-        . ' is set, but the first Ethernet port does not have it.', 'Somebody has removed it by hand. Apply another address, or restart'
-        . ' the appliance: its start puts the stored one into force.', 'ipv4.php'));
+    return in_array($settings->ip, ipv4_addresses_now()) ? array() : array(array('bad', ($settings->dhcpEnabled ? 'The leased address '
+        : 'The static address ') . $settings->ip . ' is not on the first Ethernet port.', 'Something other than these pages has taken'
+        . ' it away. Restart the appliance: its start puts what is stored into force.', 'ipv4.php'));
 }
 
 function service_alarms()
