@@ -99,6 +99,11 @@ function messages(page) {
   return page.innerText('#messages');
 }
 
+// What is folded in the messages.
+async function codes(page) {
+  return (await page.locator('#messages .details').evaluateAll((all) => all.map((one) => one.textContent))).join('\n');
+}
+
 // The sentence that is tied to a field for everybody.
 async function errorOf(page, field) {
   return page.evaluate((id) => {
@@ -153,5 +158,5 @@ async function accessibilityFaults(page) {
     `${violation.id}: ${violation.help} (${violation.nodes.map((node) => node.target.join(' ')).join(', ')})`);
 }
 
-module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, enterPassword, errorOf, messages, open, pages, press, served,
+module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, codes, enterPassword, errorOf, messages, open, pages, press, served,
   signIn, test};

@@ -34,11 +34,13 @@ note_lease() {
   if [ -n "$end" ] && [ -n "${serverid-}" ]; then
     replace_file "$DHCPV4_LEASE_FACTS" "$serverid $end" && return
   fi
-  rm -f "$DHCPV4_LEASE_FACTS"
+  rm -rf "$DHCPV4_LEASE_FACTS" 2>/dev/null
+  return 0
 }
 
 drop_lease() {
-  rm -f "$DHCPV4_LEASE" "$DHCPV4_LEASE_FACTS" && clear_ipv4 && drop_name_servers "$DHCPV4_SERVERS"
+  rm -rf "$DHCPV4_LEASE_FACTS" 2>/dev/null
+  rm -f "$DHCPV4_LEASE" && clear_ipv4 && drop_name_servers "$DHCPV4_SERVERS"
 }
 
 case ${1-} in

@@ -50,6 +50,7 @@ stop_dhcpv4() {
     read_line client "$RUN/dhcpv4.pid"
     [ -z "$client" ] || kill "$client" 2>/dev/null
   done
-  rm -f "$RUN/dhcpv4.pid" "$DHCPV4_LEASE" "$DHCPV4_LEASE_FACTS"
+  rm -f "$RUN/dhcpv4.pid" "$DHCPV4_LEASE"
+  rm -rf "$DHCPV4_LEASE_FACTS" 2>/dev/null
   drop_name_servers "$DHCPV4_SERVERS"
 }

@@ -5,7 +5,7 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/review.php';
 
 $session = signed_in();
-if (is_background() && shows_interfaces()) {
+if (is_background() && has_facts()) {
     // What the page fetches again and again: without asking the module, whose trace log it would fill.
     ask_device(array());
     show('ipv6_now', array('title' => 'IPv6', 'enabled' => is_readable(IPV6_SWITCH)));
