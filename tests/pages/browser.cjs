@@ -95,13 +95,10 @@ async function press(page, label, within = 'body') {
   await navigated;
 }
 
-function messages(page) {
+// With what is folded in them.
+async function messages(page) {
+  await page.evaluate(() => document.querySelectorAll('#messages .details').forEach((details) => { details.open = true; }));
   return page.innerText('#messages');
-}
-
-// What is folded in the messages.
-async function codes(page) {
-  return (await page.locator('#messages .details').evaluateAll((all) => all.map((one) => one.textContent))).join('\n');
 }
 
 // The sentence that is tied to a field for everybody.
@@ -158,5 +155,5 @@ async function accessibilityFaults(page) {
     `${violation.id}: ${violation.help} (${violation.nodes.map((node) => node.target.join(' ')).join(', ')})`);
 }
 
-module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, codes, enterPassword, errorOf, messages, open, pages, press, served,
+module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, enterPassword, errorOf, messages, open, pages, press, served,
   signIn, test};

@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {ask, inAppliance, ipv4Address, php, traceLog, web, withScript} = require('./appliance.cjs');
-const {beside, codes, errorOf, messages, open, pages, press, test} = require('./browser.cjs');
+const {beside, errorOf, messages, open, pages, press, test} = require('./browser.cjs');
 
 test('The overview', {user: 'admin'}, async (page) => {
   assert.equal(await page.innerText('.value >> nth=0'), ipv4Address());
@@ -91,7 +91,7 @@ test('With no device script working every page still says what is wrong, with me
       assert.doesNotMatch(await page.content(), /This page has a fault|Warning:|htdocs/, name);
       const wrong = await page.locator('#messages .message.bad').allInnerTexts();
       assert.ok(wrong.length <= 1, `${name}: one cause is one message`);
-      if (wrong.length > 0) assert.match(await codes(page), /Code 0x[0-9A-F]{8}, reported at /, name);
+      if (wrong.length > 0) assert.match(await messages(page), /Code 0x[0-9A-F]{8}, reported at /, name);
       if (['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php'].includes(name)) assert.ok(wrong.length > 0, name);
     }
     await open(page, 'ipv4.php');
@@ -108,7 +108,7 @@ test('A setting that cannot be read is reported with message and code, never as 
       await open(page, 'ipv4.php');
       const said = await messages(page);
       assert.match(said, /^Could not get IPv4 network information\n/);
-      assert.match(await codes(page), /Code 0x00000001, reported at http\/src\/network:\d+/);
+      assert.match(await messages(page), /Code 0x00000001, reported at http\/src\/network:\d+/);
       assert.doesNotMatch(await page.content(), /Warning|<b>|htdocs/);
       assert.equal(await page.inputValue('#ip'), '');
       assert.match(await page.title(), /^Error: /);
