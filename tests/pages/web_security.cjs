@@ -83,7 +83,7 @@ test('A web server that does not change its mode is reported with the code, and 
     await press(page, 'Save');
     assert.match(await messages(page), /^Could not set SSL settings\n+The web server stays in its old mode\.\n[^]*Code 0x/);
   });
-  assert.match(await page.innerText('main'), /Not encrypted: HTTPS is off/);
+  assert.match(await page.innerText('main'), /These pages are not encrypted/);
   assert.equal(php('var_dump(get_ssl_settings($session)->isEnabled);'), 'bool(false)');
 });
 

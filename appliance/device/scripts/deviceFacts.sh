@@ -15,6 +15,7 @@
 . "$BIN/ipv6.sh"
 
 WEB_CONFIGURATION=$LIBRARY/HTTPService/lighttpd/conf
+WEB_SERVER_PROCESS=$RUN/web/lighttpd.pid
 CERTIFICATE=$WEB_CONFIGURATION/certificate.pem
 CERTIFICATE_CACHE=$RUN/certificate.facts # the certificate on the first line, what it says on the others
 DATABASE=$LIBRARY/CoreService/dat/management.db
@@ -39,33 +40,16 @@ print_agent() {
   [ -n "$reply" ] || fact snmp.answers no
 }
 
-# listens_on PORT: in the kernel's tables of connections those who listen come first.
-listens_on() {
-  for table in /proc/net/tcp /proc/net/tcp6; do
-    [ -r "$table" ] || continue
-    while read -r _ local _ state _; do
-      case $state in st | remote_address) continue ;; 0A) ;; *) break ;; esac
-      [ "$((0x${local##*:}))" != "$1" ] || return 0
-    done <"$table"
-  done
-  return 1
-}
-
-# What the web server listens on, not what it was told.
+# What the web server is configured for, and has been since its start. While the file is younger than that, the server may
+# be in another mode.
 print_web_mode() {
-  [ -r "$WEB_CONFIGURATION/sockets" ] || return
-  mode=none
-  while read -r kind socket; do
-    case $kind in
-    https) ! listens_on "${socket##*:}" || mode=https ;;
-    http) [ "$mode" != none ] || ! listens_on "${socket##*:}" || mode=http ;;
-    esac
-  done <"$WEB_CONFIGURATION/sockets"
-  fact web.mode "$mode"
-  configured=http
+  [ -r "$WEB_CONFIGURATION/mode.conf" ] || return
+  mode=http
   while IFS= read -r line; do
-    case $line in ssl.*) configured=https ;; esac
-  done <"$WEB_CONFIGURATION/mode.conf" && fact web.configured-mode "$configured"
+    case $line in ssl.*) mode=https ;; esac
+  done <"$WEB_CONFIGURATION/mode.conf"
+  fact web.configured-mode "$mode"
+  [ ! -s "$WEB_SERVER_PROCESS" ] || [ "$WEB_CONFIGURATION/mode.conf" -nt "$WEB_SERVER_PROCESS" ] || fact web.mode "$mode"
 }
 
 # The stored mode, and what a start says about settings that it found damaged, until one of them is changed.
@@ -166,6 +150,15 @@ print_ipv6() {
   fact ipv6.address "$1 $from"
 }
 
+# Both by one process, where the program can do that.
+ip_answers() {
+  ip -batch - 2>/dev/null <<QUESTIONS && return
+address show
+route show default dev $PRIMARY
+QUESTIONS
+  ip address show && ip route show default dev "$PRIMARY"
+}
+
 print_interfaces() {
   read_line assigned_static "$ASSIGNED_STATIC"
   interface=
@@ -180,12 +173,10 @@ print_interfaces() {
     "$PRIMARY:link/"* | "$SECONDARY:link/"*) print_link "${flags%>}" "$second" ;;
     "$PRIMARY:inet") fact ipv4.address "$second" ;;
     "$PRIMARY:inet6") print_ipv6 "$second" "$third $rest" ;;
-    "$PRIMARY:default") [ "$second" != via ] || fact ipv4.gateway "$third" ;;
+    *:default) [ "$second" != via ] || fact ipv4.gateway "$third" ;;
     esac
   done <<INTERFACES
 $1
-1: $PRIMARY: routes
-$2
 INTERFACES
 }
 
@@ -193,14 +184,14 @@ INTERFACES
 # What takes other programs, all at once.
 print_agent &
 print_stored &
-print_certificate &
 clock=$(date +%s)
 fact clock "$clock"
 print_web_mode
+print_certificate
 if in_place; then
   fact in-place yes # the interfaces are the machine's
 elif command -v ip >/dev/null; then
-  print_interfaces "$(ip address show)" "$(ip -4 route show default dev "$PRIMARY")"
+  print_interfaces "$(ip_answers)"
   print_lease
   print_name_servers
 fi

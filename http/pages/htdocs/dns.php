@@ -9,8 +9,8 @@ class DnsSettings
 }
 
 $session = signed_in();
-ask_device(array('get_network_dns'));
-$settings = answers('get_network_dns') ? get_network_dns($session) : unread(array('dnsPrimary', 'dnsSecondary'));
+ask_device();
+$settings = get_network_dns($session);
 $is_known = could_read();
 $errors = array();
 $meanwhile = array();

@@ -5,9 +5,8 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/review.php';
 
 $session = signed_in();
-ask_device(array('get_network_configuration_ipv4'));
-$settings = answers('get_network_configuration_ipv4') ? get_network_configuration_ipv4($session)
-    : unread(array('hostname', 'dhcpEnabled', 'ip', 'netmask', 'gateway'));
+ask_device();
+$settings = get_network_configuration_ipv4($session);
 $is_known = could_read();
 $current_name = $settings->hostname;
 $errors = array();

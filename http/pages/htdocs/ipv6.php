@@ -7,14 +7,14 @@ require dirname(dirname(__FILE__)) . '/shared/review.php';
 $session = signed_in();
 if (is_background() && has_facts()) {
     // What the page fetches again and again: without asking the module, whose trace log it would fill.
-    ask_device(array());
+    ask_device();
     show('ipv6_now', array('title' => 'IPv6', 'enabled' => is_readable(IPV6_SWITCH)));
 }
-ask_device(array('get_network_configuration_ipv6', 'is_stateless_enabled', 'get_all_ipv6_addresses'));
+ask_device();
 $unknown = array();
-$settings = answers('get_network_configuration_ipv6') ? get_network_configuration_ipv6($session)
-    : unread(array('staticEnabled', 'ipStatic', 'prefix', 'gateway'));
+$settings = get_network_configuration_ipv6($session);
 $unknown['static'] = !could_read();
+begin_reading();
 $modes = read_modes();
 $unknown['stateless'] = !could_read();
 $typed = array('static' => $settings->staticEnabled, 'prefix' => $settings->prefix,
@@ -34,7 +34,8 @@ if ($change == 'static') {
         'gateway' => posted('gateway'));
 }
 $in_use = $unknown['static'] ? '' : is_ipv6_static_enabled();
-$addresses = answers('get_all_ipv6_addresses') ? get_all_ipv6_addresses() : array();
+begin_reading();
+$addresses = get_all_ipv6_addresses();
 $unknown['addresses'] = !could_read();
 show('ipv6', array('title' => 'IPv6', 'enabled' => is_ipv6_enabled(), 'modes' => $modes, 'typed' => $typed,
     'in_use' => $in_use, 'addresses' => $addresses, 'unknown' => $unknown, 'errors' => $errors,
@@ -157,5 +158,5 @@ function show_review($warnings, $values, $now)
 
 function read_modes()
 {
-    return array('stateless' => answers('is_stateless_enabled') ? is_stateless_enabled() : '', 'dhcp' => is_ipv6_dhcp_enabled());
+    return array('stateless' => is_stateless_enabled(), 'dhcp' => is_ipv6_dhcp_enabled());
 }

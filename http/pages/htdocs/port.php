@@ -10,12 +10,13 @@ class PortSettings
 }
 
 $session = signed_in();
-ask_device(array('get_eth2_port_settings'));
-$settings = answers('get_eth2_port_settings') ? get_eth2_port_settings($session)
-    : unread(array('AutoNegotiate', 'Speed', 'Duplex'));
+ask_device();
+$settings = get_eth2_port_settings($session);
 $is_known = could_read();
 if (!$is_known) {
-    $settings = unread(array('AutoNegotiate', 'Speed', 'Duplex'));
+    // Its numbers stand for nothing then.
+    $settings = new PortSettings();
+    $settings->AutoNegotiate = '';
 }
 $errors = array();
 $meanwhile = array();

@@ -7,7 +7,7 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 define('PORT_DISTANCE', 443 - 80);
 
 $session = signed_in();
-ask_device(array());
+ask_device();
 $settings = get_ssl_settings($session);
 $is_known = !failed();
 $errors = array();

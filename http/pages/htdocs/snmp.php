@@ -17,7 +17,7 @@ $labels = array('version1' => 'Versions 1 and 2c', 'community' => 'Read communit
     'trap2' => 'Traps of version 2c', 'auth' => 'Trap about a wrong community');
 
 $session = signed_in();
-ask_device(array());
+ask_device();
 $settings = get_snmp_settings($session);
 $is_known = !failed();
 $agent = $settings; // of these the page shows what no form changes

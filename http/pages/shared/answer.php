@@ -7,6 +7,10 @@
 // says what is on trial).
 function show($template, $values)
 {
+    if ($GLOBALS['change_begun']) {
+        ask_device(); // what it said was before the change
+    }
+    end_asking();
     send_headers(isset($values['other_origins']) ? $values['other_origins'] : array());
     $content = render($template, $values);
     $values['content'] = $content; // rendered first: what it reports is shown above it
@@ -33,6 +37,7 @@ function render($template, $values)
 // Goes to a page after a change, which says the message once.
 function go_to($page, $message = '')
 {
+    end_asking();
     if ($message != '') {
         return_to_session();
         $_SESSION['message'] = $message;

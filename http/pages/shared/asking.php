@@ -1,59 +1,65 @@
 <?php
-// Asking the device by the pages' own means: what is so now, and whether the scripts behind the module's functions answer at
-// all. The module waits for a script as long as that takes; so its functions that read are called only when the scripts
-// that they ask have just answered. All are asked at once, and nobody is waited for longer than ANSWER_SECONDS.
+// Asking the device: what is so now, by a script of its own; and the module's functions that read, in bounded time. The module
+// waits for a device script as long as that takes, and so would the page. So a guard stands beside the page while it
+// reads: a script that the page still waits for after ANSWER_SECONDS is ended, and the module reports that it failed.
 
 define('ANSWER_SECONDS', 3);
-define('PATIENT_SECONDS', 0.2); // until other requests of the session are let go on
-define('MOST_BYTES', 65536); // that are read of what a script prints
-define('DEVICE_SCRIPTS', APPLIANCE_FOLDER . '/AppManager/bin/');
+define('MOST_BYTES', 65536); // that are read of what the script prints
 define('IPV6_SWITCH', APPLIANCE_FOLDER . '/CoreService/dat/ipv6Enabled'); // a file that is there while IPv6 is on
-define('FACTS_SCRIPT', DEVICE_SCRIPTS . 'deviceFacts.sh');
+define('FACTS_SCRIPT', APPLIANCE_FOLDER . '/AppManager/bin/deviceFacts.sh');
 
-// A function of the module => what it asks, of which script.
-$questions_of = array(
-    'get_network_configuration_ipv4' => array('ipv4Manager.sh -d status', 'ipv4Manager.sh -g static', 'ipv4Manager.sh -g host'),
-    'get_network_configuration_ipv6' => array('ipv6Manager.sh -g static'),
-    'is_ipv6_static_enabled' => array('ipv6Manager.sh -g static'),
-    'is_stateless_enabled' => array('ipv6Manager.sh -l'),
-    'get_all_ipv6_addresses' => array('ipv6Manager.sh -g all'),
-    'get_network_dns' => array('ipv6Manager.sh -g dns'),
-    'get_eth2_port_settings' => array('ipv4Manager.sh -g port'),
-    'get_fw_settings' => array('ipv4Manager.sh -g host', 'ipv4Manager.sh -d status', 'ipv4Manager.sh -g static',
-        'ipv4Manager.sh -g port', 'ipv6Manager.sh -l', 'ipv6Manager.sh -g static', 'ipv6Manager.sh -g all', 'ipv6Manager.sh -g dns')
-);
+// The guard, which begins behind the facts. It ends what the page's own thread has started: a change that the module has left to
+// another thread goes on. Its standard input ends with the page.
+define('GUARD', '
+end_trees() {
+  for process; do
+    [ "$process" != $$ ] || continue
+    children=
+    read -r children <"/proc/$process/task/$process/children"
+    kill -KILL "$process"
+    end_trees $children
+  done
+}
+watch() {
+  before=
+  for pause in 2.5 0.5 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3; do
+    sleep $pause || sleep 1
+    [ $pause = 2.5 ] || end_trees $facts
+    now=
+    read -r now <"/proc/$page/task/$page/children"
+    for process in $now; do
+      case " $before " in *" $process "*) end_trees $process ;; esac
+    done
+    before=$now
+  done
+}
+exec >/dev/null
+watch </dev/null &
+watcher=$!
+read -r end
+end_trees $watcher $facts
+wait
+');
 
-$asked = false; // what is under way: array of 'process', 'pipes', 'texts' and 'end'
+$asked = array('process' => false); // what is under way: array of 'process', 'input', 'output', 'end' and 'session_left'
+$printed_facts = ''; // what the script has printed
 
-// Asks what is so now, and the questions of these functions; returns at once.
-function ask_device($functions)
+// Asks what is so now, and sets up the guard; returns at once. To be called before the module is asked for settings.
+function ask_device()
 {
-    $questions = array();
-    foreach ($functions as $function) {
-        foreach ($GLOBALS['questions_of'][$function] as $question) {
-            $questions[$question] = DEVICE_SCRIPTS . $question . ' >/dev/null';
-        }
-    }
-    if (has_facts()) {
-        $questions[FACTS_SCRIPT] = FACTS_SCRIPT;
-    }
-    $commands = '';
-    foreach ($questions as $question => $command) {
-        $commands .= "(/bin/sh $command 3>&-; echo $question >&3) & ";
-    }
-    // Whoever is not done in time is ended, with all that he has started, where there is the program for that.
-    $line = 'if command -v timeout >/dev/null; then exec timeout -s KILL ' . ANSWER_SECONDS . " /bin/sh -c '$commands wait'; fi; "
-        . $commands;
+    $line = 'page=' . getmypid() . ' facts=; ' . (has_facts() ? '/bin/sh ' . FACTS_SCRIPT . ' </dev/null & facts=$!; ' : '') . GUARD;
     $pipes = array();
-    $process = proc_open($line, array(0 => array('file', '/dev/null', 'r'), 1 => array('pipe', 'w'),
-        2 => array('file', '/dev/null', 'w'), 3 => array('pipe', 'w')), $pipes);
-    $pipes = $process ? array(1 => $pipes[1], 3 => $pipes[3]) : array();
-    foreach ($pipes as $pipe) {
-        stream_set_blocking($pipe, 0);
+    $process = proc_open($line, array(0 => array('pipe', 'r'), 1 => array('pipe', 'w'), 2 => array('file', '/dev/null', 'w')),
+        $pipes);
+    // Other requests of the session need not wait for a script that hangs.
+    $leaves = session_id() != '' && empty($GLOBALS['session_left']);
+    if ($leaves) {
+        leave_session();
     }
-    $GLOBALS['asked'] = array('process' => $process, 'pipes' => $pipes, 'texts' => array(1 => '', 3 => ''),
-        'end' => seconds_now() + ANSWER_SECONDS);
-    register_shutdown_function('end_asking');
+    $GLOBALS['asked'] = array('process' => $process, 'input' => $process ? $pipes[0] : false,
+        'output' => $process ? $pipes[1] : false, 'end' => seconds_now() + ANSWER_SECONDS, 'leaves' => $leaves);
+    $GLOBALS['facts'] = null;
+    $GLOBALS['printed_facts'] = '';
 }
 
 // 4.3 says it in two parts.
@@ -63,41 +69,22 @@ function seconds_now()
     return $parts[0] + $parts[1];
 }
 
-// Nothing of it stays with the interpreter, which serves the next request in the same process.
+// To be called before anything is changed, and before the page is shown: takes what the device has said, and sends the guard
+// away.
 function end_asking()
 {
-    foreach ($GLOBALS['asked']['pipes'] as $pipe) {
-        fclose($pipe);
+    $asked = $GLOBALS['asked'];
+    if (!$asked['process']) {
+        return;
     }
-    if ($GLOBALS['asked']['process']) {
-        proc_close($GLOBALS['asked']['process']);
+    hear_facts($asked['output'], $asked['end']);
+    fclose($asked['output']);
+    fclose($asked['input']);
+    proc_close($asked['process']); // returns when the guard has gone
+    $GLOBALS['asked'] = array('process' => false);
+    if ($asked['leaves']) {
+        return_to_session();
     }
-    $GLOBALS['asked'] = array('process' => false, 'pipes' => array(), 'texts' => array(1 => '', 3 => ''), 'end' => 0);
-}
-
-// Whether the scripts that the function asks answer in time: then it can be called. When they do not, that is a failure
-// like those that the module reports.
-function answers($function)
-{
-    begin_reading();
-    $all = true;
-    foreach ($GLOBALS['questions_of'][$function] as $question) {
-        if (!has_answered($question)) {
-            note_silence($question);
-            $all = false;
-        }
-    }
-    return $all;
-}
-
-function has_answered($question)
-{
-    do {
-        if (in_array($question, explode("\n", $GLOBALS['asked']['texts'][3]))) {
-            return true;
-        }
-    } while (read_answers());
-    return false;
 }
 
 // A device may have no script for what is so now.
@@ -106,76 +93,22 @@ function has_facts()
     return is_readable(FACTS_SCRIPT);
 }
 
-// All that this script has printed in time.
-function printed_facts()
+// Reads until the script is done, or says too much, or the time is over.
+function hear_facts($pipe, $end)
 {
-    has_answered(FACTS_SCRIPT);
-    if (isset($GLOBALS['asked']['pipes'][1])) { // the last of it may have come together with the word that it is done
-        $GLOBALS['asked']['texts'][1] .= fread($GLOBALS['asked']['pipes'][1], MOST_BYTES);
+    $text = has_facts() ? '?' : '';
+    stream_set_blocking($pipe, 0);
+    while ($text != '' && strlen($GLOBALS['printed_facts']) < MOST_BYTES && wait_for_pipe($pipe, $end - seconds_now())) {
+        $text = fread($pipe, 8192);
+        $GLOBALS['printed_facts'] .= $text;
     }
-    return $GLOBALS['asked']['texts'][1];
 }
 
-// Reads what comes next; false when nothing more comes, or not in time.
-function read_answers()
+function wait_for_pipe($pipe, $seconds)
 {
-    $left = $GLOBALS['asked']['end'] - seconds_now();
-    if ($left <= 0 || !$GLOBALS['asked']['pipes']) {
-        return false;
-    }
-    $came = pipes_with_answers(min($left, PATIENT_SECONDS));
-    if (!$came && $left > PATIENT_SECONDS) {
-        $came = pipes_without_session($left - PATIENT_SECONDS);
-    }
-    foreach ($came as $number) {
-        $text = fread($GLOBALS['asked']['pipes'][$number], 8192);
-        $GLOBALS['asked']['texts'][$number] .= $text;
-        if ($text == '' || strlen($GLOBALS['asked']['texts'][$number]) > MOST_BYTES) {
-            fclose($GLOBALS['asked']['pipes'][$number]);
-            unset($GLOBALS['asked']['pipes'][$number]);
-        }
-    }
-    return count($came) > 0;
-}
-
-// The numbers of the pipes that there is something to read from.
-function pipes_with_answers($seconds)
-{
-    $pipes = $GLOBALS['asked']['pipes'];
-    $readable = array_values($pipes);
+    $seconds = max(0, $seconds);
+    $readable = array($pipe);
     $none = null;
     $neither = null;
-    $numbers = array();
-    if (stream_select($readable, $none, $neither, (int) $seconds, (int) (1000000 * ($seconds - (int) $seconds)))) {
-        foreach ($pipes as $number => $pipe) {
-            if (in_array($pipe, $readable)) {
-                $numbers[] = $number;
-            }
-        }
-    }
-    return $numbers;
-}
-
-// Other requests of the session need not wait for a script that hangs.
-function pipes_without_session($seconds)
-{
-    $holds = session_id() != '' && empty($GLOBALS['session_left']);
-    if ($holds) {
-        leave_session();
-    }
-    $numbers = pipes_with_answers($seconds);
-    if ($holds) {
-        return_to_session();
-    }
-    return $numbers;
-}
-
-// An object for settings that nobody has said.
-function unread($names)
-{
-    $object = new stdClass();
-    foreach ($names as $name) {
-        $object->$name = '';
-    }
-    return $object;
+    return stream_select($readable, $none, $neither, (int) $seconds, (int) (1000000 * ($seconds - (int) $seconds))) > 0;
 }

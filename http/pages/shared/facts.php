@@ -14,19 +14,20 @@ $fact_forms = array(
     'ipv6.address' => '[0-9a-f:.]{2,45}/[0-9]{1,3} (router-advertisement|dhcp|static|link-local|other)',
     'dns.server' => '[0-9A-Fa-f:.]{2,45} (setting|dhcp|dhcpv6|other)',
     'snmp.answers' => 'yes|no',
-    'web.mode' => 'http|https|none', 'web.configured-mode' => 'http|https', 'web.stored-mode' => 'http|https',
+    'web.mode' => 'http|https', 'web.configured-mode' => 'http|https', 'web.stored-mode' => 'http|https',
     'certificate.names' => '[\x20-\x7e]{1,4000}', 'certificate.end' => '[0-9]{1,12}',
     'certificate.fingerprint' => '[0-9A-F]{2}(:[0-9A-F]{2}){31}',
     'settings.restored' => '.{1,4000}'
 );
 
-$facts = null; // name => list of values, when the script was listened to
+$facts = null; // name => list of values, when they were taken from what the script has printed
 
 // All values of a fact. ask_device() has to be called first.
 function facts_of($name)
 {
     if ($GLOBALS['facts'] === null) {
-        $GLOBALS['facts'] = has_facts() ? facts_in(printed_facts()) : array();
+        end_asking();
+        $GLOBALS['facts'] = facts_in($GLOBALS['printed_facts']);
     }
     return isset($GLOBALS['facts'][$name]) ? $GLOBALS['facts'][$name] : array();
 }
@@ -213,15 +214,18 @@ function lease_in_words()
     return 'From ' . fact('ipv4.lease-server') . $until;
 }
 
+// By which this very page has come; in the mode of HTTPS the server answers nothing else.
+function web_mode_now()
+{
+    return is_https() ? 'https' : 'http';
+}
+
 // Whether the web service is as it is stored: true, false, or '' when that is not known. The mode in the server's configuration
 // counts as well: the server has it from its next start on.
 function is_web_as_stored()
 {
     $stored = fact('web.stored-mode');
-    if ($stored == '' || fact('web.mode') == '') {
-        return '';
-    }
-    return fact('web.mode') == $stored && (fact('web.configured-mode') == '' || fact('web.configured-mode') == $stored);
+    return $stored == '' ? '' : web_mode_now() == $stored && (fact('web.configured-mode') == '' || fact('web.configured-mode') == $stored);
 }
 
 function has_certificate_expired()
@@ -275,14 +279,14 @@ function service_alarms()
             . ' sent. Save the settings of the agent again: that starts it anew.', 'snmp.php');
     }
     if (is_web_as_stored() === false) {
-        $names = array('http' => 'HTTP', 'https' => 'HTTPS', 'none' => 'neither HTTP nor HTTPS');
-        $running = fact('web.mode') == fact('web.stored-mode') ? 'configured for ' . $names[fact('web.configured-mode')]
-            : 'serving ' . $names[fact('web.mode')];
+        $names = array('http' => 'HTTP', 'https' => 'HTTPS');
+        $running = web_mode_now() == fact('web.stored-mode') ? 'configured for ' . $names[fact('web.configured-mode')]
+            : 'serving ' . $names[web_mode_now()];
         $alarms[] = array('bad', 'The web server is ' . $running . ', but ' . $names[fact('web.stored-mode')] . ' is set.',
             'Choose the other mode and then this one again, or restart the appliance: its start puts the stored mode into force.',
             'security.php');
     }
-    if (has_certificate_expired() && fact('web.mode') == 'https') {
+    if (has_certificate_expired() && is_https()) {
         $alarms[] = array('bad', 'The certificate of these pages has expired, on ' . time_in_words(fact('certificate.end')) . '.',
             'Switch HTTPS off and on again: the appliance then makes another one. When the appliance\'s clock ('
             . time_in_words(fact('clock')) . ') is wrong, set it right first.', 'security.php');

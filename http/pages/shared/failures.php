@@ -43,14 +43,6 @@ function could_read()
     return count($GLOBALS['failures']) == $GLOBALS['failures_before_reading'];
 }
 
-// A script of the device that did not answer in time, so that the module was not called.
-function note_silence($question)
-{
-    $GLOBALS['failures'][] = array('message' => 'The appliance does not answer', 'code' => '', 'place' => $question,
-        'advice' => 'One of its programs hangs, and what it is asked for is not known. Try again in a minute; when that does not'
-            . ' help, restart the appliance.');
-}
-
 // What the pages say of it: each cause once. What could not be read is one message, whatever was asked for in vain.
 function failure_messages()
 {
@@ -70,6 +62,7 @@ function failure_messages()
 // as well, but is no failure of the change. The session's other requests need not wait for the appliance.
 function begin_change()
 {
+    end_asking();
     leave_session();
     $GLOBALS['failures_before_change'] = count($GLOBALS['failures']);
     $GLOBALS['change_begun'] = true;

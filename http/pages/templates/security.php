@@ -4,10 +4,7 @@
 <?php foreach (has_facts() ? service_alarms() : array() as $alarm) if ($alarm[3] == 'security.php') echo alarm_message($alarm); ?>
   <dl>
     <dt>Set</dt><dd><?php echo $is_known ? ($settings->isEnabled ? 'HTTPS' : 'HTTP') : unknown(); ?></dd>
-<?php if (has_facts()) { ?>
-    <dt>Served now</dt><dd><?php echo fact('web.mode') == '' ? unknown()
-        : h(fact('web.mode') == 'none' ? 'Nothing' : strtoupper(fact('web.mode'))); ?></dd>
-<?php } ?>
+    <dt>Served now</dt><dd><?php echo h(strtoupper(web_mode_now())); ?></dd>
     <dt>HTTPS port</dt><dd><?php echo (int) $settings->port; ?></dd>
     <dt>Certificate's key</dt><dd><?php echo h($settings->cipher); ?></dd>
 <?php if (fact('certificate.fingerprint') != '') { ?>
