@@ -49,6 +49,7 @@ print_web_mode() {
     case $line in ssl.*) mode=https ;; esac
   done <"$WEB_CONFIGURATION/mode.conf"
   fact web.configured-mode "$mode"
+  # shellcheck disable=SC3013 # every shell that a Debian system has as /bin/sh compares times
   [ ! -s "$WEB_SERVER_PROCESS" ] || [ "$WEB_CONFIGURATION/mode.conf" -nt "$WEB_SERVER_PROCESS" ] || fact web.mode "$mode"
 }
 
