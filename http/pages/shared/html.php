@@ -87,7 +87,7 @@ function failure_message($failures)
         $details[$detail] = $detail;
     }
     $title = count($messages) == 1 ? implode('', $messages) : 'Not everything could be read';
-    $said = count($advice) == 1 ? implode('', $advice)
+    $said = count($messages) == 1 && count($advice) == 1 ? implode('', $advice)
         : 'What is not known stands here as "Unknown". The trace log under Diagnostics shows what was tried.';
     return message('bad', '<p><strong>' . $title . '</strong></p><p>' . $said . '</p>' . ($failures[0]['place'] == '' ? ''
         : '<details class="details"><summary>Details</summary><p class="code">' . implode('</p><p class="code">', $details)
