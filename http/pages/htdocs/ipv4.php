@@ -8,6 +8,9 @@ $session = signed_in();
 ask_device();
 $settings = get_network_configuration_ipv4($session);
 $is_known = could_read();
+if (is_post()) {
+    end_asking(); // what is asked of the network before a change may take longer than a page waits
+}
 $current_name = $settings->hostname;
 $errors = array();
 $meanwhile = array();

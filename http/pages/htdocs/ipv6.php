@@ -25,6 +25,7 @@ $change = is_post() ? posted('change') : '';
 $seen = values_shown($settings, $modes);
 $meanwhile = array();
 if ($change != '') {
+    end_asking(); // what is asked of the network before a change may take longer than a page waits
     list($errors, $meanwhile) = change_ipv6($session, $change, $seen, $settings);
     $modes = read_modes();
     $seen = values_shown($settings, $modes);
