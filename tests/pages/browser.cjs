@@ -118,7 +118,9 @@ async function press(page, label, within = 'body') {
   await navigated;
 }
 
-function messages(page) {
+// With what is folded in them.
+async function messages(page) {
+  await page.evaluate(() => document.querySelectorAll('#messages .details').forEach((details) => { details.open = true; }));
   return page.innerText('#messages');
 }
 

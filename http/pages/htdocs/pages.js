@@ -18,6 +18,16 @@ for (const shown of document.querySelectorAll('[data-address-from]')) {
   update();
 }
 
+// Parts of a form that another field makes useless. Without scripts they only look it, and what they say is passed over.
+for (const part of document.querySelectorAll('[data-inactive-while]')) {
+  const field = document.getElementById(part.dataset.inactiveWhile);
+  const locked = part.closest('fieldset.form[disabled]') !== null;
+  const update = () => { part.disabled = locked || field.checked; };
+  field.addEventListener('change', update);
+  addEventListener('pageshow', update); // the browser may have put back what was chosen
+  update();
+}
+
 function isIpv4(text) {
   const numbers = text.split('.');
   return numbers.length === 4 && numbers.every((number) => /^\d{1,3}$/.test(number) && number < 256);

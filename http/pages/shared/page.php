@@ -26,6 +26,8 @@ require $shared . '/traced_changes.php';
 require $shared . '/audit_trail.php';
 require $shared . '/audit.php';
 require $shared . '/put_back.php';
+require $shared . '/asking.php';
+require $shared . '/facts.php';
 require $shared . '/trial.php';
 require $shared . '/coming_back.php';
 require $shared . '/outcome.php';

@@ -1,11 +1,7 @@
 <?php
 // The frame around every page of a signed-in user.
 $page = basename(text_of($_SERVER, 'SCRIPT_NAME'));
-// A page that fetches itself to follow the trace log is not to fill it.
-if (!is_background() || !isset($_SESSION['name'])) {
-    $_SESSION['name'] = get_network_hostname();
-}
-$name = $_SESSION['name'];
+$name = name_in_frame();
 $message = '';
 if (!is_background()) {
     $message = text_of($_SESSION, 'message');
@@ -61,7 +57,7 @@ $left = seconds_of_session();
     <?php if (!empty($errors)) { ?>
       <?php echo message('bad', '<p><strong>Nothing was changed.</strong> Correct what is marked and save again.</p>'); ?>
     <?php } ?>
-    <?php foreach ($GLOBALS['failures'] as $failure) echo failure_message($failure); ?>
+    <?php echo failure_messages(); ?>
   </div>
 <?php echo $content; ?>
 </main>
