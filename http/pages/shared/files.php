@@ -24,6 +24,9 @@ function replace_file($path, $content, $durable = false)
         && (!$durable || put_on_disk($file)) && fclose($file);
     umask($mask);
     if ($written && rename($new, $path)) {
+        if ($durable) {
+            exec("sync '" . dirname($path) . "' 2>/dev/null || sync"); // the name, too
+        }
         return true;
     }
     if ($file) {

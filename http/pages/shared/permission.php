@@ -12,6 +12,7 @@ class Session
 function signed_in()
 {
     advance_trial(); // whoever asks: the watcher may have been ended
+    keep_if_mode_is_reached();
     open_session();
     $accounts = read_accounts();
     if (!is_session_of_an_account($accounts)) {
@@ -77,7 +78,7 @@ function ask_to_sign_in($notice)
 function show_sign_in($next, $user, $error, $notice)
 {
     show('signin', array('title' => 'Sign in', 'next' => next_page($next), 'user' => $user, 'error' => $error,
-        'notice' => $notice, 'accounts' => count(read_accounts())));
+        'notice' => trim($notice . ' ' . trial_at_sign_in()), 'accounts' => count(read_accounts())));
 }
 
 // A page to go on to after the sign-in: one of these pages, never an address from outside.
