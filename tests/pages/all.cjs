@@ -9,5 +9,6 @@ require('./addresses.cjs');
 require('./web_security.cjs');
 require('./trial.cjs');
 require('./trial_faults.cjs');
+require('./trial_lockout.cjs');
 require('./looks.cjs');
 require('./safety.cjs'); // ends with what the web server has written down meanwhile

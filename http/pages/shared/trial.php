@@ -17,7 +17,9 @@ define('TRIAL_ROOM', PRIVATE_FOLDER . '/trial.room'); // room on the disk for th
 define('TRIAL_SECONDS', 90); // unless another time is chosen
 define('UNDO_SECONDS', 60); // in which undoing comes to its end; then somebody else tries
 define('UNDO_TRIES', 3); // at once; then one more every now and then
-define('START_SECONDS', 30); // that the device's start waits for it
+if (!defined('START_SECONDS')) {
+    define('START_SECONDS', 30); // that the device's start waits for it
+}
 define('UNDO_PAUSE', 60); // seconds between those
 define('UNDO_PAUSE_OF_REQUESTS', 300); // which only take the place of a watcher that is gone
 define('EARLIER_LEASE', PRIVATE_FOLDER . '/lease'); // the address before the last change from DHCP
@@ -278,8 +280,8 @@ function ended_at_once($trial)
 // is over it is too late, also while the undoing has not begun.
 function keep_trial($trial, $why, $by, $client)
 {
-    $kept = seconds_left($trial) > 0 && change_trial($trial['id'], array('trial'), array('state' => 'kept', 'settled' => time(), 'why' => $why, 'by' => $by,
-        'from_client' => $client, 'told' => array()));
+    $kept = seconds_left($trial) == 0 ? false : change_trial($trial['id'], array('trial'), array('state' => 'kept',
+        'settled' => time(), 'why' => $why, 'by' => $by, 'from_client' => $client, 'told' => array()));
     if (!$kept) {
         return false;
     }
