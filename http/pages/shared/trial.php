@@ -454,6 +454,10 @@ function undo_at_start()
     change_trial($trial['id'], array('undoing'), array('ended' => 1));
     if (!watch_undo(START_SECONDS)) {
         start_watching(); // which goes on with it
+        $trial = read_trial();
+        if ($trial && !is_settled($trial)) {
+            exec('kill -KILL ' . getmypid()); // the end of this process would wait for the module's thread
+        }
     }
 }
 
