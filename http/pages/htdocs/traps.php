@@ -24,8 +24,8 @@ if (is_post()) {
     }
 }
 $receivers = get_snmp_trap_regs($session);
-show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed, 'seen' => receivers_shown($receivers),
-    'meanwhile' => $meanwhile, 'errors' => $errors, 'lead' => 'The systems to which the SNMP agent reports events.'));
+show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
+    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'lead' => 'The systems to which the SNMP agent reports events.'));
 
 function test_receivers($session)
 {

@@ -72,8 +72,9 @@ function new_trial($session, $kind, $values, $before, $from, $to, $seconds)
     $trace = $current && $current['state'] == 'applying' ? $current['trace'] : trace_size();
     $accounts = read_accounts();
     return array('id' => random_hex(8), 'state' => 'applying', 'kind' => $kind, 'values' => $values, 'before' => $before,
-        'from' => $from, 'to' => $to, 'trace' => $trace, 'began' => time(), 'boot' => boot_id(), 'uptime' => uptime(),
-        'seconds' => $seconds, 'user' => $session->user, 'account' => md5($accounts[$session->user]['hash']),
+        'from' => $from, 'to' => $to, 'trace' => $trace, 'began' => time(), 'seconds' => $seconds,
+        'boot' => boot_id(), 'uptime' => uptime(), // the same beginning, whatever becomes of the clock
+        'user' => $session->user, 'account' => md5($accounts[$session->user]['hash']),
         'client' => plain_address(text_of($_SERVER, 'REMOTE_ADDR')), 'secret' => random_hex(16), 'probe' => random_hex(16))
         + blank_trial();
 }

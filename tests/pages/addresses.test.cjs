@@ -1,5 +1,5 @@
-// Changes of the addresses themselves, which go on after the answer. Most are made without a trial here: trial.cjs has those
-// that are made with one.
+// Changes of the addresses themselves, which go on after the answer. Most are made without a trial here: trial.test.cjs
+// has those that are made with one.
 'use strict';
 
 const assert = require('node:assert/strict');
@@ -85,12 +85,13 @@ test('A change that leaves the address alone is applied while one watches', {}, 
   assert.equal(await page.innerText('h1'), 'Applied');
 });
 
-test('Without scripts the page goes to the new address too', {javaScriptEnabled: false}, async (page) => {
+test('Without scripts the page goes to the new address too, to sign in there', {javaScriptEnabled: false}, async (page) => {
   await signIn(page);
   await fillStatic(page, '10.20.0.8');
   await apply(page);
   assert.equal(await page.innerText('h1'), 'Applying');
   await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+  await enterPassword(page);
   assert.equal(await page.innerText('h1'), 'Applied');
 });
 

@@ -476,7 +476,7 @@ test('The audit trail names who changed the agent, whoever was served before', {
   await press(page, 'Save');
 });
 
-// trial.cjs has what happens with one.
+// trial.test.cjs has what happens with one.
 async function saveWithoutTrial(page, section, field) {
   await page.selectOption(field, '0');
   await press(page, 'Save', `[aria-labelledby=${section}]`);

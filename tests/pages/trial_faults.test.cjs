@@ -87,7 +87,7 @@ function fill(disk) {
   }
 }
 
-test('A full disk, or one that cannot be written: nothing is changed, and that is said', {}, async (page) => {
+test('A full disk, or one that cannot be written: nothing is changed, and that is said', {expected: /session_|sess_/i}, async (page) => {
   await signIn(page);
   await fillStatic(page, '10.20.0.8');
   const tried = async (what) => {
@@ -95,6 +95,7 @@ test('A full disk, or one that cannot be written: nothing is changed, and that i
     const begun = audit().length;
     await press(page, 'Apply');
     assert.match(await errorOf(page, 'mode'), /^Nothing was changed: the trial cannot be written down/, what);
+    assert.doesNotMatch(await messages(page), /This page has a fault/, what);
     assert.doesNotMatch(traceLog().slice(logged), /ntering set_/, what);
     assert.equal(ipv4Address(), '10.20.0.7', what);
     assert.equal(audit().length, begun, what);
