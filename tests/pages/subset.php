@@ -8,6 +8,7 @@
 $old = array('array_fill', 'array_keys', 'array_merge', 'array_slice', 'basename', 'bin2hex', 'chmod', 'clearstatcache', 'count', 'crypt',
     'dechex', 'define', 'defined', 'dirname', 'end', 'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof',
     'fflush', 'fgets', 'file', 'file_exists', 'filemtime', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftruncate', 'function_exists',
+    'getmypid',
     'fwrite', 'gmdate', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'in_array', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string',
     'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
     'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start', 'session_write_close',

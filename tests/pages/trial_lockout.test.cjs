@@ -159,7 +159,8 @@ test('A start goes on when undoing hangs, and the record of an older program is 
       store_trial(array("id" => "0123456789abcdef", "state" => "trial", "kind" => "ipv4", "before" => $before, "seconds" => 60,
         "values" => array("mode" => "Static", "ip" => "10.99.0.7", "netmask" => "255.255.255.0", "gateway" => "10.99.0.1")));`);
     const start = Date.now();
-    assert.throws(() => inAppliance('php', '-r', `define("START_SECONDS", 3); require "${web}/shared/page.php"; undo_at_start();`));
+    // Without the pipes, which the device script would hold open.
+    inAppliance('sh', '-c', `php -r 'define("START_SECONDS", 3); require "${web}/shared/page.php"; undo_at_start();' >/dev/null 2>&1 || true`);
     assert.ok(Date.now() - start < 14000, 'it goes on');
     assert.equal(trial('state'), 'undoing');
   });

@@ -387,17 +387,21 @@ function follow_end_of_undo($trial)
 }
 
 // Undoing that has failed is tried again every now and then, as long as nobody has changed these settings since.
-function retry_undo($trial)
+function retry_undo($trial, $at_once = false)
 {
     $since = time() - $trial['settled'];
     $pause = php_sapi_name() == 'cli' ? UNDO_PAUSE : UNDO_PAUSE_OF_REQUESTS;
-    if ($trial['left'] == '' || $since >= 0 && $since < $pause) {
+    if ($trial['left'] == '' || !$at_once && $since >= 0 && $since < $pause) {
         return $trial;
     }
-    $now = text_of_settings_now($trial);
+    $settings = settings_of(session_of_trial($trial), $trial['kind']);
+    $now = settings_text($trial['kind'], $settings);
+    // At a start no address is in force yet.
+    $is_unknown = $trial['kind'] == 'ipv4' && !$settings['dhcp'] && !is_host_address($settings['ip']);
+    $same = array($trial['left'], $trial['wanted'] ? settings_text($trial['kind'], $trial['wanted']) : '');
     if ($now == settings_text($trial['kind'], $trial['before'])) {
         change_trial($trial['id'], array('undone'), array('undo_failed' => false, 'settled' => time(), 'told' => array()));
-    } elseif ($now != $trial['left'] && (!$trial['wanted'] || $now != settings_text($trial['kind'], $trial['wanted']))) {
+    } elseif (!$is_unknown && !in_array($now, $same)) {
         change_trial($trial['id'], array('undone'), array('left' => ''));
     } else {
         change_trial($trial['id'], array('undone'), array('state' => 'undoing', 'undo_began' => 0, 'undo_handed' => 0,
@@ -445,9 +449,11 @@ function undo_at_start()
     } elseif ($trial && $trial['state'] == 'applying') {
         change_trial($trial['id'], array('applying'), array('state' => 'kept', 'settled' => time(), 'why' => 'no trial'));
         return;
-    } elseif ($trial && $trial['state'] == 'undone' && $trial['undo_failed'] && $trial['left'] != '') {
-        $trial = change_trial($trial['id'], array('undone'), array('state' => 'undoing', 'undo_began' => 0, 'undo_tries' => 0,
-            'why' => 'start'));
+    } elseif ($trial && $trial['state'] == 'undone' && $trial['undo_failed']) {
+        $trial = retry_undo($trial, true);
+        if (is_settled($trial)) {
+            return;
+        }
     } else {
         return;
     }
