@@ -98,7 +98,7 @@ async function goWhereItIs(misses) {
       return true;
     }
     if (isIt && key) {
-      await fetch(`${origin}/trial.php?background=1`, {method: 'POST', mode: 'no-cors', credentials: 'omit', redirect: 'manual',
+      await fetch(`${origin}/trial.php?background=1`, {method: 'POST', mode: 'no-cors', credentials: 'omit',
         body: new URLSearchParams({key}), signal: AbortSignal.timeout(3000)}).catch(() => {});
       return false;
     }

@@ -34,15 +34,17 @@ function take_key($trial, $key)
     // would be lost.
     $is_proof = is_background() || $trial && is_from_other_family($trial);
     $states = $is_proof ? array('trial') : array('applying', 'trial', 'kept');
-    if (!is_key_for_here($trial, $key, $states) || !use_key_up($trial, $states)) {
-        go_to('applying.php'); // which asks for the password
-    }
-    if ($is_proof) {
+    $is_used = is_key_for_here($trial, $key, $states) && use_key_up($trial, $states);
+    if ($is_used && $is_proof) {
         keep_trial($trial, 'back under the new settings', $trial['user'], client_of_request());
-        go_to('applying.php');
+    } elseif ($is_used) {
+        open_session();
+        begin_session_of($trial['user']);
+        $_SESSION['trial'] = $trial['id'];
     }
-    open_session();
-    begin_session_of($trial['user']);
-    $_SESSION['trial'] = $trial['id'];
-    go_to('applying.php');
+    if (is_background()) {
+        send_headers(); // the page itself stays where it is
+        exit;
+    }
+    go_to('applying.php'); // which asks for the password where there is no session
 }
