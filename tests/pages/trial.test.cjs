@@ -570,6 +570,8 @@ test('Who may only look sees the trial, and no buttons', {}, async (page, contex
   assert.equal(await other.locator('main button').count(), 0);
   assert.equal(await other.locator('[data-key]').evaluateAll((all) => all.map((way) => way.dataset.key).join('')), '', 'nor the key');
   await other.context().close();
+  // The page goes on by itself meanwhile.
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
   await press(page, 'Undo now');
   await reaches('undone');
 });

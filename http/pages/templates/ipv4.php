@@ -44,7 +44,7 @@ echo text_field('gateway', 'Gateway', $known ? $settings->gateway : '', $errors,
 </div>
 <?php $loses = is_used_address($current->ip); // not where another machine publishes the pages ?>
 <p class="note when-static">The change begins after three seconds. <?php echo $loses
-  ? 'When the address changes, this page loses its connection; it is then at' : 'This page stays where it is; from the network it is then at'; ?>
+  ? 'When the address changes, this page loses its connection; it is then at ' : 'This page stays where it is; from the network it is then at '; ?>
 <span class="address" data-address-from="ip"><?php echo is_https() ? 'https' : 'http'; ?>://(the new address)/</span><?php
   echo $loses ? ', where it goes on' : ''; ?>.</p>
 <p class="note when-dhcp">The change begins after three seconds. <?php echo $loses ? 'When the server gives another address than the present
