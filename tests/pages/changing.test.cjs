@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {addresses, ask, datagramsTo, fromLan, inAppliance, ipv4Address, php, traceLog, until, web, withScript} = require('./appliance.cjs');
-const {beside, errorOf, messages, open, press, signIn, test} = require('./browser.cjs');
+const {beside, errorOf, messages, open, press, showCommunity, signIn, test} = require('./browser.cjs');
 
 // The pages as on a device that has no list of the networks within it: there the appliance alone knows what it refuses.
 async function withoutList(work) {
@@ -217,6 +217,7 @@ function snmpGet(version, community) {
 test('The SNMP agent', {user: 'admin'}, async (page) => {
   await open(page, 'snmp.php');
   await page.check('#version1');
+  await showCommunity(page);
   await page.fill('#community_name', 'read$me;<b>');
   await page.check('#trap2');
   await press(page, 'Save');
@@ -231,6 +232,7 @@ test('The SNMP agent', {user: 'admin'}, async (page) => {
   assert.equal(snmpGet('2c', 'read$me;<b>'), '');
   await page.check('#version1');
   await page.uncheck('#trap2');
+  await showCommunity(page);
   await page.fill('#community_name', 'public');
   await press(page, 'Save');
   assert.match(snmpGet('2c', 'public'), /library/);
@@ -304,13 +306,14 @@ test('An agent that does not restart is reported with the code', {user: 'admin'}
 
 test('SNMP settings that cannot be', {user: 'admin'}, async (page) => {
   await open(page, 'snmp.php');
-  await page.evaluate(() => document.getElementById('community_name').removeAttribute('maxlength'));
+  await showCommunity(page);
   await refused(page, 'Save', 'main', [
     [{community_name: ''}, {community_name: /1 to 32/}],
     [{community_name: 'a b'}, {community_name: /1 to 32/}],
     [{community_name: 'a"b'}, {community_name: /1 to 32/}],
     [{community_name: 'a\'b'}, {community_name: /1 to 32/}],
     [{community_name: 'é'}, {community_name: /1 to 32/}],
+    [{community_name: 'a'.repeat(35)}, {community_name: /^Too long by 3: enter 1 to 32/}],
   ]);
   await page.fill('#community_name', 'public');
   await page.uncheck('#trap1');

@@ -5,10 +5,17 @@ const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const net = require('node:net');
 const {applianceFolder, ipv4Address, php, until, withScript} = require('./appliance.cjs');
-const {base, beside, certificate, enterPassword, messages, open, press, served, signIn, test} = require('./browser.cjs');
+const {base, beside, certificate, enterPassword, messages, open, press, served, sessionCookie, signIn, test} = require('./browser.cjs');
+
+// Of somebody who was signed in when HTTPS was switched on; whoever listened in knows it.
+let unencrypted;
 
 // Who switches is signed out: a session of its own each.
 test('HTTPS is switched on: the page comes back encrypted, with a cookie of its own', {}, async (page, context) => {
+  const bystander = await context.browser().newContext();
+  await signIn(await bystander.newPage(), 'monitor');
+  unencrypted = (await sessionCookie(bystander)).value;
+  await bystander.close();
   await signIn(page, 'admin', 'security.php');
   assert.ok(await page.isChecked('#https-0'));
   assert.match(await page.innerText('.note'), /restarts in the new mode, and you will sign in again/);
@@ -38,7 +45,7 @@ test('HTTPS is switched on: the page comes back encrypted, with a cookie of its 
 test('A session that has travelled unencrypted is of no use under HTTPS, whatever the cookie is called', {}, async (page, context) => {
   await served('https');
   await signIn(page, 'admin', 'index.php', 'https');
-  const [{name, value}] = await context.cookies();
+  const {name, value} = await sessionCookie(context);
   const asks = async (address, cookie) => {
     const answer = await context.request.get(address, {headers: {cookie}});
     return /action="signin\.php"/.test(await answer.text());
@@ -69,6 +76,9 @@ test('HTTPS is switched off: the page comes back without it', {}, async (page) =
   await page.waitForURL(`http://${ipv4Address()}/applying.php`, {timeout: 20000});
   await enterPassword(page);
   assert.equal(await page.innerText('h1'), 'Kept');
+  // What travelled unencrypted before HTTPS was on is not good again.
+  const answer = await fetch(`${base()}dns.php`, {headers: {cookie: `settings=${unencrypted}`}});
+  assert.match(await answer.text(), /action="signin\.php"/);
   await open(page, 'security.php');
   assert.ok(await page.isChecked('#https-0'));
   await press(page, 'Save');

@@ -51,6 +51,7 @@ function switch_mode($session, $on)
     }
     if ($seconds == 0) {
         forget_session();
+        end_sessions_of_mode(!$on);
     } else {
         ended_at_once($trial);
     }

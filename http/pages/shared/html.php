@@ -28,6 +28,7 @@ function icon($name)
         'snmp.php' => 'M3 12h4l3-8 4 16 3-8h4',
         'traps.php' => 'M6 17v-6a6 6 0 0 1 12 0v6l2 2H4zM10 21.5h4',
         'diagnostics.php' => 'M3 5h18v14H3zM7 9l3 3-3 3M12 15h5',
+        'account.php' => 'M12 4a4 4 0 1 0 0 8 4 4 0 1 0 0-8zM4 20.5c0-4 3.5-6 8-6s8 2 8 6',
         'good' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM8 12.5l3 3 5-6',
         'bad' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM12 7v6M12 16.2v.6',
         'caution' => 'M12 4l9 16H3zM12 10v4.5M12 17v.6',

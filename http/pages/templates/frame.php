@@ -17,6 +17,7 @@ $trial = read_trial();
 $on_trial = $trial && $trial['seconds'] > 0 && is_active($trial) && $page != 'applying.php' && !isset($restarts) ? $trial : false;
 $wrong = failed() || !empty($errors);
 $current = isset($part_of) ? $part_of : $page;
+$left = seconds_of_session();
 ?>
 <!DOCTYPE html>
 <html lang="en">
@@ -27,7 +28,7 @@ $current = isset($part_of) ? $part_of : $page;
   echo h($refresh['address']); ?>"></noscript>
 <?php } ?>
 </head>
-<body>
+<body data-session="<?php echo $left['idle'], ' ', $left['at_most']; ?>" data-session-warning="<?php echo WARNING_SECONDS; ?>">
 <a class="skip" href="#content">Skip to the content</a>
 <div class="layout">
 <header class="bar">
@@ -65,5 +66,6 @@ $current = isset($part_of) ? $part_of : $page;
 <?php echo $content; ?>
 </main>
 </div>
+<div id="session" role="status"></div>
 </body>
 </html>

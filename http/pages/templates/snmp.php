@@ -12,8 +12,15 @@ if (change_failed()) echo '<input type="hidden" name="again" value="1">'; ?>
     <span class="hint">Always on. Authentication <?php echo h($facts->algorithm); ?>, encryption
     <?php echo $facts->encryption ? 'on' : 'off'; ?>, port <?php echo (int) $facts->port; ?>.</span></p>
 </fieldset>
+<?php if ($shows_community) { ?>
+<details class="secret"<?php if (isset($errors['community_name'])) echo ' open'; ?>><summary>Read community: show or change it</summary>
 <?php echo text_field('community_name', 'Read community', $settings->community_name, $errors,
-    'The word that requests of versions 1 and 2c must carry.', 'maxlength="32"'); ?>
+    'The word that requests of versions 1 and 2c must carry.'); ?>
+</details>
+<?php } else { ?>
+<p class="fixed"><strong>Read community</strong> <span class="hint">Not shown: who knows it can read everything. It is for the role
+  admin.</span></p>
+<?php } ?>
 <fieldset class="field"<?php echo described_by('traps', '', $traps_error); ?>><legend>Sends traps of</legend>
   <?php echo check_field('trap1', 'Version 1', $settings->trap1); ?>
   <?php echo check_field('trap2', 'Version 2c', $settings->trap2); ?>
