@@ -162,7 +162,7 @@ test('Under a name the page offers the new address, unless another machine publi
       http.get(`${base()}applying.php`, {headers: {cookie: `${name}=${value}`, host}}, (answer) => {
         let body = '';
         answer.on('data', (data) => { body += data; });
-        answer.on('end', () => resolve((body.match(/data-origins="([^"]*)"/) || ['', ''])[1]));
+        answer.on('end', () => resolve((body.match(/data-origin="([^"]*)"/) || ['', ''])[1]));
       });
     });
     assert.equal(await offered('library.example'), 'http://10.20.0.9');

@@ -31,6 +31,11 @@ if (is_post() && posted('change') == 'name') {
     }
     $settings = $wanted;
 }
+$again = is_post() ? false : values_again('ipv4');
+if ($again) {
+    $settings = ipv4_settings($current_name, array('dhcp' => $again['mode'] == 'DHCP') + $again
+        + array('ip' => $current->ip, 'netmask' => $current->netmask, 'gateway' => $current->gateway));
+}
 show('ipv4', array('title' => 'IPv4 and host name', 'settings' => $settings, 'errors' => $errors, 'name' => $current_name,
     'mode' => posted('change') == 'addressing' ? posted('mode') : ($settings->dhcpEnabled ? 'dhcp' : 'static'),
     'meanwhile' => $meanwhile, 'seen' => $seen, 'current' => $current, 'is_known' => $is_known,
@@ -91,7 +96,7 @@ function change_addressing($session, $now, $wanted)
     }
     if ($wanted->dhcpEnabled === null && posted('reviewed') != 'yes') {
         $warnings = array_merge(address_warnings($now->ip, $wanted->ip, $wanted->gateway, $now->gateway),
-            network_warnings($wanted->ip, $wanted->netmask, $now));
+            network_warnings($wanted->ip, $wanted->netmask, $now), name_server_warnings($session, $now));
         if ($warnings) {
             show_review($warnings, $values, $now);
         }

@@ -67,8 +67,8 @@ async function follow(section) {
     const page = await fetchPage();
     if (location.href !== asked) continue; // the filter has changed meanwhile
     misses = page ? 0 : misses + 1;
-    for (const lost of section.querySelectorAll('[data-when-lost]')) lost.hidden = misses < 3;
     for (const told of section.querySelectorAll('[data-when-answering]')) told.hidden = misses >= 3;
+    for (const lost of section.querySelectorAll('[data-when-lost]')) showLost(lost, misses >= 3);
     if (await goWhereItIs(misses)) return undefined;
     if (!page) continue;
     // Another title is another state, and no part at all another page.
@@ -79,20 +79,37 @@ async function follow(section) {
   }
 }
 
+// While nothing answers, the page's last words about it are stale: it says so, and when the settings of before are back, which
+// takes some seconds after the time is over.
+function showLost(lost, isLost) {
+  if (isLost) {
+    const title = document.querySelector('h1');
+    document.title = document.title.replace(title.textContent, lost.dataset.whenLost);
+    title.textContent = lost.dataset.whenLost;
+    const back = lost.querySelector('[data-back-at]');
+    if (back) back.textContent = `at ${timeOfDay(Date.now() + countdownEnd - performance.now() + 15000)}`;
+  }
+  lost.hidden = !isLost;
+}
+
+function timeOfDay(milliseconds) {
+  return new Date(milliseconds).toLocaleTimeString([], {hour: '2-digit', minute: '2-digit'});
+}
+
 // When the appliance is elsewhere, the page goes there; where the address in use stays, it only proves that the other one is
-// reached. The random number tells the appliance from another web server at its address. Returns whether it goes.
+// reached. The random number tells the appliance from another web server at its address: none but the appliance gets the key.
+// Returns whether it goes.
 async function goWhereItIs(misses) {
-  const way = document.querySelector('[data-origins]');
-  if (!way || (way.dataset.leaves && misses === 0)) return false;
-  for (const origin of way.dataset.origins.split(' ')) {
-    const isIt = await isThisAppliance(origin, way.dataset.probe, way.dataset.answer);
-    if (way.dataset.leaves && (isIt || (way.dataset.known && misses > 4))) {
-      location.assign(way.dataset.key ? `${origin}/trial.php#${way.dataset.key}` : `${origin}/applying.php`);
+  for (const {dataset: {origin, probe, answer, key, leaves, known}} of document.querySelectorAll('[data-origin]')) {
+    if (leaves && misses === 0) return false;
+    const isIt = await isThisAppliance(origin, probe, answer);
+    if (leaves && (isIt || (known && misses > 4))) {
+      location.assign(isIt && key ? `${origin}/trial.php#${key}` : `${origin}/applying.php`);
       return true;
     }
-    if (isIt && way.dataset.key) {
+    if (isIt && key) {
       await fetch(`${origin}/trial.php?background=1`, {method: 'POST', mode: 'no-cors', credentials: 'omit',
-        body: new URLSearchParams({key: way.dataset.key}), signal: AbortSignal.timeout(3000)}).catch(() => {});
+        body: new URLSearchParams({key}), signal: AbortSignal.timeout(3000)}).catch(() => {});
       return false;
     }
   }
@@ -103,7 +120,7 @@ async function isThisAppliance(origin, number, answer) {
   try {
     const said = await fetch(`${origin}/trial.php?probe=${number}`,
       {cache: 'no-store', credentials: 'omit', signal: AbortSignal.timeout(2000)});
-    return said.ok && (await said.text()).trim() === answer;
+    return said.ok && (await said.text()).trim().split(' ').includes(answer);
   } catch {
     return false;
   }
@@ -120,6 +137,12 @@ if (countdown) {
     const bar = countdown.closest('section').querySelector('progress[value]');
     if (bar) bar.value = left;
   }, 500);
+}
+
+// A time of the appliance as this computer says it.
+for (const told of document.querySelectorAll('[data-local-time]')) {
+  told.textContent = `That was at ${timeOfDay(told.dataset.localTime * 1000)} on this computer.`;
+  told.hidden = false;
 }
 
 function countDown(page) {
@@ -143,8 +166,15 @@ if (returning) waitForReturn(returning.dataset.return);
 async function waitForReturn(address) {
   for (;;) {
     await new Promise((resolve) => setTimeout(resolve, 2000));
+    const isOver = performance.now() > countdownEnd;
+    for (const part of returning.querySelectorAll('[data-until-over]')) part.hidden = isOver;
+    for (const part of returning.querySelectorAll('[data-when-over]')) part.hidden = !isOver;
     try {
       const answer = await fetch(`${address}?background=1`, {redirect: 'manual', signal: AbortSignal.timeout(3000)});
+      // It sends on to the new mode.
+      const isThere = answer.type === 'opaqueredirect';
+      for (const part of returning.querySelectorAll('[data-until-there]')) part.hidden = isThere;
+      for (const part of returning.querySelectorAll('[data-when-there]')) part.hidden = !isThere;
       const page = answer.ok ? new DOMParser().parseFromString(await answer.text(), 'text/html') : null;
       if (page && page.querySelector('[data-over]')) return location.assign(address);
     } catch {

@@ -36,9 +36,7 @@ function switch_mode($session, $on)
     if ($seconds == 0 && trial_in_the_way()) {
         return array('https' => 'Another change is on trial: keep or undo it first. Yours was not applied.');
     }
-    if ($seconds > 0) {
-        $trial = give_key($trial);
-    }
+    $trial['wanted'] = array('https' => $on);
     name_user_to_services($session);
     begin_change();
     if ($seconds > 0) {
@@ -65,10 +63,7 @@ function switch_mode($session, $on)
 // The web server restarts now: this answer is the last one in the old mode.
 function show_restart($on, $trial, $seconds)
 {
-    $address = address_after($on);
-    if ($seconds > 0) {
-        $address = str_replace('security.php', 'trial.php?key=' . $_SESSION['trial_key'], $address);
-    }
+    $address = str_replace('security.php', $seconds > 0 ? 'applying.php' : 'security.php', address_after($on));
     // Before it goes on to HTTPS, the certificate is to be seen.
     $refresh = $on ? array('seconds' => $seconds + 8, 'address' => 'applying.php') : array('seconds' => 5, 'address' => $address);
     $values = array('title' => 'Web security', 'on' => $on, 'address' => $address, 'certificate' => certificate_facts(),

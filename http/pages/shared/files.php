@@ -25,6 +25,9 @@ function replace_file($path, $content, $durable = false)
         && (!$durable || put_on_disk($file)) && fclose($file) && keep_owner($path, $new);
     umask($mask);
     if ($written && @rename($new, $path)) {
+        if ($durable) {
+            exec("sync '" . dirname($path) . "' 2>/dev/null || sync"); // the name, too
+        }
         return true;
     }
     error_log('The file ' . $path . ' cannot be written: its disk is full, or may not be written.');

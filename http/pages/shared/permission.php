@@ -13,6 +13,7 @@ class Session
 function signed_in($for_everybody = false)
 {
     advance_trial(); // whoever asks: the watcher may have been ended
+    keep_if_mode_is_reached();
     if (!open_session()) {
         ask_to_sign_in('');
     }
@@ -89,7 +90,7 @@ function ask_to_sign_in($notice)
 function show_sign_in($next, $user, $error, $notice, $typed = '', $proof = '')
 {
     show('signin', array('title' => 'Sign in', 'next' => next_page($next), 'user' => $user, 'error' => $error,
-        'notice' => $notice, 'typed' => $typed, 'proof' => $proof, 'token' => sign_in_token(true),
+        'notice' => trim($notice . ' ' . trial_at_sign_in()), 'typed' => $typed, 'proof' => $proof, 'token' => sign_in_token(true),
         'accounts' => count(read_accounts())));
 }
 

@@ -56,11 +56,13 @@ echo text_field('netmask', 'Netmask', $known ? $settings->netmask : '', $errors,
 echo text_field('gateway', 'Gateway', $known ? $settings->gateway : '', $errors, 'The router of the network.', 'inputmode="decimal"');
 ?>
 </div>
-<p class="note when-static">The change begins after three seconds. When the address changes, this page loses its connection;
-it is then at <span class="address" data-address-from="ip"><?php echo is_https() ? 'https' : 'http'; ?>://(the new address)/</span>,
-where it goes on.</p>
-<p class="note when-dhcp">The change begins after three seconds. When the server gives another address than the present one, this
-page loses its connection; the server's list of leases then shows the new address beside the name <?php
+<?php $loses = is_used_address($current->ip); // not where another machine publishes the pages ?>
+<p class="note when-static">The change begins after three seconds. <?php echo $loses
+  ? 'When the address changes, this page loses its connection; it is then at ' : 'This page stays where it is; from the network it is then at '; ?>
+<span class="address" data-address-from="ip"><?php echo is_https() ? 'https' : 'http'; ?>://(the new address)/</span><?php
+  echo $loses ? ', where it goes on' : ''; ?>.</p>
+<p class="note when-dhcp">The change begins after three seconds. <?php echo $loses ? 'When the server gives another address than the present
+one, this page loses its connection; the' : 'This page stays where it is; the'; ?> server's list of leases then shows the new address beside the name <?php
   echo h($name); ?>.</p>
 <?php echo form_end('Apply', trial_field('trial')); ?>
 </section>

@@ -20,6 +20,9 @@
 <?php } ?>
 </section>
 
+<?php if ($other_way != '') echo message('note', '<p>You are using these pages over IPv6. A change below may end that: they are at <a href="'
+    . h($other_way) . 'ipv6.php">' . h($other_way) . '</a>, too, which no change on this page touches.</p>'); ?>
+
 <section class="card" aria-labelledby="switch">
   <h2 id="switch">IPv6 altogether</h2>
 <?php
