@@ -91,6 +91,7 @@ test('States that are seldom seen are accessible and fit', {viewport: screens.na
 
   await withScript('ipv6Manager.sh', 'case "$*" in "-c -s "*) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
     await open(page, 'ipv6.php');
+    await page.check('#enabled');
     await page.check('#static');
     await page.fill('#ipStatic', '2001:db8:20::7');
     await page.fill('#prefix', '64');
@@ -172,15 +173,15 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
   assert.ok(await page.isVisible('#ipStatic'), 'no script is needed to show the fields');
   for (const mode of ['IPv6 is on', 'IPv6 is off']) {
     await page.setChecked('#enabled', mode === 'IPv6 is on');
-    await page.selectOption('#trial-switch', '0');
-    await press(page, 'Save', '[aria-labelledby=switch]');
+    await page.selectOption('#trial', '0');
+    await press(page, 'Apply');
     assert.ok((await messages(page)).startsWith(mode), mode);
   }
   for (const dhcp of [true, false]) {
     await page.setChecked('#dhcp', dhcp);
-    await page.selectOption('#trial-modes', '0');
-    await press(page, 'Save', '[aria-labelledby=sources]');
-    assert.match(await messages(page), /^The sources of addresses are set/);
+    await page.selectOption('#trial', '0');
+    await press(page, 'Apply');
+    assert.match(await messages(page), /^The sources of addresses are stored/);
   }
   await page.check('#static');
   await page.fill('#ipStatic', '2001:db8:20::7');

@@ -19,10 +19,11 @@ for (const shown of document.querySelectorAll('[data-address-from]')) {
 }
 
 // Parts of a form that another field makes useless. Without scripts they only look it, and what they say is passed over.
-for (const part of document.querySelectorAll('[data-inactive-while]')) {
-  const field = document.getElementById(part.dataset.inactiveWhile);
+for (const part of document.querySelectorAll('[data-inactive-while], [data-inactive-unless]')) {
+  const {inactiveWhile, inactiveUnless} = part.dataset;
+  const field = document.getElementById(inactiveWhile || inactiveUnless);
   const locked = part.closest('fieldset.form[disabled]') !== null;
-  const update = () => { part.disabled = locked || field.checked; };
+  const update = () => { part.disabled = locked || field.checked === Boolean(inactiveWhile); };
   field.addEventListener('change', update);
   addEventListener('pageshow', update); // the browser may have put back what was chosen
   update();

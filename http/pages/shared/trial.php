@@ -40,6 +40,9 @@ function stored_trial()
     clearstatcache();
     $text = is_readable(TRIAL_FILE) ? implode('', file(TRIAL_FILE)) : '';
     $trial = $text == '' ? false : @unserialize($text); // one that is damaged is none
+    if (isset($trial['kind']) && ($trial['kind'] == 'ipv6-switch' || $trial['kind'] == 'ipv6-modes')) {
+        $trial['kind'] = 'ipv6'; // an older program told its parts apart
+    }
     $is_whole = is_array($trial) && isset($trial['id'], $trial['state'], $trial['kind'], $trial['values'], $trial['before'])
         && is_array($trial['values']) && is_array($trial['before']) && isset($GLOBALS['kinds_of_change'][$trial['kind']]);
     // What the record of an older program lacks.
@@ -334,7 +337,8 @@ function follow_undo($trial)
     }
     free_room();
     begin_change();
-    if (!put_back(session_of_trial($trial), $trial['kind'], $trial['before'])) {
+    $on_its_way = $trial['ended'] == 0 ? $trial['wanted'] : array();
+    if (!put_back(session_of_trial($trial), $trial['kind'], $trial['before'], $on_its_way)) {
         end_undo($mine, change_failed(), array());
     } elseif (change_failed()) {
         end_undo($mine, true, array());
@@ -549,15 +553,24 @@ function carry_out_later($trial)
         return;
     }
     begin_change();
-    $is_traced = put_back(session_of_trial($trial), $trial['kind'], $trial['later']);
+    $is_traced = put_into_force(session_of_trial($trial), $trial['kind'], $trial['later']);
     if (change_failed()) {
-        $failure = end($GLOBALS['failures']);
-        change_trial($trial['id'], array('applying'), array('state' => 'refused', 'settled' => time(),
-            'why' => $failure['message']));
-        audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], $failure['message']);
+        $why = take_back_at_once(session_of_trial($trial), $trial);
+        change_trial($trial['id'], array('applying'), array('state' => 'refused', 'settled' => time(), 'why' => $why));
+        audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], $why);
     } elseif (!$is_traced) {
         ended_at_once($trial);
     }
+}
+
+// What was refused, but for a part of it. Returns why it was.
+function take_back_at_once($session, $trial)
+{
+    $failure = $GLOBALS['failures'][count($GLOBALS['failures']) - 1];
+    if ($trial['kind'] != 'ipv4') {
+        put_back($session, $trial['kind'], $trial['before']);
+    }
+    return $failure['message'];
 }
 
 // What the module is asked for is asked for in the name of who made the change.
