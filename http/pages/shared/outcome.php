@@ -138,6 +138,9 @@ function reason_of_undo($trial)
     if ($trial['why'] == 'time') {
         return 'nobody was back under the new settings within ' . $trial['seconds'] . ' seconds';
     }
+    if ($trial['why'] == 'refused') {
+        return 'the appliance refused a part of the new ones';
+    }
     return $trial['why'] == 'start' ? 'the appliance started anew during the trial' : $trial['by'] . ' asked for it';
 }
 

@@ -256,6 +256,10 @@ function follow_trace($trial)
     if ($end == '') {
         return $trial;
     }
+    if ($end == 'failed' && has_other_parts($trial)) {
+        change_trial($trial['id'], array('applying'), array('ended' => time(), 'lines' => $lines));
+        return undo_trial($trial, 'refused', '', '');
+    }
     if ($end == 'failed') {
         $changes = array('state' => 'refused', 'settled' => time(), 'ended' => time(), 'lines' => $lines);
     } elseif ($trial['seconds'] == 0) {
@@ -268,6 +272,12 @@ function follow_trace($trial)
         audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], '');
     }
     return read_trial();
+}
+
+// Whether something of the change is in force although the thread, which ends in the trace log, has set nothing.
+function has_other_parts($trial)
+{
+    return $trial['kind'] == 'ipv6' && array_intersect(array_keys($trial['values']), array('enabled', 'stateless', 'dhcp'));
 }
 
 // A change that is in force when the module's function returns.
@@ -300,8 +310,8 @@ function keep_trial($trial, $why, $by, $client)
     return true;
 }
 
-// Decides that the settings of before come back. $why: 'time', 'asked' or 'start'. $also_kept: whether what is kept by now is to
-// be undone, too. Returns the record.
+// Decides that the settings of before come back. $why: 'time', 'asked', 'start', or 'refused' of a part of it.
+// $also_kept: whether what is kept by now is to be undone, too. Returns the record.
 function undo_trial($trial, $why, $by, $client, $also_kept = false)
 {
     $states = $also_kept && can_undo_kept($trial) ? array('applying', 'trial', 'kept') : array('applying', 'trial');
@@ -385,7 +395,9 @@ function follow_end_of_undo($trial)
     $lines = traced_since($trial['undo_trace']);
     $end = $trial['undo_asked'] ? how_it_ended($trial['kind'], $lines) : '';
     if ($end != '') {
-        end_undo($trial, $end == 'failed', $lines);
+        // The thread of the change itself may have come after that of the undoing.
+        $is_other = $trial['kind'] == 'ipv6' && text_of_settings_now($trial) != settings_text('ipv6', $trial['before']);
+        end_undo($trial, $end == 'failed' || $is_other, $lines);
     } elseif ($trial['undo_tries'] >= UNDO_TRIES && time() - $trial['undo_began'] > UNDO_SECONDS) {
         // The trace log may be what could not be written.
         end_undo($trial, text_of_settings_now($trial) != settings_text($trial['kind'], $trial['before']), array());
@@ -424,11 +436,13 @@ function end_undo($trial, $failed, $lines)
         return;
     }
     $again = $failed && $trial['undo_failed']; // which has been said
-    if (change_trial($trial['id'], array('undoing'), array('state' => 'undone', 'settled' => time(), 'undo_failed' => $failed,
-        'lines' => $lines, 'left' => $failed ? text_of_settings_now($trial) : '',
-        'told' => $again ? $trial['told'] : array())) && !$again) {
-        audit_trial($trial, $failed ? 'could not be undone' : 'undone', $trial['by'] == '' ? $trial['user'] : $trial['by'],
-            $trial['from_client'], why_undone($trial));
+    $refused = $trial['why'] == 'refused' && !$failed;
+    $operation = $refused ? 'refused by the appliance' : ($failed ? 'could not be undone' : 'undone');
+    if (change_trial($trial['id'], array('undoing'), array('state' => $refused ? 'refused' : 'undone', 'settled' => time(),
+        'why' => $refused ? '' : $trial['why'], 'undo_failed' => $failed, 'lines' => $refused ? $trial['lines'] : $lines,
+        'left' => $failed ? text_of_settings_now($trial) : '', 'told' => $again ? $trial['told'] : array())) && !$again) {
+        audit_trial($trial, $operation, $trial['by'] == '' ? $trial['user'] : $trial['by'], $trial['from_client'],
+            why_undone($trial));
     }
 }
 
@@ -436,6 +450,9 @@ function why_undone($trial)
 {
     if ($trial['why'] == 'start') {
         return 'the appliance started anew during the trial';
+    }
+    if ($trial['why'] == 'refused') {
+        return 'the appliance refused a part of it';
     }
     return $trial['why'] == 'time' ? 'nobody was back under the new settings in time' : 'asked for by ' . $trial['by'];
 }
