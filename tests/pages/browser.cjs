@@ -4,7 +4,7 @@
 const fs = require('node:fs');
 const nodeTest = require('node:test');
 const tls = require('node:tls');
-const {chromium} = require('playwright-core');
+const {chromium, firefox} = require('playwright-core');
 const appliance = require('./appliance.cjs');
 
 const failures = `${process.env.PAGES_TEST_FOLDER}/failures`;
@@ -14,11 +14,19 @@ const axe = fs.readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 const pages = ['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php', 'traps.php',
   'diagnostics.php'];
 
+let inFirefox = false;
 let browser;
 nodeTest.before(async () => {
-  browser = await chromium.launch({executablePath: '/usr/bin/chromium', args: flags});
+  // Debian's, which is told what to do by the protocol of all browsers: that is what the channel stands for.
+  browser = inFirefox ? await firefox.launch({channel: 'moz-firefox', executablePath: '/usr/bin/firefox-esr', timeout: 120000})
+    : await chromium.launch({executablePath: '/usr/bin/chromium', args: flags});
 });
 nodeTest.after(() => browser.close());
+
+// To be called before the tests begin.
+function useFirefox() {
+  inFirefox = true;
+}
 
 function base(scheme = 'http') {
   return `${scheme}://${appliance.ipv4Address()}/`;
@@ -158,4 +166,4 @@ async function accessibilityFaults(page) {
 }
 
 module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, enterPassword, errorOf, messages, open, pages, press, served,
-  signIn, test};
+  signIn, test, useFirefox};
