@@ -4,8 +4,8 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {applianceFolder, fromLan, ipv4Address, php, until, web, withScript} = require('./appliance.cjs');
-const {accessibilityFaults, asksToSignIn, base, enterPassword, markupFaults, messages, open, pages, press, served, signIn, test} =
-  require('./browser.cjs');
+const {accessibilityFaults, asksToSignIn, base, enterPassword, markupFaults, messages, open, pages, press, served, showCommunity,
+  signIn, test} = require('./browser.cjs');
 const {fillStatic, passes, reaches} = require('./on_trial.cjs');
 
 const screens = {wide: {width: 1280, height: 900}, narrow: {width: 390, height: 844}};
@@ -68,6 +68,7 @@ test('Errors, messages and lists are valid and accessible, and fit', {user: 'adm
   await judge(page, 'diagnostics.php with a refused change');
   for (const [name, button] of [['dns.php', 'Save'], ['snmp.php', 'Save'], ['traps.php', 'Add']]) {
     await open(page, name);
+    if (name === 'snmp.php') await showCommunity(page);
     await page.fill('main input[type=text] >> nth=0', 'x y');
     await press(page, button);
     await judge(page, `${name} with errors`);
@@ -117,6 +118,7 @@ test('An address in a wrong network is valid and accessible, and fits, from the 
   await press(page, 'Apply');
   assert.deepEqual(await markupFaults(page), [], 'applying.php of an address is valid');
   await until(() => ipv4Address() === '10.99.0.7', 'the wrong address');
+  await reaches('trial');
   await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
   await judge(page, 'applying.php that has lost the appliance');
   passes(50);

@@ -27,7 +27,7 @@ $same_filter = 'filter=' . urlencode($filter);
 <?php } elseif (!$lines) { ?>
   <p class="empty"><?php echo $filter == '' ? 'The trace log is empty.' : 'No line has this text.'; ?></p>
 <?php } else { ?>
-  <pre class="log long" tabindex="0" aria-label="End of the trace log"><?php echo h(implode("\n", $lines)); ?></pre>
+  <pre class="log long" tabindex="0" role="region" aria-label="End of the trace log"><?php echo h(implode("\n", $lines)); ?></pre>
 <?php } ?>
   </div>
 </section>
