@@ -25,9 +25,10 @@ function render($template, $values)
 // Goes to a page after a change, which says the message once.
 function go_to($page, $message = '')
 {
-    if ($message != '') {
+    if ($message != '' || $GLOBALS['audit_failed']) {
         return_to_session();
         $_SESSION['message'] = $message;
+        $_SESSION['audit_failed'] = $GLOBALS['audit_failed'];
     }
     send_headers();
     header('Location: ' . $page, true, 303);
