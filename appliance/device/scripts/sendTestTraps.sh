@@ -1,6 +1,7 @@
 #!/bin/sh
 # Starts the SNMP agent anew, then sends a test trap to every registered receiver in each version of traps
-# that is on, to all at the same time. Exit status 0 only when all could be sent.
+# that is on, to all at the same time. Exit status 0 only when all could be sent. What became of each is kept for
+# testTrapResults.sh, which says what the words mean.
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
 # shellcheck source=SCRIPTDIR/management.sh
@@ -8,15 +9,47 @@
 # shellcheck source=SCRIPTDIR/snmp.sh
 . "$BIN/snmp.sh"
 
+RESULTS_OF_NOW=$TEST_RESULTS.$$
+
+# test_receiver VERSION RECEIVER: prints what is wrong, and adds a line to the results.
+test_receiver() {
+  wrong=$(send_test_trap "$1" "$community" "$2" 2>&1)
+  [ -z "$wrong" ] || line "$wrong"
+  line "$2 $1 $(outcome_of_test "$2" "$wrong")" >>"$RESULTS_OF_NOW"
+}
+
+# outcome_of_test RECEIVER COMPLAINT
+outcome_of_test() {
+  case $1,$2 in
+  tcp*,) echo connected ;;
+  udp*,) if is_port_closed "$1"; then echo refused; else echo sent; fi ;;
+  *[Rr]efused*) echo refused ;;
+  *) echo unreachable ;;
+  esac
+}
+
+# is_port_closed RECEIVER: whether the other side says so, within half a second. Who sends a trap by UDP alone is told
+# nothing, so the same port gets an empty datagram, for which a connection is kept open that long.
+is_port_closed() {
+  case $(timeout "$SECONDS_TO_SEND" socat -t 0.5 -T 0.5 - "UDP${1#udp},shut-null" </dev/null 2>&1) in
+  *'Connection refused'*) return 0 ;;
+  *) return 1 ;;
+  esac
+}
+
 [ $# = 0 ] || refuse_call 'none' "$@"
+rm -f "$TEST_RESULTS"
 restart_agent # sets receivers, trap1, trap2 and community
 [ -n "$receivers" ] || exit 0
 [ "$trap1$trap2" != 00 ] || fail 'no version of traps is on: nothing can be sent to the registered receivers'
+trap 'rm -f "$RESULTS_OF_NOW"' EXIT
+(umask 077 && line "time $(date +%s)" >"$RESULTS_OF_NOW") 2>/dev/null || complain 'what becomes of each trap cannot be kept'
 unsent=$(
   for receiver in $receivers; do
-    [ "$trap1" = 0 ] || send_test_trap 1 "$community" "$receiver" &
-    [ "$trap2" = 0 ] || send_test_trap 2c "$community" "$receiver" &
-  done 2>&1
+    [ "$trap1" = 0 ] || test_receiver 1 "$receiver" &
+    [ "$trap2" = 0 ] || test_receiver 2c "$receiver" &
+  done 2>/dev/null
   wait
 )
+mv -f "$RESULTS_OF_NOW" "$TEST_RESULTS" 2>/dev/null
 [ -z "$unsent" ] || fail "$unsent"

@@ -35,6 +35,16 @@ function go_to($page, $message = '')
     exit;
 }
 
+// Answers with a file to be kept, never to be shown by the browser.
+function send_file($name, $type, $content)
+{
+    send_headers();
+    header('Content-Type: ' . $type . '; charset=utf-8');
+    header('Content-Disposition: attachment; filename="' . $name . '"');
+    echo $content;
+    exit;
+}
+
 // Ends a request that is not allowed.
 function refuse($status, $title, $text)
 {

@@ -28,7 +28,7 @@ $audit_subjects = array('sign-in' => 'Signing in and out', 'account' => 'Account
     'traps' => 'Trap receivers', 'backup' => 'Backup', 'other' => 'Other');
 
 // The past of the words with which a change begins.
-$past_of = array('Add' => 'Added', 'Delete' => 'Deleted', 'Restart' => 'Restarted', 'Set' => 'Set', 'Switch' => 'Switched');
+$past_of = array('Add' => 'Added', 'Delete' => 'Deleted', 'Send' => 'Sent', 'Set' => 'Set', 'Switch' => 'Switched');
 
 $audit_secrets = array('community'); // of these values only that they were changed is written down
 $audit_failed = false; // whether this request could not write what it did
@@ -61,8 +61,9 @@ function write_audit($user, $client, $what, $details = '', $subject = 'other', $
 }
 
 // Writes down a change just behind the module's function that made it: $verb (one of $past_of) and $object are its sentence,
-// $labels has what people call the values.
-function audit_change($session, $subject, $verb, $object, $labels = array(), $old = array(), $new = array())
+// $labels has what people call the values. It has failed when $failure says why, or when the module reported something.
+function audit_change($session, $subject, $verb, $object, $labels = array(), $old = array(), $new = array(),
+    $failure = '')
 {
     foreach ($GLOBALS['audit_secrets'] as $name) {
         if (isset($old[$name], $new[$name])) {
@@ -71,10 +72,17 @@ function audit_change($session, $subject, $verb, $object, $labels = array(), $ol
             $new[$name] = $is_same ? 'not shown' : 'another one';
         }
     }
-    $failure = change_failed() ? $GLOBALS['failures'][count($GLOBALS['failures']) - 1] : false;
+    if ($failure == '' && change_failed()) {
+        $failure = $GLOBALS['failures'][count($GLOBALS['failures']) - 1]['message'];
+    }
     return write_audit($session->user, text_of($_SERVER, 'REMOTE_ADDR'),
-        ($failure ? 'Tried to ' . strtolower($verb) : $GLOBALS['past_of'][$verb]) . ' ' . $object . '.', '', $subject,
-        labelled($old, $labels), labelled($new, $labels), $failure ? 'failed: ' . $failure['message'] : 'done', $GLOBALS['request_began']);
+        sentence_of($failure == '', $verb, $object), '', $subject,
+        labelled($old, $labels), labelled($new, $labels), $failure == '' ? 'done' : 'failed: ' . $failure, $GLOBALS['request_began']);
+}
+
+function sentence_of($is_done, $verb, $object)
+{
+    return ($is_done ? $GLOBALS['past_of'][$verb] : 'Tried to ' . strtolower($verb)) . ' ' . $object . '.';
 }
 
 // name => text becomes label => text; what has no label is left out.
@@ -92,14 +100,14 @@ function labelled($values, $labels)
 function audit_kind($entry)
 {
     $is_about_signing_in = $entry['subject'] == 'sign-in' || $entry['subject'] == 'account';
-    if ($is_about_signing_in && outcome_of($entry['result']) == 'refused') {
+    if ($is_about_signing_in && kind_of_result($entry['result']) == 'refused') {
         return 'refused';
     }
     return $entry['subject'] == 'sign-in' ? 'sign-ins' : 'changes';
 }
 
 // 'done', 'begun', 'undone', 'refused' or 'failed'.
-function outcome_of($result)
+function kind_of_result($result)
 {
     $parts = explode(':', $result, 2);
     return $parts[0];
