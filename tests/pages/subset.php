@@ -9,7 +9,7 @@ $old = array('abs', 'array_fill', 'array_merge', 'array_reverse', 'array_slice',
     'dechex', 'define', 'defined', 'dirname', 'end', 'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof',
     'fflush', 'fgetc', 'fgets', 'file', 'file_exists', 'filemtime', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftruncate', 'function_exists',
     'fwrite', 'gmdate', 'gmmktime', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'in_array', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string', 'ksort',
-    'ltrim', 'max', 'md5', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'php_uname', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
+    'ltrim', 'max', 'md5', 'microtime', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'ord', 'php_sapi_name', 'php_uname', 'preg_match', 'preg_replace', 'rename', 'reset', 'rewind',
     'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start', 'session_write_close',
     'set_error_handler', 'sha1', 'sprintf', 'str_replace', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtr', 'substr', 'time',
     'trim', 'ucfirst', 'umask', 'unlink', 'unserialize', 'urldecode', 'urlencode', 'usleep', 'usort');

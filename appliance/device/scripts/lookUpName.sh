@@ -21,7 +21,7 @@ case $1 in
 *) kind=address ;;
 esac
 if [ "$kind" = address ]; then
-  "$BIN/checkSettings" dns "$1 " || exit 2
+  judge_address "$1"
   set -- hosts "$1"
 else
   "$BIN/checkSettings" host-name "$1" || exit 2

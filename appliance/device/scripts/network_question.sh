@@ -11,6 +11,14 @@ has_program() {
   ! in_place && command -v "$1" >/dev/null
 }
 
+# judge_address TEXT: ends the script unless another device can have it. The rule is that of the address of a server.
+judge_address() {
+  case $1 in
+  '' | *[!0-9A-Fa-f:.]*) refuse 'the address' "$1" 'is none' ;;
+  *) "$BIN/checkSettings" dns "$1 " || exit 2 ;;
+  esac
+}
+
 # Another one is not waited for. The lock is held until this process has ended.
 one_at_a_time() {
   { mkdir -p "$RUN" && (umask 077 && : >>"$QUESTION_LOCK") && command exec 9>>"$QUESTION_LOCK"; } 2>/dev/null ||

@@ -12,7 +12,7 @@
 refuse_overlong "$@"
 has_program ping || exit 1
 [ "$1" != -q ] || exit 0
-"$BIN/checkSettings" dns "$1 " || exit 2 # the same addresses that a server can have
+judge_address "$1"
 one_at_a_time
 # A link-local address needs the port.
 case $1 in [fF][eE][89aAbB]?:*) port="-I $PRIMARY" ;; *) port= ;; esac

@@ -10,28 +10,35 @@
 . "$BIN/snmp.sh"
 
 RESULTS_OF_NOW=$TEST_RESULTS.$$
+CLOSED='Nothing listens at this port.'
 
-# test_receiver VERSION RECEIVER: prints what is wrong, and adds a line to the results.
+# test_receiver VERSION RECEIVER: prints what is wrong, and adds a line to the results. Both questions take their time at
+# once.
 test_receiver() {
-  wrong=$(send_test_trap "$1" "$community" "$2" 2>&1)
+  said=$(
+    { ! is_port_closed "$2" || line "$CLOSED"; } &
+    send_test_trap "$1" "$community" "$2" 2>&1
+    wait
+  )
+  wrong=$(line "$said" | grep -vxF -e "$CLOSED" -e '')
   [ -z "$wrong" ] || line "$wrong"
-  line "$2 $1 $(outcome_of_test "$2" "$wrong")" >>"$RESULTS_OF_NOW"
-}
-
-# outcome_of_test RECEIVER COMPLAINT
-outcome_of_test() {
-  case $1,$2 in
-  tcp*,) echo connected ;;
-  udp*,) if is_port_closed "$1"; then echo refused; else echo sent; fi ;;
-  *[Rr]efused*) echo refused ;;
-  *) echo unreachable ;;
+  case $2,$wrong,$said in
+  *"$CLOSED"*) outcome=refused ;;
+  tcp*,,*) outcome=connected ;;
+  udp*,,*) outcome=sent ;;
+  *) outcome=unreachable ;;
   esac
+  line "$2 $1 $outcome" >>"$RESULTS_OF_NOW"
 }
 
-# is_port_closed RECEIVER: whether the other side says so, within half a second. Who sends a trap by UDP alone is told
-# nothing, so the same port gets an empty datagram, for which a connection is kept open that long.
+# is_port_closed RECEIVER: whether the other side says so, within half a second. Who sends a trap by UDP is not told
+# that, so the port gets an empty datagram, for whose answer is waited.
 is_port_closed() {
-  case $(timeout "$SECONDS_TO_SEND" socat -t 0.5 -T 0.5 - "UDP${1#udp},shut-null" </dev/null 2>&1) in
+  case $1 in
+  udp*) port="UDP${1#udp},shut-null" ;;
+  *) port="TCP${1#tcp}" ;;
+  esac
+  case $(timeout 0.6 socat -t 0.5 - "$port" </dev/null 2>&1) in
   *'Connection refused'*) return 0 ;;
   *) return 1 ;;
   esac

@@ -32,7 +32,14 @@ $past_of = array('Add' => 'Added', 'Delete' => 'Deleted', 'Send' => 'Sent', 'Set
 
 $audit_secrets = array('community'); // of these values only that they were changed is written down
 $audit_failed = false; // whether this request could not write what it did
-$request_began = time();
+$request_began = audit_now();
+
+// With thousandths: it ties what the management services say of a change to the entry of the page.
+function audit_now()
+{
+    $parts = explode(' ', microtime());
+    return sprintf('%d.%03d', $parts[1], 1000 * $parts[0]);
+}
 
 // Writes down what was done. $user: who is signed in, or the name that was typed. $client: its address, '' for the appliance
 // itself. $what: a sentence; $old and $new: label => text, never a secret; $result: 'done', or 'begun', 'undone', 'refused' or
@@ -42,11 +49,11 @@ function write_audit($user, $client, $what, $details = '', $subject = 'other', $
     $began = 0)
 {
     $accounts = read_accounts();
-    $entry = array('time' => time(),
+    $entry = array('time' => audit_now(),
         // What is no account's name may be a password in the wrong field.
         'user' => isset($accounts[$user]) ? $user : '', 'client' => plain_address($client), 'what' => $what,
         'details' => $details, 'subject' => $subject, 'old' => $old, 'new' => $new, 'result' => $result,
-        'began' => $began > 0 ? $began : time(), 'count' => 1);
+        'began' => $began > 0 ? $began : audit_now(), 'count' => 1);
     make_private_folders();
     $lock = audit_lock();
     $written = $lock && store_in_audit(audit_kind($entry), $entry);
@@ -256,10 +263,10 @@ function audit_entry($line)
     } elseif (count($fields) != 12 || $fields[11] != sprintf('%08x', crc32(substr($line, 0, strlen($line) - 9)))) {
         return false;
     }
-    return array('time' => (int) $fields[0], 'user' => $fields[1], 'client' => $fields[2], 'what' => $fields[3],
+    return array('time' => (float) $fields[0], 'user' => $fields[1], 'client' => $fields[2], 'what' => $fields[3],
         'details' => $fields[4], 'subject' => isset($GLOBALS['audit_subjects'][$fields[5]]) ? $fields[5] : 'other',
         'old' => values_of_audit($fields[6]), 'new' => values_of_audit($fields[7]), 'result' => $fields[8],
-        'began' => (int) $fields[9], 'count' => max(1, (int) $fields[10]));
+        'began' => (float) $fields[9], 'count' => max(1, (int) $fields[10]));
 }
 
 function values_of_audit($text)

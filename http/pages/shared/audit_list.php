@@ -50,7 +50,10 @@ function whole_audit($services)
 
 function newer_first($one, $other)
 {
-    return $other['time'] == $one['time'] ? $other['order'] - $one['order'] : $other['time'] - $one['time'];
+    if ($other['time'] == $one['time']) {
+        return $other['order'] - $one['order'];
+    }
+    return $other['time'] > $one['time'] ? 1 : -1;
 }
 
 // Whoever may read the audit need not know the community.
@@ -63,13 +66,14 @@ function without_secrets($operation)
     return $operation;
 }
 
-// As in "2026-11-22T03:46:53.123Z".
+// Of a text such as "2026-11-22T03:46:53.123Z".
 function time_of_services($text)
 {
-    if (!preg_match('/^(\d{4})-(\d\d)-(\d\d)T(\d\d):(\d\d):(\d\d)/', $text, $part)) {
+    if (!preg_match('/^(\d{4})-(\d\d)-(\d\d)T(\d\d):(\d\d):(\d\d)(\.\d+)?/', $text, $part)) {
         return 0;
     }
-    return gmmktime((int) $part[4], (int) $part[5], (int) $part[6], (int) $part[2], (int) $part[3], (int) $part[1]);
+    $fraction = isset($part[7]) ? (float) ('0' . $part[7]) : 0;
+    return $fraction + gmmktime((int) $part[4], (int) $part[5], (int) $part[6], (int) $part[2], (int) $part[3], (int) $part[1]);
 }
 
 // The entry of the change by a page that this was a part of, or -1: of those under way at that time the last that began.
@@ -92,7 +96,7 @@ function is_part_of($operation, $time, $entry)
     $is_on_trial = $outcome == 'begun' || $outcome == 'undone';
     // A new host name switches HTTPS on again, in nobody's name.
     $is_of_name = $subject == 'ssl' && ($entry['subject'] == 'name' || $entry['subject'] == 'ipv4');
-    $ends = $entry['time'] + ($outcome == 'begun' ? 30 : 1);
+    $ends = $entry['time'] + ($outcome == 'begun' ? 30 : 0);
     return $time <= $ends && ($is_of_name
         || ($subject == $entry['subject'] && ($is_on_trial || $operation['user'] == $entry['user'])));
 }
@@ -181,7 +185,7 @@ function differences($entry)
             $texts[] = $label . ' ' . ($old == '' ? 'none' : $old) . ' → ' . ($new == '' ? 'none' : $new);
         }
     }
-    return $texts ? $texts : $all;
+    return $texts && $entry['old'] ? $texts : $all;
 }
 
 // $wanted: array of 'user', 'subject' and 'outcome', '' for all.
@@ -220,7 +224,7 @@ function audit_as_csv($entries)
         foreach ($entry['operations'] as $operation) {
             $operations[] = $operation['operation'] . ' ' . $operation['values'] . ' (' . $operation['result'] . ')';
         }
-        $csv .= csv_line(array(gmdate('Y-m-d H:i:s', $entry['time']), $entry['user'], $entry['client'],
+        $csv .= csv_line(array(gmdate('Y-m-d H:i:s', (int) $entry['time']), $entry['user'], $entry['client'],
             $GLOBALS['audit_subjects'][$entry['subject']], $entry['what'], implode('; ', differences($entry)),
             kind_of_result($entry['result']), reason_of($entry), $entry['count'], implode('; ', $operations)));
     }

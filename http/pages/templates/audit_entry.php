@@ -4,11 +4,11 @@ $reason = reason_of($entry);
 $values = differences($entry);
 ?>
     <tr>
-      <th scope="row" class="time"><?php echo gmdate('Y-m-d H:i:s', $entry['time']); ?></th>
+      <th scope="row" class="time"><?php echo gmdate('Y-m-d H:i:s', (int) $entry['time']); ?></th>
       <td class="user" data-label="Who"><div><p><?php echo h($entry['user'] == '' ? ($entry['client'] == '' ? 'The appliance' : 'Not known')
         : $entry['user']); ?></p><?php if ($entry['client'] != '') { ?><p class="hint"><?php echo h($entry['client']); ?></p><?php } ?></div></td>
       <td data-label="What"><div><p><?php echo h($entry['what']); ?><?php if ($entry['count'] > 1) { ?> <strong><?php
-        echo (int) $entry['count']; ?> times</strong> since <?php echo gmdate('Y-m-d H:i:s', $entry['began']); ?>.<?php } ?></p>
+        echo (int) $entry['count']; ?> times</strong> since <?php echo gmdate('Y-m-d H:i:s', (int) $entry['began']); ?>.<?php } ?></p>
 <?php if ($values) { ?>
         <p class="hint"><?php echo h(implode(', ', $values)); ?></p>
 <?php } ?>
