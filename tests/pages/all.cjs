@@ -4,6 +4,8 @@
 require('./source.cjs');
 require('./signing_in.cjs');
 require('./reading.cjs');
+require('./diagnostics.cjs');
+require('./audit.cjs');
 require('./changing.cjs');
 require('./addresses.cjs');
 require('./web_security.cjs');

@@ -189,7 +189,7 @@ function append_line($path, $line, $durable)
     $text = ($size > 0 && fseek($file, $size - 1) == 0 && fgetc($file) != "\n" ? "\n" : '') . $line . "\n";
     $written = @fwrite($file, $text) === strlen($text) && @fflush($file) && (!$durable || put_on_disk($file));
     if (!$written) {
-        ftruncate($file, $size);
+        @ftruncate($file, $size);
     }
     fclose($file);
     return $written;

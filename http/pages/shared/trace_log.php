@@ -10,7 +10,7 @@ define('TRACE_DOWNLOAD_BYTES', 4194304); // of the log's end, as a file
 // What the module says when a step has failed.
 define('TRACED_FAILURE', '/\]:(could not|failed|invalid)/i');
 // The values that not everybody may see.
-define('TRACED_SECRET', '/(\]:(?:setting community name|SNMP community):)<.*>/');
+define('TRACED_SECRET', '/(\]:(?:setting community name|SNMP community):+)<.*>/');
 
 function trace_size()
 {
@@ -66,11 +66,12 @@ function calls_of($lines)
     $same = array(); // first line => how often
     foreach ($lines as $line) {
         $is_edge = preg_match('/^\w+\[([^\]]*)\]:(entering|exiting|leaving) ([a-z0-9_]+):/i', $line, $edge);
-        if ($current < 0 || ($is_edge && strtolower($edge[2]) == 'entering')) {
-            $name = $is_edge ? $edge[3] : 'The rest of an earlier call';
+        $begins = $is_edge && strtolower($edge[2]) == 'entering';
+        if ($begins || $current < 0) {
+            $name = $begins ? $edge[3] : 'The rest of an earlier call';
             $same[$line] = isset($same[$line]) ? $same[$line] + 1 : 1;
-            $calls[] = array('key' => md5($line . $same[$line]), 'name' => $name, 'time' => $is_edge ? $edge[1] : '', 'lines' => array(), 'failed' => false,
-                'left' => !$is_edge);
+            $calls[] = array('key' => md5($line . $same[$line]), 'name' => $name, 'time' => $begins ? $edge[1] : '', 'lines' => array(),
+                'failed' => false, 'left' => !$begins);
             $current = count($calls) - 1;
             $open[$name] = $current;
         } elseif ($is_edge && isset($open[$edge[3]])) {
@@ -80,7 +81,7 @@ function calls_of($lines)
         }
         $calls[$current]['lines'][] = $line;
         $calls[$current]['failed'] = $calls[$current]['failed'] || preg_match(TRACED_FAILURE, $line);
-        if ($is_edge && strtolower($edge[2]) != 'entering') {
+        if ($is_edge && !$begins) {
             $current = $open ? end($open) : $current;
         }
     }
