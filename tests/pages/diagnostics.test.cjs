@@ -1,4 +1,4 @@
-// The page Diagnostics but for the audit, which audit.cjs has, and the test of the trap receivers.
+// The page Diagnostics but for the audit, which audit.test.cjs has, and the test of the trap receivers.
 'use strict';
 
 const assert = require('node:assert/strict');
@@ -164,7 +164,7 @@ test('Who is not signed in has the module do nothing, however often and whatever
 
 test('What the address asks for and there is not gives an empty list, and no fault', {user: 'admin'}, async (page) => {
   const queries = ['page=99999', 'page=0', 'page=-1', 'page=x', 'page=1e3', 'page[]=1', 'page=99999999999999999999', 'user=nobody',
-    'subject=nothing', 'outcome=nothing', 'user[]=a&subject[]=b', 'errors=nothing&live=nothing&filter[]=x', 'filter=%ff%fe'];
+    'subject=nothing', 'outcome=nothing', 'user[]=a&subject[]=b', 'errors=nothing&live=nothing&filter[]=x', 'filter=%C3%A4%22'];
   for (const query of queries) {
     const answer = await page.goto(`${base()}diagnostics.php?${query}`);
     assert.equal(answer.status(), 200, query);

@@ -1,5 +1,5 @@
-// Changes of the addresses themselves, which go on after the answer. Most are made without a trial here: trial.cjs has those
-// that are made with one.
+// Changes of the addresses themselves, which go on after the answer. Most are made without a trial here: trial.test.cjs
+// has those that are made with one.
 'use strict';
 
 const assert = require('node:assert/strict');

@@ -394,7 +394,7 @@ test('A receiver that cannot be sent to is reported', {user: 'admin'}, async (pa
   php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
 });
 
-// trial.cjs has what happens with one.
+// trial.test.cjs has what happens with one.
 async function saveWithoutTrial(page, section, field) {
   await page.selectOption(field, '0');
   await press(page, 'Save', `[aria-labelledby=${section}]`);
