@@ -45,7 +45,7 @@ is_port_closed() {
 }
 
 [ $# = 0 ] || refuse_call 'none' "$@"
-rm -f "$TEST_RESULTS"
+rm -f "$TEST_RESULTS" 2>/dev/null
 restart_agent # sets receivers, trap1, trap2 and community
 [ -n "$receivers" ] || exit 0
 [ "$trap1$trap2" != 00 ] || fail 'no version of traps is on: nothing can be sent to the registered receivers'
@@ -58,5 +58,5 @@ unsent=$(
   done 2>/dev/null
   wait
 )
-mv -f "$RESULTS_OF_NOW" "$TEST_RESULTS" 2>/dev/null
+[ -d "$TEST_RESULTS" ] || mv -f "$RESULTS_OF_NOW" "$TEST_RESULTS" 2>/dev/null
 [ -z "$unsent" ] || fail "$unsent"

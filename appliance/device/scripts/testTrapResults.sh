@@ -10,5 +10,5 @@
 . "${0%/*}/device.sh"
 
 [ $# = 0 ] || refuse_call 'none' "$@"
-[ -r "$TEST_RESULTS" ] && exec cat "$TEST_RESULTS"
+[ -f "$TEST_RESULTS" ] && [ -r "$TEST_RESULTS" ] && exec cat "$TEST_RESULTS"
 exit 1
