@@ -10,7 +10,7 @@ const screens = {wide: {width: 1280, height: 900}, narrow: {width: 360, height: 
 
 async function judge(page, name) {
   assert.deepEqual(await accessibilityFaults(page), [], name);
-  const bare = await page.locator('.state').evaluateAll((all) => all.filter((state) => !state.querySelector('svg') || !state.innerText.trim()).length);
+  const bare = await page.locator('.state').evaluateAll((all) => all.filter((state) => !state.querySelector('svg') || !state.textContent.trim()).length);
   assert.equal(bare, 0, `${name} tells a state by its colour alone`);
   const over = await page.evaluate(() => document.documentElement.scrollWidth - innerWidth);
   assert.ok(over <= 0, `${name} is ${over} pixels too wide`);

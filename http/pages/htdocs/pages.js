@@ -150,6 +150,8 @@ function heading(page) {
 async function fetchPage() {
   const address = new URL(location);
   address.searchParams.set('background', '1');
+  // A page may leave out what is not asked for.
+  if (polled) address.searchParams.set('parts', polled.dataset.parts);
   try {
     const answer = await fetch(address, {signal: AbortSignal.timeout(3000)});
     const page = answer.ok ? new DOMParser().parseFromString(await answer.text(), 'text/html') : null;

@@ -1,5 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/trap_results.php';
 
 define('TRAP_PORT', '162');
 
@@ -24,8 +25,8 @@ $results = isset($_SESSION['test_results']) ? $_SESSION['test_results'] : array(
 if (!is_background()) {
     unset($_SESSION['test_results']); // they are of the moment
 }
-show('traps', array('results' => $results,'title' => 'Trap receivers', 'receivers' => get_snmp_trap_regs($session), 'typed' => $typed,
-    'errors' => $errors, 'lead' => 'The systems to which the SNMP agent reports events.'));
+show('traps', array('title' => 'Trap receivers', 'receivers' => get_snmp_trap_regs($session), 'typed' => $typed,
+    'errors' => $errors, 'results' => $results, 'lead' => 'The systems to which the SNMP agent reports events.'));
 
 // What became of it is shown beside each receiver.
 function test_receivers($session)
@@ -42,7 +43,7 @@ function test_receivers($session)
     return_to_session();
     $_SESSION['test_results'] = $results;
     if (!change_failed()) {
-        go_to('traps.php', $results ? 'The test is over: what became of it stands beside each receiver.'
+        go_to('traps.php', $results ? 'A test trap was sent to every receiver: what became of it stands beside each.'
             : 'A test trap was sent to every receiver. Look there whether it has arrived.');
     }
 }
@@ -54,48 +55,6 @@ function labels_of($values)
         $labels[$name] = $name;
     }
     return $labels;
-}
-
-// What a device script has kept of a test that began at this time or later: receiver in the agent's notation => the outcome, of
-// the versions of traps the one that says more. Empty where the device keeps none.
-function results_of_test($began)
-{
-    $lines = array();
-    $status = 1;
-    exec('/bin/sh ' . APPLIANCE_FOLDER . '/AppManager/bin/testTrapResults.sh 2>/dev/null', $lines, $status);
-    $results = array();
-    foreach ($status == 0 ? $lines : array() as $line) {
-        $parts = explode(' ', $line);
-        if ($parts[0] == 'time' && isset($parts[1]) && $parts[1] < $began) {
-            return array();
-        }
-        if (count($parts) == 3 && (!isset($results[$parts[0]]) || $parts[2] == 'refused' || $parts[2] == 'unreachable')) {
-            $results[$parts[0]] = $parts[2];
-        }
-    }
-    return $results;
-}
-
-function receiver_in_notation($receiver)
-{
-    return ($receiver->transport == 1 ? 'udp' : 'tcp') . (strpos($receiver->ip, ':') === false ? ':' . $receiver->ip
-        : '6:[' . $receiver->ip . ']') . ':' . $receiver->port;
-}
-
-function outcome_of_trap($outcome)
-{
-    $texts = array('sent' => 'Sent', 'connected' => 'Taken', 'refused' => 'Refused', 'unreachable' => 'Not reached');
-    return isset($texts[$outcome]) ? $texts[$outcome] : 'Not known';
-}
-
-// State and explanation, as markup.
-function outcome_of_trap_in_words($outcome)
-{
-    $kinds = array('sent' => 'good', 'connected' => 'good', 'refused' => 'bad', 'unreachable' => 'bad');
-    $hints = array('sent' => 'UDP tells no more: look there whether it has arrived.', 'connected' => 'The receiver has taken the connection.',
-        'refused' => 'Nothing listens at this port there.', 'unreachable' => 'No connection within 3 seconds, or no way there.');
-    return state(isset($kinds[$outcome]) ? $kinds[$outcome] : 'off', outcome_of_trap($outcome))
-        . (isset($hints[$outcome]) ? '<p class="hint">' . h($hints[$outcome]) . '</p>' : '');
 }
 
 function delete_receiver($session, $id)
@@ -123,7 +82,8 @@ function add_receiver($session, $typed)
     $before = get_snmp_trap_regs($session);
     begin_change();
     create_snmp_trap_reg($session, (int) $typed['transport'], $typed['ip'], $typed['port']);
-    audit_change($session, 'traps', 'Add', 'the trap receiver ' . name_of_receiver($typed['ip'], $typed['port'], $typed['transport']));
+    audit_change($session, 'traps', 'Add', 'the trap receiver '
+        . name_of_receiver($typed['ip'], $typed['port'], $typed['transport']));
     if (!change_failed()) {
         go_to('traps.php', 'The receiver ' . $typed['ip'] . ' is added.');
     }
