@@ -50,7 +50,7 @@ restart_agent # sets receivers, trap1, trap2 and community
 [ -n "$receivers" ] || exit 0
 [ "$trap1$trap2" != 00 ] || fail 'no version of traps is on: nothing can be sent to the registered receivers'
 trap 'rm -f "$RESULTS_OF_NOW"' EXIT
-(umask 077 && line "time $(date +%s)" >"$RESULTS_OF_NOW") 2>/dev/null || complain 'what becomes of each trap cannot be kept'
+(line "time $(date +%s)" >"$RESULTS_OF_NOW") 2>/dev/null || complain 'what becomes of each trap cannot be kept'
 unsent=$(
   for receiver in $receivers; do
     [ "$trap1" = 0 ] || test_receiver 1 "$receiver" &
