@@ -89,14 +89,14 @@ auditTest('Every change by a page is there: who, from where, old and new value, 
   await open(page, 'traps.php');
   await page.fill('#ip', '10.20.0.77');
   await press(page, 'Add');
-  assert.deepEqual((await rows(page))[0].slice(1), ['Added the trap receiver 10.20.0.77, port 162 by UDP. | Details', 'Done']);
+  assert.deepEqual((await rows(page))[0].slice(1), ['Added the trap receiver 10.20.0.77, port 162, UDP. | Details', 'Done']);
   await open(page, 'traps.php');
   await press(page, 'Send a test trap');
   assert.deepEqual((await rows(page))[0].slice(1), ['Sent a test trap to every receiver. | udp:10.20.0.77:162 Sent', 'Done']);
   await open(page, 'traps.php');
   await page.click('main .confirm summary');
   await press(page, 'Delete 10.20.0.77');
-  assert.deepEqual((await rows(page))[0].slice(1), ['Deleted the trap receiver 10.20.0.77, port 162 by UDP. | Details', 'Done']);
+  assert.deepEqual((await rows(page))[0].slice(1), ['Deleted the trap receiver 10.20.0.77, port 162, UDP. | Details', 'Done']);
 });
 
 auditTest('A change that was refused is there too, with the reason', {user: 'admin'}, async (page) => {
@@ -105,9 +105,9 @@ auditTest('A change that was refused is there too, with the reason', {user: 'adm
   await open(page, 'traps.php');
   await page.fill('#ip', '10.20.0.76');
   await press(page, 'Add');
-  assert.deepEqual((await rows(page))[0].slice(1), ['Tried to add the trap receiver 10.20.0.76, port 162 by UDP. | Details',
+  assert.deepEqual((await rows(page))[0].slice(1), ['Tried to add the trap receiver 10.20.0.76, port 162, UDP. | Details',
     'Failed | Could not create trap registration']);
-  assert.match((await details(page, 0))[0], /^Tried to add the trap receiver 10\.20\.0\.76, port 162 by UDP\. createTrapRegistration transport 1, .* refused: there are 20 trap registrations already/);
+  assert.match((await details(page, 0))[0], /^Tried to add the trap receiver 10\.20\.0\.76, port 162, UDP\. createTrapRegistration transport 1, .* refused: there are 20 trap registrations already/);
   php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
 });
 
@@ -141,16 +141,16 @@ auditTest('What the services say of a change by a page is in its details and now
     const shown = (await rows(page)).slice(0, 5);
     assert.deepEqual(shown.map(([who, what, outcome]) => [who, what.replace(' | Details', ''), outcome]), [
       ['tests', 'Tried to add the trap receiver 10.20.0.75, port 162.', 'Refused | Transport 7 is neither 1 (UDP) nor 2 (TCP)'],
-      ['tests', 'Added the trap receiver 10.20.0.74, port 162 by UDP.', 'Done'],
+      ['tests', 'Added the trap receiver 10.20.0.74, port 162, UDP.', 'Done'],
       ...['10.20.0.73', '10.20.0.72', '10.20.0.71'].map((ip) =>
-        ['admin | 10.20.0.1', `Added the trap receiver ${ip}, port 162 by UDP.`, 'Done'])]);
+        ['admin | 10.20.0.1', `Added the trap receiver ${ip}, port 162, UDP.`, 'Done'])]);
     for (const [number, ip] of [[2, '10.20.0.73'], [3, '10.20.0.72'], [4, '10.20.0.71']]) {
       const operations = await details(page, number);
       assert.equal(operations.length, 1, ip);
       assert.match(operations[0], new RegExp(`createTrapRegistration transport 1, address ${ip}, port 162, id \\S+ stored`));
     }
     php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
-    assert.equal((await rows(page))[0][1], 'Deleted the trap receiver 10.20.0.74, port 162 by UDP. | Details',
+    assert.equal((await rows(page))[0][1], 'Deleted the trap receiver 10.20.0.74, port 162, UDP. | Details',
       'by its address, which the services do not say');
   });
 

@@ -181,7 +181,7 @@ test('A script that the appliance itself has stored or logged is shown as text',
   assert.match(await page.innerText('#log'), /setting community name::<<script>alert\(1\)<\/script>>/);
   await open(page, 'diagnostics.php?live=0&filter=New+Trap');
   assert.match(await page.innerText('#log'), /New Trap IP was:<<img src=x>>/);
-  assert.match(await page.innerText('table'), /Tried to add the trap receiver <img src=x>, port 162 by UDP/);
+  assert.match(await page.innerText('table'), /Tried to add the trap receiver <img src=x>, port 162, UDP/);
   assert.equal(await page.locator('main script, main img').count(), 0);
   php('$settings = get_snmp_settings($session); $settings->community_name = "public"; set_snmp_settings($session, $settings);');
 });

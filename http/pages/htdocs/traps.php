@@ -1,5 +1,6 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/trap_results.php';
 
 define('TRAP_PORT', '162');
@@ -7,16 +8,18 @@ define('TRAP_PORT', '162');
 $session = signed_in();
 $typed = array('transport' => '1', 'ip' => '', 'port' => TRAP_PORT);
 $errors = array();
+$meanwhile = array();
 if (is_post()) {
     $change = posted('change');
     if ($change == 'test') {
         test_receivers($session);
     } elseif ($change == 'delete') {
-        delete_receiver($session, posted('id'));
+        $meanwhile = delete_receiver($session, posted('id'));
     } else {
         $typed = array('transport' => posted('transport'), 'ip' => posted('ip'), 'port' => posted('port'));
         $errors = receiver_errors($typed);
-        if (!$errors) {
+        $meanwhile = $errors ? array() : receivers_changed(get_snmp_trap_regs($session));
+        if (!$errors && !$meanwhile) {
             $errors = add_receiver($session, $typed);
         }
     }
@@ -25,8 +28,10 @@ $results = isset($_SESSION['test_results']) ? $_SESSION['test_results'] : array(
 if (!is_background()) {
     unset($_SESSION['test_results']); // they are of the moment
 }
-show('traps', array('title' => 'Trap receivers', 'receivers' => get_snmp_trap_regs($session), 'typed' => $typed,
-    'errors' => $errors, 'results' => $results, 'lead' => 'The systems to which the SNMP agent reports events.'));
+$receivers = get_snmp_trap_regs($session);
+show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
+    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'results' => $results,
+    'lead' => 'The systems to which the SNMP agent reports events.'));
 
 // What became of it is shown beside each receiver.
 function test_receivers($session)
@@ -57,17 +62,50 @@ function labels_of($values)
     return $labels;
 }
 
+// What the list shows of each: its number => text.
+function receivers_shown($receivers)
+{
+    $shown = array();
+    foreach ($receivers as $receiver) {
+        $shown[$receiver->id] = receiver_text($receiver->ip, $receiver->port, $receiver->transport);
+    }
+    return $shown;
+}
+
+function receiver_text($ip, $port, $transport)
+{
+    return short_ipv6($ip) . ', port ' . (int) $port . ', ' . ($transport == 1 ? 'UDP' : ($transport == 2 ? 'TCP'
+        : 'transport ' . $transport));
+}
+
+// What is no longer as the form's list was: rows for meanwhile_message(). A number may be another receiver's by now.
+function receivers_changed($receivers)
+{
+    $now = receivers_shown($receivers);
+    $labels = array();
+    foreach (array_merge(array_keys($now), array_keys(seen_values())) as $id) {
+        $labels[$id] = 'Receiver';
+    }
+    // An empty list is one that was seen, too.
+    return text_of($_POST, 'listed') == '' ? array() : rows_changed($labels, seen_values(), $now);
+}
+
+// Returns what has become of the receiver meanwhile, when it is another one.
 function delete_receiver($session, $id)
 {
     $receiver = find_receiver(get_snmp_trap_regs($session), $id);
     if (!$receiver) {
         go_to('traps.php', 'This receiver is not in the list any more.');
     }
+    $meanwhile = changed_meanwhile(receivers_shown(array($receiver)), array($receiver->id => 'Receiver'));
+    if ($meanwhile) {
+        return $meanwhile;
+    }
     begin_change();
     delete_snmp_trap_reg($session, $id);
     $is_there = find_receiver(get_snmp_trap_regs($session), $id);
     audit_change($session, 'traps', 'Delete', 'the trap receiver '
-        . name_of_receiver($receiver->ip, $receiver->port, $receiver->transport), array(), array(), array(),
+        . receiver_text($receiver->ip, $receiver->port, $receiver->transport), array(), array(), array(),
         $is_there ? 'the appliance did not delete it' : '');
     if ($is_there) {
         refuse('500 Internal Server Error', 'Nothing was changed', 'The appliance did not delete the receiver '
@@ -80,10 +118,13 @@ function delete_receiver($session, $id)
 function add_receiver($session, $typed)
 {
     $before = get_snmp_trap_regs($session);
+    if (in_array(receiver_text($typed['ip'], $typed['port'], $typed['transport']), receivers_shown($before))) {
+        go_to('traps.php', UNCHANGED);
+    }
     begin_change();
     create_snmp_trap_reg($session, (int) $typed['transport'], $typed['ip'], $typed['port']);
     audit_change($session, 'traps', 'Add', 'the trap receiver '
-        . name_of_receiver($typed['ip'], $typed['port'], $typed['transport']));
+        . receiver_text($typed['ip'], $typed['port'], $typed['transport']));
     if (!change_failed()) {
         go_to('traps.php', 'The receiver ' . $typed['ip'] . ' is added.');
     }
@@ -112,11 +153,6 @@ function find_receiver($receivers, $id)
         }
     }
     return false;
-}
-
-function name_of_receiver($ip, $port, $transport)
-{
-    return $ip . ', port ' . $port . ($transport == 2 ? ' by TCP' : ' by UDP');
 }
 
 function receiver_errors($typed)

@@ -118,7 +118,7 @@ function receiver_in_words($values)
     if (!preg_match('/^transport (\d+), address (.*), port (\d+)/', $values, $found)) {
         return $values;
     }
-    $transports = array('1' => ' by UDP', '2' => ' by TCP');
+    $transports = array('1' => ', UDP', '2' => ', TCP');
     return $found[2] . ', port ' . $found[3] . (isset($transports[$found[1]]) ? $transports[$found[1]] : '');
 }
 
