@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const {spawn} = require('node:child_process');
 const fs = require('node:fs');
 const {applianceFolder, fromLan, inAppliance, php, until, web} = require('./appliance.cjs');
-const {base, messages, open, press, test} = require('./browser.cjs');
+const {base, messages, open, press, showCommunity, test} = require('./browser.cjs');
 
 const folder = `${applianceFolder}/HTTPService/dat`;
 const files = {changes: `${folder}/audit`, signIns: `${folder}/audit.sign-ins`, refused: `${folder}/audit.refused`};
@@ -114,6 +114,7 @@ auditTest('A change that was refused is there too, with the reason', {user: 'adm
 auditTest('The agent\'s community is nowhere in the audit, only that it was changed', {user: 'admin'}, async (page) => {
   for (const community of ['hidden-one', 'public']) {
     await open(page, 'snmp.php');
+    await showCommunity(page);
     await page.fill('#community_name', community);
     await press(page, 'Save');
     const [[, what, outcome]] = await rows(page);

@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, until, web,
   withScript} = require('./appliance.cjs');
-const {accessibilityFaults, base, enterPassword, errorOf, messages, open, press, served, signIn, test} = require('./browser.cjs');
+const {accessibilityFaults, base, enterPassword, errorOf, messages, open, press, served, showCommunity, signIn, test} = require('./browser.cjs');
 const {answersAt, apply, applyDhcp, applyIfFree, audit, fillStatic, isUndone, isUndoneWithTabClosed, keepWhatIs, passes,
   reaches, record, setStatic, trial, withDhcpServer, withOtherDevice} = require('./on_trial.cjs');
 
@@ -220,6 +220,7 @@ test('So do those of the host name, the name servers and the agent; sent again, 
   await signIn(page);
   for (const [name, meanwhile, field, typed, button, said, now, wanted] of cases) {
     await open(page, name);
+    if (name === 'snmp.php') await showCommunity(page);
     await page.fill(field, typed);
     php(meanwhile);
     const theirs = now();

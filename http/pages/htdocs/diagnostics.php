@@ -13,7 +13,7 @@ $value = posted('value');
 if (is_post() && isset($questions[$asked])) {
     $error = question_error($asked, $value);
     if ($error == '') {
-        $answer = ask_network($asked, $value);
+        $answer = ask_question($asked, $value);
     } else {
         $errors[$asked] = $error;
     }

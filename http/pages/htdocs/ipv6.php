@@ -5,8 +5,18 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/review.php';
 
 $session = signed_in();
+if (is_background() && has_facts()) {
+    // What the page fetches again and again: without asking the module, whose trace log it would fill.
+    ask_device();
+    show('ipv6_now', array('title' => 'IPv6', 'enabled' => is_readable(IPV6_SWITCH)));
+}
+ask_device();
+$unknown = array();
 $settings = get_network_configuration_ipv6($session);
+$unknown['static'] = !could_read();
+begin_reading();
 $modes = read_modes();
+$unknown['stateless'] = !could_read();
 $typed = array('static' => $settings->staticEnabled, 'prefix' => $settings->prefix,
     'ipStatic' => $settings->staticEnabled ? short_ipv6($settings->ipStatic) : '',
     'gateway' => $settings->staticEnabled ? short_ipv6($settings->gateway) : '');
@@ -15,6 +25,7 @@ $change = is_post() ? posted('change') : '';
 $seen = values_shown($settings, $modes);
 $meanwhile = array();
 if ($change != '') {
+    end_asking(); // what is asked of the network before a change may take longer than a page waits
     list($errors, $meanwhile) = change_ipv6($session, $change, $seen, $settings);
     $modes = read_modes();
     $seen = values_shown($settings, $modes);
@@ -23,8 +34,12 @@ if ($change == 'static') {
     $typed = array('static' => posted('static') == '1', 'ipStatic' => posted('ipStatic'), 'prefix' => posted('prefix'),
         'gateway' => posted('gateway'));
 }
+$in_use = $unknown['static'] ? '' : is_ipv6_static_enabled();
+begin_reading();
+$addresses = get_all_ipv6_addresses();
+$unknown['addresses'] = !could_read();
 show('ipv6', array('title' => 'IPv6', 'enabled' => is_ipv6_enabled(), 'modes' => $modes, 'typed' => $typed,
-    'in_use' => is_ipv6_static_enabled(), 'addresses' => get_all_ipv6_addresses(), 'errors' => $errors,
+    'in_use' => $in_use, 'addresses' => $addresses, 'unknown' => $unknown, 'errors' => $errors,
     'meanwhile' => $meanwhile, 'change' => $change, 'seen' => $seen,
     'lead' => 'Whether the appliance uses IPv6, and where its addresses come from.'));
 

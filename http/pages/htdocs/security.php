@@ -7,7 +7,9 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 define('PORT_DISTANCE', 443 - 80);
 
 $session = signed_in();
+ask_device();
 $settings = get_ssl_settings($session);
+$is_known = !failed();
 $errors = array();
 $meanwhile = array();
 $seen = array('https' => $settings->isEnabled ? 'On' : 'Off');
@@ -22,7 +24,7 @@ if (is_post()) {
         $errors = switch_mode($session, $wanted == '1');
     }
 }
-show('security', array('title' => 'Web security', 'settings' => $settings, 'errors' => $errors,
+show('security', array('title' => 'Web security', 'settings' => $settings, 'is_known' => $is_known, 'errors' => $errors,
     'meanwhile' => $meanwhile, 'seen' => $seen,
     'lead' => 'Whether your password and all settings travel encrypted.', 'address' => address_after(!$settings->isEnabled)));
 
@@ -57,6 +59,7 @@ function switch_mode($session, $on)
     }
     if ($seconds == 0) {
         forget_session();
+        end_sessions_of_mode(!$on);
     } else {
         ended_at_once($trial);
     }

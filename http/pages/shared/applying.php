@@ -9,7 +9,8 @@ $times_of_trial = array('60' => '60 seconds', '90' => '90 seconds', '180' => '3 
 // The choice beside the button, under an identifier of its own.
 function trial_field($id)
 {
-    $chosen = isset($GLOBALS['times_of_trial'][posted('trial')]) ? posted('trial') : (string) TRIAL_SECONDS;
+    $wanted = typed_again('trial', posted('trial'));
+    $chosen = isset($GLOBALS['times_of_trial'][$wanted]) ? $wanted : (string) TRIAL_SECONDS;
     $html = '<div class="field trial"><label for="' . $id . '">On trial for</label><select name="trial" id="' . $id
         . '" aria-describedby="' . $id . '-hint">';
     foreach ($GLOBALS['times_of_trial'] as $seconds => $label) {

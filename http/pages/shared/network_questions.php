@@ -34,7 +34,7 @@ function question_error($kind, $value)
 }
 
 // Asks, and says what came of it: array of 'kind' of message and 'lines'. The value is to be in order.
-function ask_network($kind, $value)
+function ask_question($kind, $value)
 {
     leave_session(); // whoever waits for the network keeps no other page waiting
     $asked = run_question($GLOBALS['network_questions'][$kind]['script'], $value);

@@ -227,6 +227,9 @@ function keep_trial($trial, $why, $by, $client)
     if ($kept['session'] != '' && is_file(SESSIONS_FOLDER . '/sess_' . $kept['session'])) {
         unlink(SESSIONS_FOLDER . '/sess_' . $kept['session']);
     }
+    if ($kept['kind'] == 'ssl') {
+        end_sessions_of_mode($kept['values']['https'] != 'On');
+    }
     return true;
 }
 
