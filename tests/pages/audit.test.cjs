@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const {spawn} = require('node:child_process');
 const fs = require('node:fs');
 const {applianceFolder, fromLan, inAppliance, php, until, web} = require('./appliance.cjs');
-const {base, messages, open, press, showCommunity, test} = require('./browser.cjs');
+const {base, messages, open, press, sessionCookie, showCommunity, test} = require('./browser.cjs');
 
 const folder = `${applianceFolder}/HTTPService/dat`;
 const files = {changes: `${folder}/audit`, signIns: `${folder}/audit.sign-ins`, refused: `${folder}/audit.refused`};
@@ -322,7 +322,7 @@ function parsed(text) {
 }
 
 auditTest('The audit is downloaded as CSV, filtered, and no cell is a formula', {user: 'admin'}, async (page, context) => {
-  const [{name, value}] = await context.cookies();
+  const {name, value} = await sessionCookie(context);
   const headers = {cookie: `${name}=${value}`};
   write(`write_audit('admin', '10.20.0.1', '=1+1', 'He said "no", twice', 'backup', array('Old' => '-1', 'Same' => 'a'), array('Old' => '@x', 'Same' => 'a'));
     write_audit('monitor', '10.20.0.5', '+2', '', 'backup', array(), array(), 'failed: -3');`);

@@ -5,12 +5,12 @@ const assert = require('node:assert/strict');
 const {spawn} = require('node:child_process');
 const fs = require('node:fs');
 const {applianceFolder, datagramsTo, fromLan, inAppliance, php, traceLog, until, web, withScript} = require('./appliance.cjs');
-const {base, errorOf, messages, open, pages, press, test} = require('./browser.cjs');
+const {base, errorOf, messages, open, pages, press, sessionCookie, test} = require('./browser.cjs');
 
 const scripts = `${applianceFolder}/AppManager/bin`;
 
 async function cookieOf(context) {
-  const [{name, value}] = await context.cookies();
+  const {name, value} = await sessionCookie(context);
   return `${name}=${value}`;
 }
 

@@ -8,14 +8,14 @@ $log_alone = is_background() && text_of($_GET, 'parts') == 'log';
 $questions = may_change($session) && !$log_alone ? possible_questions() : array();
 $answer = false;
 $errors = array();
-$asked = posted('change');
+$question = posted('change');
 $value = posted('value');
-if (is_post() && isset($questions[$asked])) {
-    $error = question_error($asked, $value);
+if (is_post() && isset($questions[$question])) {
+    $error = question_error($question, $value);
     if ($error == '') {
-        $answer = ask_question($asked, $value);
+        $answer = ask_question($question, $value);
     } else {
-        $errors[$asked] = $error;
+        $errors[$question] = $error;
     }
 }
 
@@ -30,7 +30,7 @@ $values = array('title' => 'Diagnostics', 'lead' => 'What the appliance did, who
     'services' => $services !== false, 'users' => users_of($entries), 'damaged' => $damaged, 'wanted' => $wanted,
     'count' => count($found), 'page' => $page, 'pages' => max(1, (int) ceil(count($found) / AUDIT_PAGE_ENTRIES)),
     'entries' => $page == 0 ? array() : array_slice($found, ($page - 1) * AUDIT_PAGE_ENTRIES, AUDIT_PAGE_ENTRIES),
-    'questions' => $questions, 'asked' => $asked, 'value' => $value, 'answer' => $answer,
+    'questions' => $questions, 'asked' => $question, 'value' => $value, 'answer' => $answer,
     'question_errors' => $errors, 'log_alone' => $log_alone);
 
 $filter = text_of($_GET, 'filter');
