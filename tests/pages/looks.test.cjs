@@ -94,8 +94,8 @@ test('A change on trial is valid and accessible, and fits, until it is kept and 
   await signIn(page);
   await open(page, 'ipv6.php');
   await page.check('#enabled');
-  await page.selectOption('#trial-switch', '300');
-  await press(page, 'Save', '[aria-labelledby=switch]');
+  await page.selectOption('#trial', '300');
+  await press(page, 'Apply');
   await reaches('trial');
   // In another session the page does not go on to the new address: it waits to be asked.
   await page.goto('about:blank');
