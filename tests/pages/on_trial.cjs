@@ -148,12 +148,6 @@ class Client {
     this.headers = {};
   }
 
-  // A cookie, in the place of an earlier one of that name.
-  keep(cookie) {
-    const [name] = cookie.split('=');
-    this.cookie = [...this.cookie.split('; ').filter((other) => other !== '' && !other.startsWith(`${name}=`)), cookie].join('; ');
-  }
-
   // Fields: what is posted; without them the address is fetched. Redirects are not followed.
   ask(address, fields) {
     const headers = {...this.headers, cookie: this.cookie};
@@ -163,7 +157,7 @@ class Client {
         agent: false}, (answer) => {
         let text = '';
         answer.setEncoding('utf8').on('data', (data) => { text += data; }).on('error', reject).on('end', () => {
-          for (const cookie of answer.headers['set-cookie'] ?? []) this.keep(cookie.split(';')[0]);
+          for (const cookie of answer.headers['set-cookie'] ?? []) [this.cookie] = cookie.split(';');
           resolve({status: answer.statusCode, location: answer.headers.location ?? '', text});
         });
       });
