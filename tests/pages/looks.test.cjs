@@ -212,6 +212,7 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
   await press(page, 'Delete 10.20.0.9');
   assert.equal(await messages(page), 'The receiver 10.20.0.9 is deleted.');
   await open(page, 'diagnostics.php');
+  await page.click('summary:has-text("Trace log")');
   await page.fill('#filter', 'entering get_fw');
   await press(page, 'Filter');
   assert.match(await page.innerText('#log'), /^(TRACE.*Entering get_fw_settings:<>\s*)+$/);

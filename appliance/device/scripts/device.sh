@@ -19,6 +19,7 @@ SECONDARY=eth2
 # What is learned and made while the device runs: gone after a restart.
 RUN=/run/appmanager
 DHCPV4_LEASE=$RUN/dhcpv4.lease
+TEST_RESULTS=$RUN/test-traps # what became of the last test traps
 
 complain() {
   printf '%s: %s\n' "${0##*/}" "$1" >&2

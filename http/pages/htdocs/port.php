@@ -13,6 +13,7 @@ $session = signed_in();
 $settings = get_eth2_port_settings($session);
 $errors = array();
 $meanwhile = array();
+$labels = array('auto' => 'Autonegotiation', 'speed' => 'Speed', 'duplex' => 'Duplex');
 $seen = values_shown($settings);
 if (is_post()) {
     $settings = new PortSettings();
@@ -20,14 +21,14 @@ if (is_post()) {
     $settings->Speed = (int) posted('speed');
     $settings->Duplex = posted('duplex') == '' ? -1 : (int) posted('duplex');
     $errors = port_errors($settings);
-    $meanwhile = $errors ? array() : changed_meanwhile($seen, array('auto' => 'Autonegotiation', 'speed' => 'Speed',
-        'duplex' => 'Duplex'));
+    $meanwhile = $errors ? array() : changed_meanwhile($seen, $labels);
     if (!$errors && !$meanwhile) {
         if (is_unchanged(values_shown($settings), $seen)) {
             go_to('port.php', UNCHANGED);
         }
         begin_change();
         set_eth2_port_settings($session, $settings->AutoNegotiate, $settings->Speed, $settings->Duplex);
+        audit_change($session, 'port', 'Set', 'the Ethernet port', $labels, $seen, values_shown($settings));
         if (!change_failed()) {
             go_to('port.php', 'The Ethernet port is set.');
         }

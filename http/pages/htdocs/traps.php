@@ -23,17 +23,84 @@ if (is_post()) {
         }
     }
 }
+$results = isset($_SESSION['test_results']) ? $_SESSION['test_results'] : array();
+if (!is_background()) {
+    unset($_SESSION['test_results']); // they are of the moment
+}
 $receivers = get_snmp_trap_regs($session);
-show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
-    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'lead' => 'The systems to which the SNMP agent reports events.'));
+show('traps', array('results' => $results, 'title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
+    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors,
+    'lead' => 'The systems to which the SNMP agent reports events.'));
 
+// What became of it is shown beside each receiver.
 function test_receivers($session)
 {
+    $began = time();
     begin_change();
     restart_snmp($session);
-    if (!change_failed()) {
-        go_to('traps.php', 'A test trap was sent to every receiver. Look there whether it has arrived.');
+    $results = results_of_test($began);
+    $texts = array();
+    foreach ($results as $receiver => $result) {
+        $texts[$receiver] = outcome_of_trap($result);
     }
+    audit_change($session, 'traps', 'Send', 'a test trap to every receiver', labels_of($texts), array(), $texts);
+    return_to_session();
+    $_SESSION['test_results'] = $results;
+    if (!change_failed()) {
+        go_to('traps.php', $results ? 'The test is over: what became of it stands beside each receiver.'
+            : 'A test trap was sent to every receiver. Look there whether it has arrived.');
+    }
+}
+
+function labels_of($values)
+{
+    $labels = array();
+    foreach ($values as $name => $value) {
+        $labels[$name] = $name;
+    }
+    return $labels;
+}
+
+// What a device script has kept of a test that began at this time or later: receiver in the agent's notation => the outcome, of
+// the versions of traps the one that says more. Empty where the device keeps none.
+function results_of_test($began)
+{
+    $lines = array();
+    $status = 1;
+    exec('/bin/sh ' . APPLIANCE_FOLDER . '/AppManager/bin/testTrapResults.sh 2>/dev/null', $lines, $status);
+    $results = array();
+    foreach ($status == 0 ? $lines : array() as $line) {
+        $parts = explode(' ', $line);
+        if ($parts[0] == 'time' && isset($parts[1]) && $parts[1] < $began) {
+            return array();
+        }
+        if (count($parts) == 3 && (!isset($results[$parts[0]]) || $parts[2] == 'refused' || $parts[2] == 'unreachable')) {
+            $results[$parts[0]] = $parts[2];
+        }
+    }
+    return $results;
+}
+
+function receiver_in_notation($receiver)
+{
+    return ($receiver->transport == 1 ? 'udp' : 'tcp') . (strpos($receiver->ip, ':') === false ? ':' . $receiver->ip
+        : '6:[' . $receiver->ip . ']') . ':' . $receiver->port;
+}
+
+function outcome_of_trap($outcome)
+{
+    $texts = array('sent' => 'Sent', 'connected' => 'Taken', 'refused' => 'Refused', 'unreachable' => 'Not reached');
+    return isset($texts[$outcome]) ? $texts[$outcome] : 'Not known';
+}
+
+// State and explanation, as markup.
+function outcome_of_trap_in_words($outcome)
+{
+    $kinds = array('sent' => 'good', 'connected' => 'good', 'refused' => 'bad', 'unreachable' => 'bad');
+    $hints = array('sent' => 'UDP tells no more: look there whether it has arrived.', 'connected' => 'The receiver has taken the connection.',
+        'refused' => 'Nothing listens at this port there.', 'unreachable' => 'No connection within 3 seconds, or no way there.');
+    return state(isset($kinds[$outcome]) ? $kinds[$outcome] : 'off', outcome_of_trap($outcome))
+        . (isset($hints[$outcome]) ? '<p class="hint">' . h($hints[$outcome]) . '</p>' : '');
 }
 
 // What the list shows of each: its number => text.
@@ -75,8 +142,13 @@ function delete_receiver($session, $id)
     if ($meanwhile) {
         return $meanwhile;
     }
+    begin_change();
     delete_snmp_trap_reg($session, $id);
-    if (find_receiver(get_snmp_trap_regs($session), $id)) {
+    $is_there = find_receiver(get_snmp_trap_regs($session), $id);
+    audit_change($session, 'traps', 'Delete', 'the trap receiver '
+        . name_of_receiver($receiver->ip, $receiver->port, $receiver->transport), array(), array(), array(),
+        $is_there ? 'the appliance did not delete it' : '');
+    if ($is_there) {
         refuse('500 Internal Server Error', 'Nothing was changed', 'The appliance did not delete the receiver '
             . $receiver->ip . '.');
     }
@@ -92,6 +164,7 @@ function add_receiver($session, $typed)
     }
     begin_change();
     create_snmp_trap_reg($session, (int) $typed['transport'], $typed['ip'], $typed['port']);
+    audit_change($session, 'traps', 'Add', 'the trap receiver ' . name_of_receiver($typed['ip'], $typed['port'], $typed['transport']));
     if (!change_failed()) {
         go_to('traps.php', 'The receiver ' . $typed['ip'] . ' is added.');
     }
@@ -120,6 +193,11 @@ function find_receiver($receivers, $id)
         }
     }
     return false;
+}
+
+function name_of_receiver($ip, $port, $transport)
+{
+    return $ip . ', port ' . $port . ($transport == 2 ? ' by TCP' : ' by UDP');
 }
 
 function receiver_errors($typed)

@@ -1,6 +1,6 @@
 <?php
 // The frame around what is seen before signing in.
-$name = get_network_hostname();
+$name = php_uname('n'); // who is not signed in has the module do nothing;
 ?>
 <!DOCTYPE html>
 <html lang="en">
