@@ -1,8 +1,7 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
-
-define('TRAP_PORT', '162');
+require dirname(dirname(__FILE__)) . '/shared/receivers.php';
 
 $session = signed_in();
 $typed = array('transport' => '1', 'ip' => '', 'port' => TRAP_PORT);
@@ -173,45 +172,4 @@ function add_receiver($session, $typed)
     }
     take_back_additions($session, $before, $typed['ip']);
     return array('ip' => 'This address is used inside the appliance. Choose one of your own network.');
-}
-
-// The module adds a receiver even after it has reported a conflict.
-function take_back_additions($session, $before, $ip)
-{
-    foreach (get_snmp_trap_regs($session) as $receiver) {
-        if (same_value($receiver->ip, $ip) && !find_receiver($before, $receiver->id)) {
-            delete_snmp_trap_reg($session, $receiver->id);
-        }
-    }
-}
-
-function find_receiver($receivers, $id)
-{
-    foreach ($receivers as $receiver) {
-        if ($receiver->id == $id) {
-            return $receiver;
-        }
-    }
-    return false;
-}
-
-function name_of_receiver($ip, $port, $transport)
-{
-    return $ip . ', port ' . $port . ($transport == 2 ? ' by TCP' : ' by UDP');
-}
-
-function receiver_errors($typed)
-{
-    $errors = array();
-    if ($typed['transport'] != '1' && $typed['transport'] != '2') {
-        $errors['transport'] = 'Choose UDP or TCP.';
-    }
-    $error = host_error($typed['ip']);
-    if ($error != '') {
-        $errors['ip'] = $error;
-    }
-    if (!preg_match('/^[0-9]{1,5}$/D', $typed['port']) || $typed['port'] < 1 || $typed['port'] > 65535) {
-        $errors['port'] = 'Enter a number from 1 to 65535; usual is ' . TRAP_PORT . '.';
-    }
-    return $errors;
 }
