@@ -41,5 +41,6 @@ $pages = array(
     'security.php' => 'Web security',
     'snmp.php' => 'SNMP agent',
     'traps.php' => 'Trap receivers',
+    'backup.php' => 'Backup',
     'diagnostics.php' => 'Diagnostics'
 );
