@@ -105,16 +105,19 @@ function rows_of_part($section, $now, $wanted)
         $new = isset($wanted[$name]) ? $wanted[$name] : '';
         if (!same_value($old, $new)) {
             $rows[] = $name == 'community' ? array('label' => $described['label'], 'now' => 'Not shown', 'wanted' => 'Another one')
-                : array('label' => $described['label'], 'now' => shown_in_words($old), 'wanted' => shown_in_words($new));
+                : array('label' => $described['label'], 'now' => shown_in_words($described, $old),
+                'wanted' => shown_in_words($described, $new));
         }
     }
     return $rows;
 }
 
-function shown_in_words($value)
+function shown_in_words($described, $value)
 {
-    $words = array('' => 'None', 'dhcp' => 'DHCP');
-    return isset($words[$value]) ? $words[$value] : ucfirst($value);
+    if ($value == '') {
+        return 'None';
+    }
+    return !isset($described['values']) ? $value : ($value == 'dhcp' ? 'DHCP' : ucfirst($value));
 }
 
 // What of the file differs from now: array of 'rows' (section => rows), 'same', 'left_out' and 'unknown' (lists of sections).
@@ -179,7 +182,7 @@ function apply_part($session, $section, $wanted, $seen)
         return array('good', 'Applied.');
     }
     $failure = $GLOBALS['failures'][count($GLOBALS['failures']) - 1];
-    return array('bad', 'Failed: ' . $failure['message'] . '.');
+    return array('bad', 'The appliance reports: ' . rtrim($failure['message'], '.') . '.');
 }
 
 function apply_name($session, $now, $wanted)

@@ -73,7 +73,7 @@ function write_backup($about, $parts, $remarks = array())
 function read_backup($text)
 {
     $file = array('about' => array(), 'parts' => array(), 'lines' => array(), 'errors' => array(), 'section' => '', 'is_text' => true);
-    if (trim($text) == '') {
+    if (trim($text, " \t\r\n") == '') {
         $file['errors'][0] = 'The file is empty.';
     } elseif (strlen($text) > BACKUP_BYTES) {
         $file['errors'][0] = 'The file is longer than ' . (int) (BACKUP_BYTES / 1024) . ' KiB: it is no file of settings.';
@@ -110,11 +110,11 @@ function read_backup_lines($file, $text)
 // What is wrong with a line as such, or ''.
 function line_error($line)
 {
-    if (strlen($line) > BACKUP_LINE_BYTES) {
-        return 'The line is longer than ' . BACKUP_LINE_BYTES . ' bytes.';
-    }
     if (preg_match('/[\x00-\x08\x0a-\x1f\x7f]/', $line)) {
         return 'The line has a control character: this is no plain text.';
+    }
+    if (strlen($line) > BACKUP_LINE_BYTES) {
+        return 'The line is longer than ' . BACKUP_LINE_BYTES . ' bytes.';
     }
     return is_utf8($line) ? '' : 'The line is not in UTF-8. Save the file in that encoding.';
 }
