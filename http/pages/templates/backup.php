@@ -9,7 +9,7 @@
   <p class="note">In the file: the read community, which works like a password. Not in it, because the pages cannot read them: the
   passwords of the accounts, the keys of SNMP version 3, the key of the certificate, and the static IPv4 address that the
   appliance remembers while DHCP is on.</p>
-  <form method="post" action="backup.php" data-stays><?php echo token_field(); ?>
+  <form method="post" action="backup.php" class="form" data-stays><?php echo token_field(); ?>
     <input type="hidden" name="change" value="download">
 <?php if ($unreadable) { ?>
     <?php echo message('bad', '<p><strong>No file was made: ' . h(titles_of_parts($unreadable)) . ' cannot be read.</strong></p>'
@@ -25,7 +25,7 @@
 <section class="card" aria-labelledby="upload">
   <h2 id="upload">Bring back</h2>
   <p>First the file and the settings of now are shown side by side. You choose what is applied.</p>
-  <form method="post" action="backup.php" enctype="multipart/form-data"><?php echo token_field(); ?>
+  <form method="post" action="backup.php" enctype="multipart/form-data" class="form"><?php echo token_field(); ?>
     <input type="hidden" name="change" value="upload">
     <div class="field<?php if (isset($errors['file'])) echo ' wrong'; ?>"><label for="file">File</label>
       <input type="file" id="file" name="file" accept=".txt,text/plain"<?php

@@ -48,7 +48,7 @@ foreach ($at_once + $on_trial as $section => $rows) {
 </section>
 <?php if ($at_once) { ?>
 <section class="card" aria-labelledby="at-once">
-<h2 id="at-once">Applied at once</h2>
+<h2 id="at-once">To be applied at once</h2>
 <form method="post" action="backup.php"><?php echo token_field(), seen_field($sums); ?>
   <input type="hidden" name="change" value="apply">
   <input type="hidden" name="file" value="<?php echo h(write_backup($file['about'], $carried)); ?>">
