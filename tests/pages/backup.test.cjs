@@ -226,9 +226,10 @@ test('Download, change everything, upload: all is as before', {}, async (page) =
   await press(page, 'Apply Automatic IPv6 addresses');
   assert.match(await messages(page), /^The sources of addresses are/);
   await applyOnTrial(page, text, 'IPv4 address');
+  await page.waitForURL(/10\.20\.0\.7/, {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")');
   await answersAt('10.20.0.7');
   assert.equal(everything(), before);
-  await signIn(page);
   await choose(page, text);
   assert.match(await page.innerText('main'), /Differs\s+Nothing/);
 });
@@ -368,11 +369,8 @@ function send(cookie, values, file) {
   return fetch(`${base()}backup.php`, {method: 'POST', body, redirect: 'manual', headers: {cookie}});
 }
 
-test('The role monitor has no form, and gets nothing by asking', {user: 'monitor'}, async (page, context) => {
-  await open(page, 'backup.php');
-  assert.match(await page.innerText('main'), /needs the role admin/);
-  assert.equal(await page.locator('main form').count(), 0);
-  const {cookie, token} = await session(page, context);
+// Asks for each of the three things that the page does.
+async function getsNothing(cookie, token) {
   const file = `${head}[dns]\nprimary = 10.20.0.66\nsecondary =\n`;
   const before = everything();
   for (const values of [{change: 'download'}, {change: 'upload'}, {change: 'apply', file, part_dns: '1'}]) {
@@ -381,6 +379,21 @@ test('The role monitor has no form, and gets nothing by asking', {user: 'monitor
     assert.doesNotMatch(await answer.text(), /community =|versions-1/);
   }
   assert.equal(everything(), before);
+}
+
+test('The role monitor has no form, and gets nothing by asking', {user: 'monitor'}, async (page, context) => {
+  await open(page, 'backup.php');
+  assert.match(await page.innerText('main'), /needs the role admin/);
+  assert.equal(await page.locator('main form').count(), 0);
+  const {cookie, token} = await session(page, context);
+  await getsNothing(cookie, token);
+});
+
+test('Who has no form of this session, or no session, gets nothing by asking', {user: 'admin'}, async (page, context) => {
+  const {cookie, token} = await session(page, context);
+  await getsNothing(cookie, '0'.repeat(token.length));
+  await getsNothing(cookie, '');
+  await getsNothing('', token);
 });
 
 test('What a form carries is looked at again: another file in it is refused, and no part of a trial is applied by it', {user: 'admin'},

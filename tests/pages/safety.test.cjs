@@ -28,7 +28,6 @@ const changes = [
   ['traps.php', {change: 'test'}],
   ['backup.php', {change: 'download'}],
   ['backup.php', {change: 'upload'}],
-  ['backup.php', {change: 'apply', file: '[backup]\nversion = 1\n[dns]\nprimary = 10.20.0.66\nsecondary =\n', part_dns: '1'}],
   ['diagnostics.php', {change: 'ping', value: '10.20.0.1'}],
   ['diagnostics.php', {change: 'lookup', value: 'lan.test'}],
   ['applying.php', {change: 'keep', id: '0'}],
