@@ -424,17 +424,22 @@ test('A full disk: the file does not arrive, or is applied without a word in the
     }
     const dat = `${applianceFolder}/HTTPService/dat`;
     await choose(page, `${head}[dns]\nprimary = 10.20.0.31\nsecondary =\n`);
-    fs.chmodSync(dat, 0o700);
-    fs.renameSync(`${dat}/audit`, `${dat}/audit.kept`);
-    fs.mkdirSync(`${dat}/audit`);
+    fs.mkdirSync('/run/full.disk', {recursive: true});
+    fromLan('mount', '-t', 'tmpfs', '-o', 'size=1m', 'tmpfs', '/run/full.disk');
+    fromLan('cp', '-a', dat, '/run/full.disk/dat');
+    // An entry of the audit needs a page of its own then.
+    fs.appendFileSync('/run/full.disk/dat/audit', '#'.repeat(4096 - fs.statSync('/run/full.disk/dat/audit').size % 4096 - 1) + '\n');
+    fromLan('sh', '-c', 'cat /dev/zero >/run/full.disk/rest 2>/dev/null || true');
+    fromLan('mount', '--bind', '/run/full.disk/dat', dat);
     try {
       await page.check('#part-dns');
       await press(page, 'Apply');
       assert.deepEqual(await results(page), ['DNS', 'Applied.']);
+      assert.equal(dns().trim(), '10.20.0.31');
       assert.match(await messages(page), /could not be written into the audit/);
     } finally {
-      fs.rmdirSync(`${dat}/audit`);
-      fs.renameSync(`${dat}/audit.kept`, `${dat}/audit`);
+      fromLan('umount', '-l', dat);
+      fromLan('umount', '-l', '/run/full.disk');
     }
   });
 
@@ -470,12 +475,11 @@ test('HTTPS of a file is a change on trial of its own', {}, async (page) => {
   await until(() => fetch(base(), {redirect: 'manual'}).then((answer) => answer.status === 200).catch(() => false), 'the pages by HTTP');
 });
 
-for (const [name, viewport, colorScheme] of [['wide', {width: 1280, height: 900}, 'light'], ['narrow', {width: 390, height: 844}, 'dark']]) {
+for (const [name, viewport, colorScheme] of [['wide', {width: 1280, height: 900}, 'light'], ['narrow', {width: 360, height: 740}, 'dark']]) {
   test(`A file is compared accessibly, and fits: ${name}`, {user: 'admin', viewport, colorScheme}, async (page) => {
     const judge = async (what) => {
       assert.deepEqual(await accessibilityFaults(page), [], what);
       assert.ok(await page.evaluate(() => document.documentElement.scrollWidth - innerWidth) <= 0, `${what} fits`);
-      await page.screenshot({path: `${process.env.PAGES_TEST_FOLDER}/shots/${name}-${what}.png`, fullPage: true});
     };
     php('class Dns { var $dnsPrimary = "10.20.0.1"; var $dnsSecondary = ""; } set_network_dns($session, new Dns());');
     await open(page, 'backup.php');

@@ -27,7 +27,7 @@
   <p>First the file and the settings of now are shown side by side. You choose what is applied.</p>
   <form method="post" action="backup.php" enctype="multipart/form-data" class="form"><?php echo token_field(); ?>
     <input type="hidden" name="change" value="upload">
-    <div class="field<?php if (isset($errors['file'])) echo ' wrong'; ?>"><label for="file">File</label>
+    <div class="field file<?php if (isset($errors['file'])) echo ' wrong'; ?>"><label for="file">File</label>
       <input type="file" id="file" name="file" accept=".txt,text/plain"<?php
         echo described_by('file', 'hint', isset($errors['file']) ? $errors['file'] : ''); ?>>
       <?php echo field_notes('file', 'A file that was downloaded here, 64 KiB at most. It may have been edited.',
