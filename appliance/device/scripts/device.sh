@@ -19,6 +19,7 @@ SECONDARY=eth2
 # What is learned and made while the device runs: gone after a restart.
 RUN=/run/appmanager
 DHCPV4_LEASE=$RUN/dhcpv4.lease
+DHCPV4_LEASE_FACTS=$RUN/dhcpv4.lease.facts # its server, and its end in seconds since the start, or "never"
 TEST_RESULTS=$RUN/test-traps # what became of the last test traps
 
 complain() {

@@ -13,6 +13,7 @@ if ($is_too_long) {
     $_SERVER['REQUEST_METHOD'] = 'GET'; // the interpreter has thrown all of it away, so nothing is asked for
 }
 $session = signed_in();
+ask_device();
 $errors = $is_too_long ? array('file' => TOO_LONG_A_FILE) : array();
 $wrong_lines = array();
 $unreadable = array();
@@ -55,6 +56,7 @@ function download($session, $without)
     write_audit($session->user, text_of($_SERVER, 'REMOTE_ADDR'), 'Downloaded the settings as a file.',
         $unreadable ? 'Without ' . titles_of_parts($unreadable) . '.' : '', 'backup');
     if ($GLOBALS['audit_failed']) {
+        return_to_session();
         $_SESSION['audit_failed'] = true; // a page says it
     }
     send_file('settings-' . $name . '-' . gmdate('Ymd-His', $now) . '.txt', 'text/plain', write_backup(array('host' => $name,

@@ -4,22 +4,23 @@ require dirname(dirname(__FILE__)) . '/shared/audit_list.php';
 require dirname(dirname(__FILE__)) . '/shared/network_questions.php';
 
 $session = signed_in();
-$questions = may_change($session) ? possible_questions() : array();
+$log_alone = is_background() && text_of($_GET, 'parts') == 'log';
+$questions = may_change($session) && !$log_alone ? possible_questions() : array();
 $answer = false;
 $errors = array();
-$asked = posted('change');
+$question = posted('change');
 $value = posted('value');
-if (is_post() && isset($questions[$asked])) {
-    $error = question_error($asked, $value);
+if (is_post() && isset($questions[$question])) {
+    $error = question_error($question, $value);
     if ($error == '') {
-        $answer = ask_network($asked, $value);
+        $answer = ask_question($question, $value);
     } else {
-        $errors[$asked] = $error;
+        $errors[$question] = $error;
     }
 }
 
-$services = audit_entries();
-list($entries, $damaged) = whole_audit($services);
+$services = $log_alone ? array() : audit_entries();
+list($entries, $damaged) = $log_alone ? array(array(), 0) : whole_audit($services);
 $wanted = array('user' => text_of($_GET, 'user'), 'subject' => text_of($_GET, 'subject'), 'outcome' => text_of($_GET, 'outcome'));
 $found = filtered_audit($entries, $wanted);
 $number = text_of($_GET, 'page', '1');
@@ -29,7 +30,8 @@ $values = array('title' => 'Diagnostics', 'lead' => 'What the appliance did, who
     'services' => $services !== false, 'users' => users_of($entries), 'damaged' => $damaged, 'wanted' => $wanted,
     'count' => count($found), 'page' => $page, 'pages' => max(1, (int) ceil(count($found) / AUDIT_PAGE_ENTRIES)),
     'entries' => $page == 0 ? array() : array_slice($found, ($page - 1) * AUDIT_PAGE_ENTRIES, AUDIT_PAGE_ENTRIES),
-    'questions' => $questions, 'asked' => $asked, 'value' => $value, 'answer' => $answer, 'question_errors' => $errors);
+    'questions' => $questions, 'asked' => $question, 'value' => $value, 'answer' => $answer,
+    'question_errors' => $errors, 'log_alone' => $log_alone);
 
 $filter = text_of($_GET, 'filter');
 $live = text_of($_GET, 'live', 'scripts');

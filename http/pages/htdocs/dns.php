@@ -4,7 +4,9 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/settings_rules.php';
 
 $session = signed_in();
+ask_device();
 $settings = get_network_dns($session);
+$is_known = could_read();
 $errors = array();
 $meanwhile = array();
 $labels = array('dnsPrimary' => 'Primary server', 'dnsSecondary' => 'Secondary server');
@@ -14,14 +16,14 @@ if (is_post()) {
     $settings->dnsPrimary = posted('dnsPrimary');
     $settings->dnsSecondary = posted('dnsSecondary');
     $errors = dns_errors($settings);
-    $meanwhile = $errors ? array() : changed_meanwhile($seen, $labels);
+    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, $labels);
     if (!$errors && !$meanwhile) {
         if (is_unchanged(array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary), $seen)) {
             go_to('dns.php', UNCHANGED);
         }
         begin_change();
         set_network_dns($session, $settings);
-        audit_change($session, 'dns', 'Set', 'the DNS servers', $labels, $seen,
+        audit_change($session, 'dns', 'Set', 'the DNS servers', $labels, $is_known ? $seen : array(),
             array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary));
         if (!change_failed()) {
             go_to('dns.php', $settings->dnsPrimary == '' ? 'The DNS servers are removed.' : 'The DNS servers are set.');
@@ -30,7 +32,7 @@ if (is_post()) {
     }
 }
 show('dns', array('title' => 'DNS', 'lead' => 'The servers that the appliance asks for the addresses of names.',
-    'settings' => $settings, 'errors' => $errors, 'meanwhile' => $meanwhile, 'seen' => $seen));
+    'settings' => $settings, 'is_known' => $is_known, 'errors' => $errors, 'meanwhile' => $meanwhile, 'seen' => $seen));
 
 // The appliance does not say which of them it refuses.
 function internal_address_errors($settings)

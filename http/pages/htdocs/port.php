@@ -10,7 +10,14 @@ class PortSettings
 }
 
 $session = signed_in();
+ask_device();
 $settings = get_eth2_port_settings($session);
+$is_known = could_read();
+if (!$is_known) {
+    // Its numbers stand for nothing then.
+    $settings = new PortSettings();
+    $settings->AutoNegotiate = '';
+}
 $errors = array();
 $meanwhile = array();
 $labels = array('auto' => 'Autonegotiation', 'speed' => 'Speed', 'duplex' => 'Duplex');
@@ -18,17 +25,19 @@ $seen = values_shown($settings);
 if (is_post()) {
     $settings = new PortSettings();
     $settings->AutoNegotiate = posted('auto') == '1' ? 1 : 0;
-    $settings->Speed = (int) posted('speed');
-    $settings->Duplex = posted('duplex') == '' ? -1 : (int) posted('duplex');
+    // With autonegotiation these fields are not used: the port may agree on the most that it can.
+    $settings->Speed = $settings->AutoNegotiate ? 100 : (int) posted('speed');
+    $settings->Duplex = $settings->AutoNegotiate ? 1 : (posted('duplex') == '' ? -1 : (int) posted('duplex'));
     $errors = port_errors($settings);
-    $meanwhile = $errors ? array() : changed_meanwhile($seen, $labels);
+    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, $labels);
     if (!$errors && !$meanwhile) {
         if (is_unchanged(values_shown($settings), $seen)) {
             go_to('port.php', UNCHANGED);
         }
         begin_change();
         set_eth2_port_settings($session, $settings->AutoNegotiate, $settings->Speed, $settings->Duplex);
-        audit_change($session, 'port', 'Set', 'the Ethernet port', $labels, $seen, values_shown($settings));
+        audit_change($session, 'port', 'Set', 'the Ethernet port', $labels, $is_known ? $seen : array(),
+            values_shown($settings));
         if (!change_failed()) {
             go_to('port.php', 'The Ethernet port is set.');
         }
@@ -40,6 +49,9 @@ show('port', array('title' => 'Ethernet port', 'settings' => $settings, 'errors'
 
 function values_shown($settings)
 {
+    if ($settings->AutoNegotiate === '') {
+        return array('auto' => '', 'speed' => '', 'duplex' => '');
+    }
     $duplex = array(-1 => 'not known', 0 => 'Half', 1 => 'Full');
     return array('auto' => $settings->AutoNegotiate ? 'On' : 'Off', 'speed' => $settings->Speed . ' Mbit/s',
         'duplex' => $duplex[$settings->Duplex]);
@@ -55,4 +67,13 @@ function port_errors($settings)
         $errors['duplex'] = 'Choose a duplex mode.';
     }
     return $errors;
+}
+
+function port_setting_in_words($seen)
+{
+    if ($seen['auto'] == '') {
+        return unknown();
+    }
+    return $seen['auto'] == 'On' ? 'Autonegotiation' : h($seen['speed'] . ', '
+        . ($seen['duplex'] == 'not known' ? 'duplex unknown' : strtolower($seen['duplex']) . ' duplex'));
 }

@@ -2,6 +2,7 @@
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/receivers.php';
+require dirname(dirname(__FILE__)) . '/shared/trap_results.php';
 
 $session = signed_in();
 $typed = array('transport' => '1', 'ip' => '', 'port' => TRAP_PORT);
@@ -27,8 +28,8 @@ if (!is_background()) {
     unset($_SESSION['test_results']); // they are of the moment
 }
 $receivers = get_snmp_trap_regs($session);
-show('traps', array('results' => $results, 'title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
-    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors,
+show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
+    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'results' => $results,
     'lead' => 'The systems to which the SNMP agent reports events.'));
 
 // What became of it is shown beside each receiver.
@@ -46,7 +47,7 @@ function test_receivers($session)
     return_to_session();
     $_SESSION['test_results'] = $results;
     if (!change_failed()) {
-        go_to('traps.php', $results ? 'The test is over: what became of it stands beside each receiver.'
+        go_to('traps.php', $results ? 'A test trap was sent to every receiver: what became of it stands beside each.'
             : 'A test trap was sent to every receiver. Look there whether it has arrived.');
     }
 }
@@ -60,48 +61,6 @@ function labels_of($values)
     return $labels;
 }
 
-// What a device script has kept of a test that began at this time or later: receiver in the agent's notation => the outcome, of
-// the versions of traps the one that says more. Empty where the device keeps none.
-function results_of_test($began)
-{
-    $lines = array();
-    $status = 1;
-    exec('/bin/sh ' . APPLIANCE_FOLDER . '/AppManager/bin/testTrapResults.sh 2>/dev/null', $lines, $status);
-    $results = array();
-    foreach ($status == 0 ? $lines : array() as $line) {
-        $parts = explode(' ', $line);
-        if ($parts[0] == 'time' && isset($parts[1]) && $parts[1] < $began) {
-            return array();
-        }
-        if (count($parts) == 3 && (!isset($results[$parts[0]]) || $parts[2] == 'refused' || $parts[2] == 'unreachable')) {
-            $results[$parts[0]] = $parts[2];
-        }
-    }
-    return $results;
-}
-
-function receiver_in_notation($receiver)
-{
-    return ($receiver->transport == 1 ? 'udp' : 'tcp') . (strpos($receiver->ip, ':') === false ? ':' . $receiver->ip
-        : '6:[' . $receiver->ip . ']') . ':' . $receiver->port;
-}
-
-function outcome_of_trap($outcome)
-{
-    $texts = array('sent' => 'Sent', 'connected' => 'Taken', 'refused' => 'Refused', 'unreachable' => 'Not reached');
-    return isset($texts[$outcome]) ? $texts[$outcome] : 'Not known';
-}
-
-// State and explanation, as markup.
-function outcome_of_trap_in_words($outcome)
-{
-    $kinds = array('sent' => 'good', 'connected' => 'good', 'refused' => 'bad', 'unreachable' => 'bad');
-    $hints = array('sent' => 'UDP tells no more: look there whether it has arrived.', 'connected' => 'The receiver has taken the connection.',
-        'refused' => 'Nothing listens at this port there.', 'unreachable' => 'No connection within 3 seconds, or no way there.');
-    return state(isset($kinds[$outcome]) ? $kinds[$outcome] : 'off', outcome_of_trap($outcome))
-        . (isset($hints[$outcome]) ? '<p class="hint">' . h($hints[$outcome]) . '</p>' : '');
-}
-
 // What the list shows of each: its number => text.
 function receivers_shown($receivers)
 {
@@ -110,12 +69,6 @@ function receivers_shown($receivers)
         $shown[$receiver->id] = receiver_text($receiver->ip, $receiver->port, $receiver->transport);
     }
     return $shown;
-}
-
-function receiver_text($ip, $port, $transport)
-{
-    return short_ipv6($ip) . ', port ' . (int) $port . ', ' . ($transport == 1 ? 'UDP' : ($transport == 2 ? 'TCP'
-        : 'transport ' . $transport));
 }
 
 // What is no longer as the form's list was: rows for meanwhile_message(). A number may be another receiver's by now.
@@ -145,7 +98,7 @@ function delete_receiver($session, $id)
     delete_snmp_trap_reg($session, $id);
     $is_there = find_receiver(get_snmp_trap_regs($session), $id);
     audit_change($session, 'traps', 'Delete', 'the trap receiver '
-        . name_of_receiver($receiver->ip, $receiver->port, $receiver->transport), array(), array(), array(),
+        . receiver_text($receiver->ip, $receiver->port, $receiver->transport), array(), array(), array(),
         $is_there ? 'the appliance did not delete it' : '');
     if ($is_there) {
         refuse('500 Internal Server Error', 'Nothing was changed', 'The appliance did not delete the receiver '
@@ -163,7 +116,8 @@ function add_receiver($session, $typed)
     }
     begin_change();
     create_snmp_trap_reg($session, (int) $typed['transport'], $typed['ip'], $typed['port']);
-    audit_change($session, 'traps', 'Add', 'the trap receiver ' . name_of_receiver($typed['ip'], $typed['port'], $typed['transport']));
+    audit_change($session, 'traps', 'Add', 'the trap receiver '
+        . receiver_text($typed['ip'], $typed['port'], $typed['transport']));
     if (!change_failed()) {
         go_to('traps.php', 'The receiver ' . $typed['ip'] . ' is added.');
     }

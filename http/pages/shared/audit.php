@@ -1,6 +1,6 @@
 <?php
-// The audit: who did what, from where, with which values and what came of it. A line each, its fields separated by tabs, in a file
-// for each kind, so that what is frequent pushes nothing else out. audit_list.php is the reading of it.
+// The audit: who did what, from where, with which values and what came of it. A line each, its fields separated by tabs, in a
+// file for each kind, so that what is frequent pushes nothing else out. audit_list.php is the reading of it.
 //
 //   time, user, client, what, details, subject, old values, new values, result, when it began, how often, check sum
 //
@@ -84,7 +84,8 @@ function audit_change($session, $subject, $verb, $object, $labels = array(), $ol
     }
     return write_audit($session->user, text_of($_SERVER, 'REMOTE_ADDR'),
         sentence_of($failure == '', $verb, $object), '', $subject,
-        labelled($old, $labels), labelled($new, $labels), $failure == '' ? 'done' : 'failed: ' . $failure, $GLOBALS['request_began']);
+        labelled($old, $labels), labelled($new, $labels), $failure == '' ? 'done' : 'failed: ' . $failure,
+        $GLOBALS['request_began']);
 }
 
 function sentence_of($is_done, $verb, $object)
@@ -279,7 +280,8 @@ function values_of_audit($text)
     return $values;
 }
 
-// What a change on trial has come to. $operation: 'begun', 'kept', 'undoing', 'undone', ...; $user and $client: whose doing that is.
+// What a change on trial has come to. $operation: 'begun', 'kept', 'undoing', 'undone', ...; $user and $client: whose doing that
+// is.
 function write_audit_of_trial($trial, $operation, $user, $client, $details)
 {
     $kind = $GLOBALS['kinds_of_change'][$trial['kind']];

@@ -81,7 +81,8 @@ function owner_of($operation, $time, $entries, $own)
 {
     $owner = -1;
     for ($i = 0; $i < $own; $i++) {
-        if ($time >= $entries[$i]['began'] && is_part_of($operation, $time, $entries[$i]) && ($owner < 0 || $entries[$i]['began'] >= $entries[$owner]['began'])) {
+        if ($time >= $entries[$i]['began'] && is_part_of($operation, $time, $entries[$i])
+            && ($owner < 0 || $entries[$i]['began'] >= $entries[$owner]['began'])) {
             $owner = $i;
         }
     }
@@ -117,7 +118,7 @@ function receiver_in_words($values)
     if (!preg_match('/^transport (\d+), address (.*), port (\d+)/', $values, $found)) {
         return $values;
     }
-    $transports = array('1' => ' by UDP', '2' => ' by TCP');
+    $transports = array('1' => ', UDP', '2' => ', TCP');
     return $found[2] . ', port ' . $found[3] . (isset($transports[$found[1]]) ? $transports[$found[1]] : '');
 }
 
@@ -127,8 +128,8 @@ function entry_of_services($operation, $time, $receivers)
     $result = $operation['result'] == 'stored' ? 'done' : $operation['result'];
     $name = $operation['operation'];
     $subjects = $GLOBALS['subjects_of_operations'];
-    return array('time' => $time, 'user' => $operation['user'], 'client' => '', 'what' => services_in_words($operation, $receivers),
-        'details' => '', 'subject' => isset($subjects[$name]) ? $subjects[$name] : 'other', 'old' => array(), 'new' => array(),
+    return array('time' => $time, 'user' => $operation['user'], 'client' => '',
+        'what' => services_in_words($operation, $receivers), 'details' => '', 'subject' => isset($subjects[$name]) ? $subjects[$name] : 'other', 'old' => array(), 'new' => array(),
         'result' => $result, 'began' => $time, 'count' => 1, 'operations' => array($operation));
 }
 
@@ -218,7 +219,8 @@ function users_of($entries)
 // The entries as a table for other programs (RFC 4180).
 function audit_as_csv($entries)
 {
-    $csv = csv_line(array('Time (UTC)', 'User', 'From', 'Subject', 'What', 'Values', 'Outcome', 'Reason', 'How often', 'Operations'));
+    $csv = csv_line(array('Time (UTC)', 'User', 'From', 'Subject', 'What', 'Values', 'Outcome', 'Reason',
+        'How often', 'Operations'));
     foreach ($entries as $entry) {
         $operations = array();
         foreach ($entry['operations'] as $operation) {
@@ -254,5 +256,6 @@ function outcome_in_words($outcome)
     return isset($words[$outcome]) ? $words[$outcome] : array('off', ucfirst($outcome));
 }
 
-$audit_outcomes = array('done' => array('good', 'Done'), 'begun' => array('wait', 'Begun'), 'undone' => array('caution', 'Undone'),
+$audit_outcomes = array('done' => array('good', 'Done'), 'begun' => array('wait', 'Begun'),
+    'undone' => array('caution', 'Undone'),
     'refused' => array('bad', 'Refused'), 'failed' => array('bad', 'Failed'));

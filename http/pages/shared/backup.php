@@ -257,7 +257,7 @@ function add_receiver_of_file($session, $receiver)
     $before = get_snmp_trap_regs($session);
     $failures = count($GLOBALS['failures']);
     create_snmp_trap_reg($session, $transport == 'udp' ? 1 : 2, $ip, $port);
-    audit_change($session, 'traps', 'Add', 'the trap receiver ' . name_of_receiver($ip, $port, $transport == 'udp' ? 1 : 2)
+    audit_change($session, 'traps', 'Add', 'the trap receiver ' . receiver_text($ip, $port, $transport == 'udp' ? 1 : 2)
         . ', as in a file');
     if (count($GLOBALS['failures']) == $failures) {
         return true;
@@ -272,7 +272,7 @@ function delete_receiver_of_file($session, $receiver, $number)
 {
     list($transport, $ip, $port) = explode(' ', $receiver);
     delete_snmp_trap_reg($session, $number);
-    audit_change($session, 'traps', 'Delete', 'the trap receiver ' . name_of_receiver($ip, $port, $transport == 'udp' ? 1 : 2)
+    audit_change($session, 'traps', 'Delete', 'the trap receiver ' . receiver_text($ip, $port, $transport == 'udp' ? 1 : 2)
         . ', as it is not in a file');
 }
 

@@ -6,8 +6,10 @@ define('QUESTION_BUSY', 3);
 define('QUESTION_SILENT', 4);
 
 // Kind of question => its script, and what people call it.
-$network_questions = array('ping' => array('script' => 'pingAddress.sh', 'title' => 'Ping', 'label' => 'Address', 'button' => 'Ping'),
-    'lookup' => array('script' => 'lookUpName.sh', 'title' => 'Name lookup', 'label' => 'Name or address', 'button' => 'Look up'));
+$network_questions = array(
+    'ping' => array('script' => 'pingAddress.sh', 'title' => 'Ping', 'label' => 'Address', 'button' => 'Ping'),
+    'lookup' => array('script' => 'lookUpName.sh', 'title' => 'Name lookup', 'label' => 'Name or address',
+        'button' => 'Look up'));
 
 // The questions that this device can ask, of $network_questions.
 function possible_questions()
@@ -32,12 +34,13 @@ function question_error($kind, $value)
 }
 
 // Asks, and says what came of it: array of 'kind' of message and 'lines'. The value is to be in order.
-function ask_network($kind, $value)
+function ask_question($kind, $value)
 {
     leave_session(); // whoever waits for the network keeps no other page waiting
     $asked = run_question($GLOBALS['network_questions'][$kind]['script'], $value);
     if ($asked['status'] == QUESTION_BUSY) {
-        return array('kind' => 'caution', 'lines' => array('Another question is being asked at the moment. Try again in some seconds.'));
+        return array('kind' => 'caution',
+            'lines' => array('Another question is being asked at the moment. Try again in some seconds.'));
     }
     if ($asked['status'] == QUESTION_SILENT) {
         return array('kind' => 'bad', 'lines' => array('No DNS server answered within 5 seconds.'));
@@ -58,7 +61,8 @@ function ping_in_words($address, $lines)
     $received = isset($said['received']) ? (int) $said['received'] : 0;
     $sent = isset($said['sent']) ? (int) $said['sent'] : 0;
     if ($received > 0) {
-        return array('kind' => $received == $sent ? 'good' : 'caution', 'lines' => array("$address answers: $received of $sent times"
+        $line = "$address answers: $received of $sent times";
+        return array('kind' => $received == $sent ? 'good' : 'caution', 'lines' => array($line
             . (isset($said['milliseconds']) ? ', after ' . $said['milliseconds'] . ' ms on average.' : '.')));
     }
     return array('kind' => 'bad', 'lines' => array("$address does not answer." . (isset($said['error'])

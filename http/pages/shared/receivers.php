@@ -39,7 +39,8 @@ function find_receiver($receivers, $id)
     return false;
 }
 
-function name_of_receiver($ip, $port, $transport)
+function receiver_text($ip, $port, $transport)
 {
-    return $ip . ', port ' . $port . ($transport == 2 ? ' by TCP' : ' by UDP');
+    return short_ipv6($ip) . ', port ' . (int) $port . ', ' . ($transport == 1 ? 'UDP' : ($transport == 2 ? 'TCP'
+        : 'transport ' . $transport));
 }

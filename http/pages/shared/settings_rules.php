@@ -36,7 +36,10 @@ function dns_errors($settings)
 function agent_errors($settings)
 {
     $errors = array();
-    if (!preg_match('/^[!#-&(-~]{1,32}$/D', $settings->community_name)) {
+    if (strlen($settings->community_name) > 32) {
+        $errors['community_name'] = 'Too long by ' . (strlen($settings->community_name) - 32) . ': enter 1 to 32 letters, digits or'
+            . ' signs.';
+    } elseif (!preg_match('/^[!#-&(-~]{1,32}$/D', $settings->community_name)) {
         $errors['community_name'] = 'Enter 1 to 32 letters, digits or signs, without blanks, quotes and accents.';
     }
     // With none the agent would still be shown with version 1.

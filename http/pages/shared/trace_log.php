@@ -57,7 +57,8 @@ function lines_with($text, $lines)
 }
 
 // The calls of the module's functions, oldest first: each an array of 'name', 'time', 'lines', 'failed', 'left' (whether it has
-// come to its end) and 'key', by which it is known again. Lines say not whose they are: where calls of several requests mix, one belongs to the call that began last.
+// come to its end) and 'key', by which it is known again. Lines do not say whose they are: where calls of several requests mix, one
+// belongs to the call that began last.
 function calls_of($lines)
 {
     $calls = array();
@@ -70,8 +71,8 @@ function calls_of($lines)
         if ($begins || $current < 0) {
             $name = $begins ? $edge[3] : 'The rest of an earlier call';
             $same[$line] = isset($same[$line]) ? $same[$line] + 1 : 1;
-            $calls[] = array('key' => md5($line . $same[$line]), 'name' => $name, 'time' => $begins ? $edge[1] : '', 'lines' => array(),
-                'failed' => false, 'left' => !$begins);
+            $calls[] = array('key' => md5($line . $same[$line]), 'name' => $name, 'time' => $begins ? $edge[1] : '',
+                'lines' => array(), 'failed' => false, 'left' => !$begins);
             $current = count($calls) - 1;
             $open[$name] = $current;
         } elseif ($is_edge && isset($open[$edge[3]])) {

@@ -22,5 +22,5 @@ $values = differences($entry);
           </ul></details>
 <?php } ?></div></td>
       <td data-label="Outcome"><div><?php echo state($outcome[0], $outcome[1]); ?><?php if ($reason != '') { ?><p class="hint"><?php
-        echo h(ucfirst($reason)); ?></p><?php } ?></div></td>
+        echo h($reason); ?></p><?php } ?></div></td>
     </tr>

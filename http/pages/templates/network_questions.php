@@ -21,7 +21,8 @@ $error = $is_asked && isset($question_errors[$kind]) ? $question_errors[$kind] :
 <?php } ?>
   </div>
 <?php if ($answer) { ?>
-  <div role="status" tabindex="-1" data-focus><?php echo message($answer['kind'], '<p>' . h(implode(' ', $answer['lines'])) . '</p>'); ?></div>
+  <div role="status" tabindex="-1" data-focus><?php
+    echo message($answer['kind'], '<p>' . h(implode(' ', $answer['lines'])) . '</p>'); ?></div>
 <?php } else { ?>
   <p class="hint">The appliance asks for 5 seconds at most, one question at a time.</p>
 <?php } ?>

@@ -39,8 +39,9 @@ $is_open = $filter != '' || $only_errors || $live != 'scripts';
   <p class="hint">The newest <?php echo count($calls) == 1 ? 'call' : count($calls) . ' calls'; ?>, the newest first.</p>
   <div class="calls" tabindex="0" role="group" aria-label="Calls of the module">
 <?php foreach ($calls as $call) { ?>
-    <details class="fold" data-call="<?php echo h($call['key']); ?>"><summary><span class="address"><?php echo h($call['name']); ?></span> <span class="hint"><?php
-      echo h($call['time']); ?>, <?php echo count($call['lines']) == 1 ? '1 line' : count($call['lines']) . ' lines'; ?><?php
+    <details class="fold" data-call="<?php echo h($call['key']); ?>">
+      <summary><span class="address"><?php echo h($call['name']); ?></span>
+      <span class="hint"><?php echo h($call['time']); ?>, <?php echo count($call['lines']) == 1 ? '1 line' : count($call['lines']) . ' lines'; ?><?php
       if (!$call['left']) echo ', not ended'; ?></span><?php if ($call['failed']) echo ' ' . state('bad', 'Failed'); ?></summary>
       <pre class="log"><?php echo h(implode("\n", $call['lines'])); ?></pre></details>
 <?php } ?>
