@@ -358,8 +358,8 @@ test('What cannot be read is in no file, unless it is left out on purpose', {use
 });
 
 async function session(page, context) {
-  const [{name, value}] = await context.cookies();
-  return {cookie: `${name}=${value}`, token: await page.getAttribute('[name=token] >> nth=0', 'value')};
+  const cookies = await context.cookies();
+  return {cookie: cookies.map(({name, value}) => `${name}=${value}`).join('; '), token: await page.getAttribute('[name=token] >> nth=0', 'value')};
 }
 
 function send(cookie, values, file) {
