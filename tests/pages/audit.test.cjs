@@ -72,9 +72,11 @@ auditTest('Every change by a page is there: who, from where, old and new value, 
   await press(page, 'Save name');
 
   await open(page, 'port.php');
+  await page.uncheck('#auto');
   await page.check('#speed-10');
   await press(page, 'Save');
-  assert.deepEqual((await rows(page))[0], ['admin | 10.20.0.1', 'Set the Ethernet port. | Speed 100 Mbit/s → 10 Mbit/s', 'Done']);
+  assert.deepEqual((await rows(page))[0], ['admin | 10.20.0.1', 'Set the Ethernet port. | Autonegotiation On → Off, Speed 100 Mbit/s → 10 Mbit/s',
+    'Done']);
   php('set_eth2_port_settings($session, 1, 100, 1);');
 
   await open(page, 'ipv6.php');
