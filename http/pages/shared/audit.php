@@ -296,9 +296,9 @@ function write_audit_of_trial($trial, $operation, $user, $client, $details)
         $is_back && $trial['undo_began'] > 0 ? $trial['undo_began'] : 0);
 }
 
-// The settings before a change on trial, under the names that its kind has. $changed: the values that are wanted; of IPv6 the other
-// settings are left out.
-function values_before($kind, $before, $changed)
+// The settings before a change on trial, under the names that its kind has. $changed: the values that are wanted, of IPv6 the other
+// settings are left out then; or false.
+function values_before($kind, $before, $changed = false)
 {
     if ($kind == 'ipv4') {
         return $before['dhcp'] ? array('mode' => 'DHCP') : array('mode' => 'Static', 'ip' => $before['ip'],
@@ -307,12 +307,12 @@ function values_before($kind, $before, $changed)
     if ($kind == 'ipv6') {
         $values = array();
         foreach (array('enabled' => 'enabled', 'stateless' => 'stateless', 'dhcp' => 'dhcp', 'mode' => 'static') as $name => $setting) {
-            if (isset($changed[$name])) {
+            if (!$changed || isset($changed[$name])) {
                 $values[$name] = $before[$setting] ? 'On' : 'Off';
             }
         }
         foreach (array('ip', 'prefix', 'gateway') as $name) {
-            if ($before['static'] && (isset($changed[$name]) || isset($changed['mode']))) {
+            if ($before['static'] && (!$changed || isset($changed[$name]) || isset($changed['mode']))) {
                 $values[$name] = short_ipv6($before[$name]);
             }
         }
