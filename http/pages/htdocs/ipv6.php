@@ -71,7 +71,7 @@ function change_ipv6($session, $seen)
 {
     $wanted = values_wanted($seen);
     $values = values_that_differ($wanted, $seen);
-    $changes_static = array_intersect(array_keys($values), array('mode', 'ip', 'prefix', 'gateway'));
+    $changes_static = has_one_of($values, array('mode', 'ip', 'prefix', 'gateway'));
     $errors = $changes_static && $wanted['mode'] == 'On'
         ? ipv6_errors($wanted['ip'], $wanted['prefix'], $wanted['gateway']) : array();
     $meanwhile = $errors ? array() : changed_meanwhile($seen, $GLOBALS['kinds_of_change']['ipv6']['labels']);
@@ -84,7 +84,7 @@ function change_ipv6($session, $seen)
     begin_reading();
     $before = settings_of($session, 'ipv6');
     if (!could_read()) {
-        return array(array('enabled' => 'What is set now cannot be read, so that it could not be put back. Try it again.'), array());
+        return array(array('enabled' => 'What is set now cannot be read, so that it could not be put back. Try again.'), array());
     }
     $new_address = $changes_static && $wanted['mode'] == 'On' && $wanted['enabled'] == 'On' ? $wanted['ip'] : '';
     if ($new_address != '' && $before['enabled'] && posted('reviewed') != 'yes') {

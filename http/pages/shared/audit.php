@@ -306,7 +306,8 @@ function values_before($kind, $before, $changed = false)
     }
     if ($kind == 'ipv6') {
         $values = array();
-        foreach (array('enabled' => 'enabled', 'stateless' => 'stateless', 'dhcp' => 'dhcp', 'mode' => 'static') as $name => $setting) {
+        $settings = array('enabled' => 'enabled', 'stateless' => 'stateless', 'dhcp' => 'dhcp', 'mode' => 'static');
+        foreach ($settings as $name => $setting) {
             if (!$changed || isset($changed[$name])) {
                 $values[$name] = $before[$setting] ? 'On' : 'Off';
             }

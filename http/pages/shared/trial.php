@@ -279,7 +279,17 @@ function follow_trace($trial)
 // Whether something of the change is in force although the thread, which ends in the trace log, has set nothing.
 function has_other_parts($trial)
 {
-    return $trial['kind'] == 'ipv6' && array_intersect(array_keys($trial['values']), array('enabled', 'stateless', 'dhcp'));
+    return $trial['kind'] == 'ipv6' && has_one_of($trial['values'], array('enabled', 'stateless', 'dhcp'));
+}
+
+function has_one_of($values, $names)
+{
+    foreach ($names as $name) {
+        if (isset($values[$name])) {
+            return true;
+        }
+    }
+    return false;
 }
 
 // A change that is in force when the module's function returns.
