@@ -79,18 +79,27 @@ function failure_message($failures)
 {
     $messages = array();
     $advice = array();
-    $details = array();
     foreach ($failures as $failure) {
         $messages[$failure['message']] = h($failure['message']);
         $advice[$failure['advice']] = h($failure['advice']);
-        $detail = h($failure['message']) . ($failure['code'] == '' ? ': ' : '. Code ' . h($failure['code']) . ', reported at ')
-            . h($failure['place']);
-        $details[$detail] = $detail;
     }
     $title = count($messages) == 1 ? implode('', $messages) : 'Not everything could be read';
     $said = count($messages) == 1 && count($advice) == 1 ? implode('', $advice)
         : 'What is not known stands here as "Unknown". The trace log under Diagnostics shows what was tried.';
-    return message('bad', '<p><strong>' . $title . '</strong></p><p>' . $said . '</p>' . ($failures[0]['place'] == '' ? ''
-        : '<details class="details"><summary>Details</summary><p class="code">' . implode('</p><p class="code">', $details)
-        . '</p></details>'));
+    return message('bad', '<p><strong>' . $title . '</strong></p><p>' . $said . '</p>' . failure_details($failures));
+}
+
+// Folded: each failure in the module's words, with its code and place.
+function failure_details($failures)
+{
+    $details = array();
+    foreach ($failures as $failure) {
+        if ($failure['place'] != '') {
+            $detail = h(rtrim($failure['message'], '.')) . ($failure['code'] == '' ? ': ' : '. Code ' . h($failure['code'])
+                . ', reported at ') . h($failure['place']);
+            $details[$detail] = $detail;
+        }
+    }
+    return !$details ? '' : '<details class="details"><summary>Details</summary><p class="code">'
+        . implode('</p><p class="code">', $details) . '</p></details>';
 }
