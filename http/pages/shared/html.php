@@ -18,6 +18,7 @@ function asset($name)
 // A drawing of 24 by 24, for the eye only: a word always stands beside it.
 function icon($name)
 {
+    $sheet = 'M6 3h8l4 4v14H6zM14 3v4h4'; // for pages that have no drawing of their own
     $drawings = array(
         'index.php' => 'M4 4h6v9H4zM14 4h6v5h-6zM14 13h6v7h-6zM4 17h6v3H4z',
         'ipv4.php' => 'M9 3h6v5H9zM3 16h6v5H3zM15 16h6v5h-6zM12 8v4M6 16v-4h12v4',
@@ -41,7 +42,7 @@ function icon($name)
         'appliance' => 'M4 4h16v16H4zM4 9.3h16M4 14.6h16M8 6.7h4M8 12h4M8 17.3h4'
     );
     return '<svg class="icon" viewBox="0 0 24 24" aria-hidden="true" focusable="false"><path d="'
-        . $drawings[$name] . '"/></svg>';
+        . (isset($drawings[$name]) ? $drawings[$name] : $sheet) . '"/></svg>';
 }
 
 // A state in a word, a drawing and a colour. $kind is 'good' for what works, 'set' for what is only set, 'bad', 'caution',
