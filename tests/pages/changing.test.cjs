@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {addresses, ask, datagramsTo, fromLan, inAppliance, ipv4Address, php, traceLog, until, web, withScript} = require('./appliance.cjs');
-const {beside, errorOf, messages, open, press, showCommunity, test} = require('./browser.cjs');
+const {accessibilityFaults, beside, errorOf, messages, open, press, showCommunity, signIn, test} = require('./browser.cjs');
 
 // The pages as on a device that has no list of the networks within it: there the appliance alone knows what it refuses.
 async function withoutList(work) {
@@ -352,6 +352,38 @@ test('A trap receiver is added, tested and deleted', {user: 'admin'}, async (pag
   await press(page, 'Delete 10.20.0.1');
   assert.deepEqual(receivers(), []);
 });
+
+for (const javaScriptEnabled of [true, false]) {
+  test(`Deleting asks below the receiver, and nothing shifts, with${javaScriptEnabled ? '' : 'out'} scripts`, {javaScriptEnabled}, async (page) => {
+    php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);'
+      + 'create_snmp_trap_reg($session, 1, "10.20.0.9", "16200"); create_snmp_trap_reg($session, 1, "10.20.0.8", "162");');
+    await signIn(page, 'admin', 'traps.php');
+    const places = () => page.locator('thead th, tbody tr:not(.question) > * ').evaluateAll((all) => all.map((cell) => {
+      const {left, width} = cell.getBoundingClientRect();
+      return [Math.round(left), Math.round(width)];
+    }));
+    const before = await places();
+    assert.equal(await page.locator('tr.question:visible').count(), 0, 'nothing is asked yet');
+    await page.click('summary:has-text("10.20.0.9")');
+    assert.deepEqual(await places(), before, 'no column shifts');
+    const [question, receiver] = [await page.locator('tr.question:visible').boundingBox(),
+      await page.locator('tbody tr:has(th:text-is("10.20.0.9"))').boundingBox()];
+    assert.ok(Math.abs(question.y - receiver.y - receiver.height) < 2, 'right below');
+    assert.ok(Math.abs(question.width - receiver.width) < 2, 'as wide as the list');
+    assert.deepEqual(await accessibilityFaults(page), []);
+    await page.click('summary:has-text("10.20.0.9")');
+    assert.equal(await page.locator('tr.question:visible').count(), 0, 'folded again, nothing is asked');
+    await page.click('summary:has-text("10.20.0.9")');
+    await page.keyboard.press('Tab');
+    assert.equal(await page.evaluate(() => document.activeElement.innerText), 'Delete 10.20.0.9', 'the keyboard comes to it next');
+    const navigated = page.waitForNavigation();
+    await page.keyboard.press('Enter');
+    await navigated;
+    assert.equal(await messages(page), 'The receiver 10.20.0.9 is deleted.');
+    assert.deepEqual(receivers().map(({ip}) => ip), ['10.20.0.8']);
+    php('delete_snmp_trap_reg($session, get_snmp_trap_regs($session)[0]->id);');
+  });
+}
 
 test('A receiver that somebody else has deleted meanwhile', {user: 'admin'}, async (page) => {
   php('create_snmp_trap_reg($session, 1, "10.20.0.9", "162");');

@@ -28,7 +28,7 @@ async function looksLikeThePages(page, title) {
 }
 
 test('Each error has a page with a way back, and none is like another', {}, () => {
-  const titles = ['400', '403', '404', '405', '413', '500', '503'].map((status) => {
+  const titles = ['400', '403', '404', '405', '413', '414', '421', '431', '500', '501', '503'].map((status) => {
     const text = fs.readFileSync(`${web}/errors/${status}.html`, 'utf8');
     assert.match(text, /^<!DOCTYPE html>[^]*<link rel="stylesheet" href="\/style\.css">[^]*<a href="\/">To the overview<\/a>/, status);
     assert.doesNotMatch(text, /<script|style=|https?:/, status);
@@ -50,8 +50,12 @@ test('A page that is not there, wherever it would be', {}, async (page) => {
 test('What is no request, and what the web server does not do', {}, async () => {
   assert.match(await answerTo('GET / HTTP/1.1\r\nHost: a b\r\nConnection: close\r\n\r\n'),
     /^HTTP\/1\.1 400 [^]*<h1>This request is not understood<\/h1>/);
-  assert.match(await answerTo(`PUT /style.css HTTP/1.1\r\nHost: ${ipv4Address()}\r\nContent-Length: 0\r\nConnection: close\r\n\r\n`),
-    /^HTTP\/1\.1 405 [^]*<h1>This cannot be done here<\/h1>/);
+  const rest = `Host: ${ipv4Address()}\r\nContent-Length: 0\r\nConnection: close\r\n\r\n`;
+  for (const request of ['PUT /style.css HTTP/1.1\r\n', `GET / HTTP/1.1\r\nLong: ${'x'.repeat(70000)}\r\n`]) {
+    const answer = await answerTo(request + rest);
+    const [, status] = answer.match(/^HTTP\/1\.1 ([45]\d\d) /) ?? assert.fail(`${request.slice(0, 30)}: ${answer}`);
+    assert.ok(answer.endsWith(fs.readFileSync(`${web}/errors/${status}.html`, 'utf8')), `${request.slice(0, 30)}: ${answer}`);
+  }
 });
 
 test('While the interpreter is gone the pages say so, and afterwards they are back', {}, async (page) => {
