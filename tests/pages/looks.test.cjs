@@ -194,6 +194,22 @@ test('Forms that may only be read are valid and accessible, and fit', {user: 'mo
   }
 });
 
+test('The column with the menu ends with a long page, and the menu stays in sight', {user: 'admin', viewport: {width: 1280, height: 700}},
+  async (page) => {
+    await open(page, 'ipv4.php');
+    const seen = () => page.evaluate(() => {
+      const column = document.querySelector('.side').getBoundingClientRect();
+      const menu = document.querySelector('.side nav').getBoundingClientRect();
+      return {end: Math.round(column.bottom + scrollY), page: document.documentElement.scrollHeight, screens: document.documentElement.scrollHeight
+        / innerHeight, menuInSight: menu.top >= 0 && menu.top < innerHeight / 2};
+    });
+    const before = await seen();
+    assert.ok(before.screens > 1.3, `the page is long: ${before.screens}`);
+    assert.equal(before.end, before.page);
+    await page.evaluate(() => scrollTo(0, document.documentElement.scrollHeight));
+    assert.ok((await seen()).menuInSight);
+  });
+
 test('On a narrow screen the menu opens, with and without scripts', {viewport: screens.narrow, javaScriptEnabled: false},
   async (page) => {
     await signIn(page);

@@ -91,8 +91,20 @@ test('The role monitor sees everything, and no button to change it', {user: 'mon
     assert.ok((await page.innerText('main')).length > 60, name);
     const buttons = await page.locator('main form[method=post] button, main details:not(.fold) > summary').count();
     assert.equal(buttons, 0, name);
-    assert.equal(await page.locator('main form[method=post] input:not([type=hidden]):enabled').count(), 0, name);
+    assert.equal(await page.locator('main form[method=post], main fieldset, main input[type=hidden]').count(), 0, `${name} has no form`);
+    assert.doesNotMatch(await page.innerText('main'), /\bChange\b/, name);
+    const reasons = (await page.innerText('main')).match(/changing them needs the role admin/g) ?? [];
+    assert.equal(reasons.length, ['index.php', 'diagnostics.php'].includes(name) ? 0 : 1, `${name} says once why`);
   }
+  await page.click('nav a:text-is("SNMP agent"):visible');
+  assert.deepEqual(await page.locator('.shown').evaluateAll((all) => all.map((one) => [...one.children].slice(0, 2)
+    .map((part) => part.innerText).join(': '))), [['Versions 1 and 2c', 'version1'], ['Version 1', 'trap1'], ['Version 2c', 'trap2'],
+    ['Send a trap when a request carries a wrong community', 'auth_traps_enabled']].map(([label, name]) =>
+    `${label}: ${JSON.parse(php('echo json_encode(get_snmp_settings($session));'))[name] ? 'On' : 'Off'}`));
+  await open(page, 'ipv4.php');
+  assert.match(await page.innerText('[aria-labelledby=name]'), /Name\s+library\s/);
+  await open(page, 'index.php');
+  assert.equal(await page.locator('.more a:text-is("Show DNS")').count(), 1);
 });
 
 test('Who is signed out changes nothing, and learns that it was not saved', {}, async (page, context) => {

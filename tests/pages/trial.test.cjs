@@ -286,7 +286,12 @@ test('The web server starts anew during a trial, and the watcher is killed: the 
   await fillStatic(page, '10.20.0.8');
   await press(page, 'Apply');
   await page.goto('about:blank');
-  process.kill(Number(fs.readFileSync('/run/appmanager/web/lighttpd.pid', 'utf8')), 'SIGUSR1');
+  const server = () => fs.readFileSync('/run/appmanager/web/lighttpd.pid', 'utf8').trim();
+  const before = server();
+  // The service around it: that ends the server and starts another one.
+  process.kill(Number(fs.readFileSync(`/proc/${before}/status`, 'utf8').match(/^PPid:\s+(\d+)$/m)[1]), 'SIGHUP');
+  await until(() => fs.existsSync('/run/appmanager/web/lighttpd.pid') && ![before, ''].includes(server()), 'another web server');
+  await until(() => !fs.existsSync(`/proc/${before}`), 'the end of the one of before');
   await reaches('trial');
   assert.equal(ipv4Address(), '10.20.0.8');
   await isUndone();
