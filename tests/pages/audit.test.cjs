@@ -72,17 +72,19 @@ auditTest('Every change by a page is there: who, from where, old and new value, 
   await press(page, 'Save name');
 
   await open(page, 'port.php');
+  await page.uncheck('#auto');
   await page.check('#speed-10');
   await press(page, 'Save');
-  assert.deepEqual((await rows(page))[0], ['admin | 10.20.0.1', 'Set the Ethernet port. | Speed 100 Mbit/s → 10 Mbit/s', 'Done']);
+  assert.deepEqual((await rows(page))[0], ['admin | 10.20.0.1', 'Set the Ethernet port. | Autonegotiation On → Off, Speed 100 Mbit/s → 10 Mbit/s',
+    'Done']);
   php('set_eth2_port_settings($session, 1, 100, 1);');
 
   await open(page, 'ipv6.php');
   for (const [checked, text] of [[true, 'IPv6 Off → On'], [false, 'IPv6 On → Off']]) {
     await page.setChecked('#enabled', checked);
-    await page.selectOption('#trial-switch', '0');
-    await press(page, 'Save', '[aria-labelledby=switch]');
-    assert.deepEqual((await rows(page))[0], ['admin | 10.20.0.1', `Set the IPv6 switch. | ${text}`, 'Done']);
+    await page.selectOption('#trial', '0');
+    await press(page, 'Apply');
+    assert.deepEqual((await rows(page))[0], ['admin | 10.20.0.1', `Set the IPv6 settings. | ${text}`, 'Done']);
     await open(page, 'ipv6.php');
   }
 

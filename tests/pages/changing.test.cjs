@@ -482,9 +482,9 @@ test('A receiver that cannot be sent to is reported', {user: 'admin'}, async (pa
 });
 
 // trial.test.cjs has what happens with one.
-async function saveWithoutTrial(page, section, field) {
-  await page.selectOption(field, '0');
-  await press(page, 'Save', `[aria-labelledby=${section}]`);
+async function applyWithoutTrial(page) {
+  await page.selectOption('#trial', '0');
+  await press(page, 'Apply');
 }
 
 test('IPv6 is switched on and off, and shows the addresses in use', {user: 'admin'}, async (page) => {
@@ -492,7 +492,7 @@ test('IPv6 is switched on and off, and shows the addresses in use', {user: 'admi
   assert.equal(await beside(page, 'IPv6'), 'Off');
   assert.match(await page.innerText('section >> nth=0'), /None, because IPv6 is off\./);
   await page.check('#enabled');
-  await saveWithoutTrial(page, 'switch', '#trial-switch');
+  await applyWithoutTrial(page);
   assert.match(await messages(page), /^IPv6 is on/);
   await until(() => addresses('inet6').length > 0, 'an address from router advertisements');
   await open(page, 'ipv6.php');
@@ -501,7 +501,7 @@ test('IPv6 is switched on and off, and shows the addresses in use', {user: 'admi
     addresses('inet6').map((text) => `${text.split('/')[0]} from router advertisements`));
 
   await page.uncheck('#enabled');
-  await saveWithoutTrial(page, 'switch', '#trial-switch');
+  await applyWithoutTrial(page);
   assert.equal(await messages(page), 'IPv6 is off.');
   await until(() => addresses('inet6').length === 0, 'the addresses to go');
 });
@@ -511,7 +511,7 @@ test('The sources of IPv6 addresses', {user: 'admin'}, async (page) => {
   await open(page, 'ipv6.php');
   await page.uncheck('#stateless');
   await page.check('#dhcp');
-  await saveWithoutTrial(page, 'sources', '#trial-modes');
+  await applyWithoutTrial(page);
   assert.match(await messages(page), /^The sources of addresses are set/);
   assert.ok(fs.existsSync('/etc/ipv6dhcp'));
   assert.equal(ask('ipv6Manager.sh', '-l'), '0');
@@ -521,27 +521,29 @@ test('The sources of IPv6 addresses', {user: 'admin'}, async (page) => {
   assert.equal(await beside(page, 'DHCP'), 'On');
   await page.check('#stateless');
   await page.uncheck('#dhcp');
-  await saveWithoutTrial(page, 'sources', '#trial-modes');
+  await applyWithoutTrial(page);
   assert.ok(!fs.existsSync('/etc/ipv6dhcp'));
   assert.equal(ask('ipv6Manager.sh', '-l'), '1');
   php('set_ipv6_enabled($session, false);');
 });
 
 test('A source that cannot be switched is reported, and the other is switched all the same', {user: 'admin'}, async (page) => {
+  php('set_ipv6_enabled($session, true);');
   await withScript('ipv6Manager.sh', 'case "$*" in "-c -d on") exit 1 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
     await open(page, 'ipv6.php');
     await page.uncheck('#stateless');
     await page.check('#dhcp');
-    await saveWithoutTrial(page, 'sources', '#trial-modes');
+    await applyWithoutTrial(page);
     assert.match(await messages(page), /^Failed to configure DHCP settings - Make sure[^]*Code 0x00050030/);
     assert.equal(await beside(page, 'DHCP'), 'Off');
     assert.equal(await beside(page, 'Router advertisements'), 'Off');
   });
-  php('set_stateless_enabled($session, true);');
+  php('set_stateless_enabled($session, true); set_ipv6_enabled($session, false);');
 });
 
 test('Static IPv6 settings that cannot be', {user: 'admin'}, async (page) => {
   await open(page, 'ipv6.php');
+  await page.check('#enabled');
   await page.check('#static');
   const good = {ipStatic: '2001:db8:20::7', prefix: '64', gateway: 'fe80::1'};
   await refused(page, 'Apply', 'main', [
@@ -560,4 +562,5 @@ test('Static IPv6 settings that cannot be', {user: 'admin'}, async (page) => {
     [{...good, gateway: '2001:DB8:20:0::7'}, {gateway: /itself/}],
   ]);
   assert.equal(ask('ipv6Manager.sh', '-g', 'static'), '');
+  assert.equal(php('echo is_ipv6_enabled() ? "on" : "off";'), 'off');
 });

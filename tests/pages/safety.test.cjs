@@ -16,9 +16,9 @@ function settings() {
 const changes = [
   ['ipv4.php', {change: 'name', hostname: 'changed'}],
   ['ipv4.php', {change: 'addressing', mode: 'static', ip: '10.20.0.66', netmask: '255.255.255.0', gateway: '10.20.0.1'}],
-  ['ipv6.php', {change: 'enabled', enabled: '1'}],
-  ['ipv6.php', {change: 'modes', stateless: '', dhcp: '1'}],
-  ['ipv6.php', {change: 'static', static: '1', ipStatic: '2001:db8:20::66', prefix: '64', gateway: 'fe80::1'}],
+  ['ipv6.php', {change: 'ipv6', enabled: '1'}],
+  ['ipv6.php', {change: 'ipv6', stateless: '', dhcp: '1'}],
+  ['ipv6.php', {change: 'ipv6', static: '1', ipStatic: '2001:db8:20::66', prefix: '64', gateway: 'fe80::1'}],
   ['dns.php', {change: 'dns', dnsPrimary: '10.20.0.66', dnsSecondary: ''}],
   ['port.php', {change: 'port', auto: '', speed: '10', duplex: '0'}],
   ['security.php', {change: 'https', https: '1'}],
@@ -26,6 +26,8 @@ const changes = [
   ['traps.php', {change: 'add', transport: '1', ip: '10.20.0.66', port: '162'}],
   ['traps.php', {change: 'delete', id: '00000000-00000000-00000000'}],
   ['traps.php', {change: 'test'}],
+  ['backup.php', {change: 'download'}],
+  ['backup.php', {change: 'upload'}],
   ['diagnostics.php', {change: 'ping', value: '10.20.0.1'}],
   ['diagnostics.php', {change: 'lookup', value: 'lan.test'}],
   ['applying.php', {change: 'keep', id: '0'}],
@@ -160,7 +162,7 @@ test('A script in any field is shown as text', {}, async (page) => {
     ['snmp.php', 'Save', ['community_name']], ['traps.php', 'Add', ['ip', 'port']]];
   for (const [name, button, fields] of forms) {
     await open(page, name);
-    for (const mark of ['#mode-static', '#static']) if (await page.locator(mark).count()) await page.check(mark);
+    for (const mark of ['#mode-static', '#enabled', '#static']) if (await page.locator(mark).count()) await page.check(mark);
     if (name === 'snmp.php') await showCommunity(page);
     await page.evaluate(() => document.querySelectorAll('[maxlength]').forEach((field) => field.removeAttribute('maxlength')));
     for (const field of fields) await page.fill(`#${field}`, script);

@@ -285,10 +285,10 @@ test('At the new address neither the role monitor nor the key of another compute
 // Begins a trial of a setting that nothing waits for: router advertisements, off. Returns its id.
 function beginModes() {
   return inAppliance('php', '-r', `require "${web}/shared/page.php"; $session = new Session(); $session->user = "admin"; $session->role = "admin";
-    $before = settings_of($session, "ipv6-modes"); $wanted = $before; $wanted["stateless"] = false;
-    $record = new_trial($session, "ipv6-modes", array("stateless" => "Off", "dhcp" => "Off"), $before, "", "", 300);
+    $before = settings_of($session, "ipv6"); $wanted = $before; $wanted["stateless"] = false;
+    $record = new_trial($session, "ipv6", array("stateless" => "Off"), $before, "", "", 300);
     if (!$before["stateless"] || !begin_trial($record)) { echo "no trial"; exit; }
-    put_back($session, "ipv6-modes", $wanted); ended_at_once($record); echo $record["id"];`);
+    put_back($session, "ipv6", $wanted); ended_at_once($record); echo $record["id"];`);
 }
 
 // The record says who has won, and the device is as the record says.
@@ -301,7 +301,7 @@ async function agrees(round, winner) {
 
 // Of keeping and undoing the one that the audit has since so many lines.
 function winnerSince(lines, round) {
-  const did = audit().slice(lines).map(([,, what]) => what.replace('Automatic IPv6 addresses ', ''))
+  const did = audit().slice(lines).map(([,, what]) => what.replace('IPv6 settings ', ''))
     .filter((what) => what === 'kept' || what === 'undoing');
   assert.equal(did.length, 1, `round ${round}: ${did}`);
   return did[0] === 'kept' ? 'keep' : 'undo';

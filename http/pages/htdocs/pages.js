@@ -20,10 +20,12 @@ for (const shown of document.querySelectorAll('[data-address-from]')) {
 }
 
 // Parts of a form that another field makes useless. Without scripts they only look it, and what they say is passed over.
-for (const part of document.querySelectorAll('[data-inactive-while]')) {
-  const field = document.getElementById(part.dataset.inactiveWhile);
+for (const part of document.querySelectorAll('[data-inactive-while], [data-inactive-unless]')) {
+  const {inactiveWhile, inactiveUnless} = part.dataset;
+  const field = document.getElementById(inactiveWhile || inactiveUnless);
   if (!field) continue;
-  const update = () => { part.disabled = field.checked; };
+  const locked = part.closest('fieldset.form[disabled]') !== null;
+  const update = () => { part.disabled = locked || field.checked === Boolean(inactiveWhile); };
   field.addEventListener('change', update);
   addEventListener('pageshow', update); // the browser may have put back what was chosen
   update();
@@ -37,7 +39,7 @@ function isIpv4(text) {
 // A change is sent once. The page may come back from the browser's memory, with the button as it was.
 addEventListener('submit', (event) => {
   const button = event.submitter;
-  if (event.target.method !== 'post' || !button) return;
+  if (event.target.method !== 'post' || !button || 'stays' in event.target.dataset) return;
   const label = button.innerHTML;
   setTimeout(() => {
     button.disabled = true;

@@ -120,12 +120,19 @@ function check_field($name, $label, $checked, $hint = '')
     return mark_field('checkbox', $name, $name, '1', $label, $hint, typed_again($name, $checked ? '1' : '', '') == '1');
 }
 
+// Yes or no, where nothing is sent only while the field is inactive: "no" is sent, too.
+function answer_field($name, $label, $checked, $hint = '', $errors = array())
+{
+    return '<input type="hidden" name="' . $name . '" value="">' . mark_field('checkbox', $name, $name, '1', $label, $hint,
+        typed_again($name, $checked ? '1' : '') == '1', isset($errors[$name]) ? $errors[$name] : '');
+}
+
 // A radio button or a check box, with its label behind it.
-function mark_field($type, $name, $id, $value, $label, $hint, $checked)
+function mark_field($type, $name, $id, $value, $label, $hint, $checked, $error = '')
 {
     return '<div class="mark"><input type="' . $type . '" id="' . $id . '" name="' . $name . '" value="' . h($value) . '"'
-        . ($checked ? ' checked' : '') . described_by($id, $hint, '') . '><div><label for="' . $id . '">' . h($label)
-        . '</label>' . field_notes($id, $hint, '') . '</div></div>';
+        . ($checked ? ' checked' : '') . described_by($id, $hint, $error) . '><div><label for="' . $id . '">' . h($label)
+        . '</label>' . field_notes($id, $hint, $error) . '</div></div>';
 }
 
 // A password is never shown again, and never filled in by the server.
