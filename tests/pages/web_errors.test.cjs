@@ -53,7 +53,7 @@ test('What is no request, and what the web server does not do', {}, async () => 
   const rest = `Host: ${ipv4Address()}\r\nContent-Length: 0\r\nConnection: close\r\n\r\n`;
   for (const request of ['PUT /style.css HTTP/1.1\r\n', `GET / HTTP/1.1\r\nLong: ${'x'.repeat(70000)}\r\n`]) {
     const answer = await answerTo(request + rest);
-    const [, status] = answer.match(/^HTTP\/1\.1 ([45]\d\d) /) ?? assert.fail(`${request.slice(0, 30)}: ${answer}`);
+    const [, status] = answer.match(/^HTTP\/1\.[01] ([45]\d\d) /) ?? assert.fail(`${request.slice(0, 30)}: ${answer}`);
     assert.ok(answer.endsWith(fs.readFileSync(`${web}/errors/${status}.html`, 'utf8')), `${request.slice(0, 30)}: ${answer}`);
   }
 });

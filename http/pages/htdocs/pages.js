@@ -24,8 +24,7 @@ for (const part of document.querySelectorAll('[data-inactive-while], [data-inact
   const {inactiveWhile, inactiveUnless} = part.dataset;
   const field = document.getElementById(inactiveWhile || inactiveUnless);
   if (!field) continue;
-  const locked = part.closest('fieldset.form[disabled]') !== null;
-  const update = () => { part.disabled = locked || field.checked === Boolean(inactiveWhile); };
+  const update = () => { part.disabled = field.checked === Boolean(inactiveWhile); };
   field.addEventListener('change', update);
   addEventListener('pageshow', update); // the browser may have put back what was chosen
   update();

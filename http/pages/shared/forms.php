@@ -123,6 +123,9 @@ function check_field($name, $label, $checked, $hint = '')
 // Yes or no, where nothing is sent only while the field is inactive: "no" is sent, too.
 function answer_field($name, $label, $checked, $hint = '', $errors = array())
 {
+    if ($GLOBALS['only_shown']) {
+        return shown_value($label, $checked ? 'On' : 'Off', $hint);
+    }
     return '<input type="hidden" name="' . $name . '" value="">' . mark_field('checkbox', $name, $name, '1', $label, $hint,
         typed_again($name, $checked ? '1' : '') == '1', isset($errors[$name]) ? $errors[$name] : '');
 }
