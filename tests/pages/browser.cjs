@@ -13,7 +13,7 @@ const flags = ['--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', 
   '--disable-background-networking', '--disable-component-update', '--disable-sync'];
 const axe = fs.readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 const pages = ['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php', 'traps.php',
-  'diagnostics.php', 'account.php'];
+  'backup.php', 'diagnostics.php', 'account.php'];
 
 const browsers = {
   chromium: () => chromium.launch({executablePath: '/usr/bin/chromium', args: flags}),

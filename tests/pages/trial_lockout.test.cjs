@@ -241,7 +241,7 @@ test('A key in the background before the change has come to its end is not lost'
   const hash = inRecord();
   assert.match(hash, /^[0-9a-f]{40}$/);
   // The key itself is in the session's file.
-  const key = fs.readFileSync(`${dat}/sessions/sess_${client.cookie.split('=')[1]}`, 'utf8').match(/trial_key\|s:32:"([0-9a-f]{32})"/)[1];
+  const key = fs.readFileSync(`${dat}/sessions/sess_${client.cookies.get('settings')}`, 'utf8').match(/trial_key\|s:32:"([0-9a-f]{32})"/)[1];
   assert.equal(trial('state'), 'applying');
   await new Client().ask('http://10.20.0.7/trial.php?background=1', {key});
   assert.equal(trial('state'), 'applying');
