@@ -94,8 +94,8 @@ test('A change on trial is valid and accessible, and fits, until it is kept and 
   await signIn(page);
   await open(page, 'ipv6.php');
   await page.check('#enabled');
-  await page.selectOption('#trial-switch', '300');
-  await press(page, 'Save', '[aria-labelledby=switch]');
+  await page.selectOption('#trial', '300');
+  await press(page, 'Apply');
   await reaches('trial');
   // In another session the page does not go on to the new address: it waits to be asked.
   await page.goto('about:blank');
@@ -159,6 +159,7 @@ test('States that are seldom seen are valid and accessible, and fit', {}, async 
 
   await withScript('ipv6Manager.sh', 'case "$*" in "-c -s "*) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
     await open(page, 'ipv6.php');
+    await page.check('#enabled');
     await page.check('#static');
     await page.fill('#ipStatic', '2001:db8:20::7');
     await page.fill('#prefix', '64');
@@ -192,6 +193,22 @@ test('Forms that may only be read are valid and accessible, and fit', {user: 'mo
     await judge(page, name);
   }
 });
+
+test('The column with the menu ends with a long page, and the menu stays in sight', {user: 'admin', viewport: {width: 1280, height: 700}},
+  async (page) => {
+    await open(page, 'ipv4.php');
+    const seen = () => page.evaluate(() => {
+      const column = document.querySelector('.side').getBoundingClientRect();
+      const menu = document.querySelector('.side nav').getBoundingClientRect();
+      return {end: Math.round(column.bottom + scrollY), page: document.documentElement.scrollHeight, screens: document.documentElement.scrollHeight
+        / innerHeight, menuInSight: menu.top >= 0 && menu.top < innerHeight / 2};
+    });
+    const before = await seen();
+    assert.ok(before.screens > 1.3, `the page is long: ${before.screens}`);
+    assert.equal(before.end, before.page);
+    await page.evaluate(() => scrollTo(0, document.documentElement.scrollHeight));
+    assert.ok((await seen()).menuInSight);
+  });
 
 test('On a narrow screen the menu opens, with and without scripts', {viewport: screens.narrow, javaScriptEnabled: false},
   async (page) => {
@@ -246,15 +263,15 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
   assert.ok(await page.isVisible('#ipStatic'), 'no script is needed to show the fields');
   for (const mode of ['IPv6 is on', 'IPv6 is off']) {
     await page.setChecked('#enabled', mode === 'IPv6 is on');
-    await page.selectOption('#trial-switch', '0');
-    await press(page, 'Save', '[aria-labelledby=switch]');
+    await page.selectOption('#trial', '0');
+    await press(page, 'Apply');
     assert.ok((await messages(page)).startsWith(mode), mode);
   }
   for (const dhcp of [true, false]) {
     await page.setChecked('#dhcp', dhcp);
-    await page.selectOption('#trial-modes', '0');
-    await press(page, 'Save', '[aria-labelledby=sources]');
-    assert.match(await messages(page), /^The sources of addresses are set/);
+    await page.selectOption('#trial', '0');
+    await press(page, 'Apply');
+    assert.match(await messages(page), /^The sources of addresses are stored/);
   }
   await page.check('#static');
   await page.fill('#ipStatic', '2001:db8:20::7');
