@@ -286,7 +286,7 @@ test('At the new address neither the role monitor nor the key of another compute
 function beginModes() {
   return inAppliance('php', '-r', `require "${web}/shared/page.php"; $session = new Session(); $session->user = "admin"; $session->role = "admin";
     $before = settings_of($session, "ipv6"); $wanted = $before; $wanted["stateless"] = false;
-    $record = new_trial($session, "ipv6", array("stateless" => "Off"), $before, "", "", 300);
+    $record = new_trial($session, "ipv6", array("stateless" => "Off"), $before, "", "", 300); $record["wanted"] = $wanted;
     if (!$before["stateless"] || !begin_trial($record)) { echo "no trial"; exit; }
     put_back($session, "ipv6", $wanted); ended_at_once($record); echo $record["id"];`);
 }
