@@ -215,8 +215,9 @@ test('Two administrators, each with an account, apply at once: one change is on 
       await reaches('undone', 40);
       await answersAt('10.20.0.7');
       assert.match((await client.ask('http://10.20.0.7/applying.php')).text, new RegExp(`because ${other} asked for it`));
-      const [begun, undone] = audit().slice(-2);
+      const [begun, undoing, undone] = audit().slice(-3);
       assert.deepEqual([begun[0], begun[2]], [maker, 'IPv4 settings begun']);
+      assert.deepEqual([undoing[0], undoing[2]], [other, 'IPv4 settings undoing']);
       assert.equal(undone[2], 'IPv4 settings undone');
     } finally {
       fs.writeFileSync(`${dat}/users`, users);
