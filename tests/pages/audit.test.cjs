@@ -210,12 +210,31 @@ auditTest('Refused sign-ins of one address are one line with their count, and wh
     assert.match(shown[1][1], /^Signing in was refused\. 40 times since \d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.$/);
   });
 
+auditTest('The last name that is tried hides none of those before', {user: 'admin'}, async (page) => {
+  write(`${refusedSignIn('10.20.0.6')} ${refusedSignIn('10.20.0.6')} ${refusedSignIn('10.20.0.6', 'monitor')} ${refusedSignIn('10.20.0.6', 'nobody')}
+    ${refusedSignIn('10.20.0.6')}`);
+  const shown = await rows(page, '&outcome=refused&subject=sign-in');
+  assert.deepEqual(shown.map(([who, what]) => [who, what.replace(/ since .*/, '')]), [
+    ['admin | 10.20.0.6', 'Signing in was refused. 3 times'], ['Not known | 10.20.0.6', 'Signing in was refused.'],
+    ['monitor | 10.20.0.6', 'Signing in was refused.']]);
+  assert.equal((await rows(page, '&user=admin&outcome=refused')).length, 1);
+});
+
+auditTest('A client with a whole network of IPv6 addresses pushes out nobody else\'s refused sign-ins', {user: 'admin'}, async (page) => {
+  write(`${refusedSignIn('10.20.0.6')} ${refusedSignIn('2001:db8:21::1')}
+    for ($i = 1; $i <= 700; $i++) write_audit('admin', '2001:db8:20::' . dechex($i), 'Signing in was refused.', '', 'sign-in', array(), array(),
+      'refused: wrong name or password');`);
+  const shown = await rows(page, '&outcome=refused&subject=sign-in');
+  assert.deepEqual(shown.map(([who]) => who), ['admin | 2001:db8:20::2bc', 'admin | 2001:db8:21::1', 'admin | 10.20.0.6']);
+  assert.match(shown[0][1], /^Signing in was refused\. 700 times since /);
+});
+
 auditTest('A flood of refused sign-ins from everywhere pushes no change and no sign-in out, and has its bounds', {user: 'admin'}, async (page) => {
   write(`write_audit('admin', '10.20.0.1', 'Set the DNS servers.', 'before', 'dns'); write_audit('admin', '10.20.0.1', 'Signed in.', '', 'sign-in');
-    for ($i = 0; $i < 300; $i++) { write_audit('admin', '10.21.' . (int) ($i / 200) . '.' . $i % 200, 'Signing in was refused.',
+    for ($i = 0; $i < 700; $i++) { write_audit('admin', '10.21.' . (int) ($i / 200) . '.' . $i % 200, 'Signing in was refused.',
       str_repeat('long ', 500), 'sign-in', array(), array(), 'refused: ' . str_repeat('reason ', 500)); }`);
   const text = fs.readFileSync(files.refused, 'utf8');
-  assert.equal(text.trim().split('\n').length, 200);
+  assert.equal(text.trim().split('\n').length, 600);
   assert.ok(text.split('\n').every((line) => line.length < 2048));
   assert.equal((await rows(page, '&subject=dns')).length, 1);
   assert.equal((await rows(page, '&subject=sign-in&outcome=done')).length, 1);

@@ -11,7 +11,7 @@ define('AUDIT_LOCK', PRIVATE_FOLDER . '/audit.lock');
 define('AUDIT_LINE_BYTES', 2048); // of a line
 define('AUDIT_FIELD_BYTES', 240); // of a field
 define('AUDIT_PATIENCE', 2); // seconds that a line waits for another one
-define('AUDIT_FOLDED_SECONDS', 86400); // refused sign-ins of one address within this time are one line
+define('AUDIT_FOLDED_SECONDS', 86400); // what is refused to one user at one place within this time is one line
 define('VALUE_SEPARATOR', "\x1e"); // between two values of a field
 define('LABEL_SEPARATOR', "\x1f"); // between a value's label and its text
 
@@ -19,7 +19,7 @@ define('LABEL_SEPARATOR', "\x1f"); // between a value's label and its text
 $audit_files = array(
     'changes' => array('file' => AUDIT_FILE, 'lines' => 500),
     'sign-ins' => array('file' => AUDIT_FILE . '.sign-ins', 'lines' => 300),
-    'refused' => array('file' => AUDIT_FILE . '.refused', 'lines' => 200)
+    'refused' => array('file' => AUDIT_FILE . '.refused', 'lines' => 600)
 );
 
 // What an entry can be about => what people call it.
@@ -164,13 +164,15 @@ function store_in_audit($kind, $entry)
     return @replace_file($path, implode("\n", $kept) . "\n", $kind == 'changes');
 }
 
-// The line of the same address, of the same day, or -1.
+// The line about the same, of the same user and place, of the same day, or -1. Who has a whole network of addresses has one
+// place. It is another line for each user: the last name that is tried hides none of those before.
 function line_to_fold($lines, $entry)
 {
+    $place = network_of($entry['client']);
     foreach ($lines as $i => $line) {
         $before = audit_entry($line);
-        if ($before && $before['client'] == $entry['client'] && $before['what'] == $entry['what']
-            && abs($entry['time'] - $before['began']) < AUDIT_FOLDED_SECONDS) {
+        if ($before && $before['what'] == $entry['what'] && $before['user'] === $entry['user']
+            && network_of($before['client']) == $place && abs($entry['time'] - $before['began']) < AUDIT_FOLDED_SECONDS) {
             return $i;
         }
     }

@@ -53,7 +53,7 @@ $filters = array('user' => array('label' => 'User', 'choices' => $users),
   <details class="fold"><summary>How much is kept</summary>
     <p class="hint">The newest <?php echo (int) $GLOBALS['audit_files']['changes']['lines']; ?> changes,
       <?php echo (int) $GLOBALS['audit_files']['sign-ins']['lines']; ?> sign-ins and sign-outs and
-      <?php echo (int) $GLOBALS['audit_files']['refused']['lines']; ?> lines of refused sign-ins, of which those of one address within a
-      day are one line; each line has <?php echo AUDIT_LINE_BYTES; ?> bytes at most. None of the three takes room from another.
+      <?php echo (int) $GLOBALS['audit_files']['refused']['lines']; ?> lines of what was refused, of which those about the same, of one user
+      and one address (of IPv6: one network) within a day are one line with the last address; each line has <?php echo AUDIT_LINE_BYTES; ?> bytes at most. None of the three takes room from another.
       Of what the management services did without a page, the newest 100.</p></details>
 </section>
