@@ -4,8 +4,8 @@
 const assert = require('node:assert/strict');
 const {spawn} = require('node:child_process');
 const fs = require('node:fs');
-const {applianceFolder, fromLan, inAppliance, php, until, web} = require('./appliance.cjs');
-const {base, messages, open, press, sessionCookie, showCommunity, test} = require('./browser.cjs');
+const {applianceFolder, fromLan, inAppliance, php, until, web, withScript} = require('./appliance.cjs');
+const {base, messages, open, press, sessionCookie, showCommunity, signIn, test} = require('./browser.cjs');
 
 const folder = `${applianceFolder}/HTTPService/dat`;
 const files = {changes: `${folder}/audit`, signIns: `${folder}/audit.sign-ins`, refused: `${folder}/audit.refused`};
@@ -160,7 +160,7 @@ auditTest('What the services say of a change by a page is in its details and now
 auditTest('Whoever changes the agent is named, whoever was served before', {user: 'admin'}, async (page, context) => {
   const other = await context.browser().newContext();
   const monitor = await other.newPage();
-  await require('./browser.cjs').signIn(monitor, 'monitor');
+  await signIn(monitor, 'monitor');
   await open(page, 'snmp.php');
   // More often than the interpreter has processes.
   for (let i = 0; i < 12; i += 1) await open(monitor, 'traps.php');
@@ -210,6 +210,62 @@ auditTest('Refused sign-ins of one address are one line with their count, and wh
     assert.match(shown[1][1], /^Signing in was refused\. 40 times since \d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.$/);
   });
 
+auditTest('Who does not know the own password is there, for both forms of the page Account', {}, async (page) => {
+  await signIn(page, 'admin', 'account.php');
+  const good = 'horse staple battery';
+  for (const [old, next, again, button] of [['old_password', 'new_password', 'password_again', 'Change password'],
+    ['own_password', 'other_password', 'other_password_again', 'Set password']]) {
+    await page.fill(`#${old}`, 'my secret guess');
+    await page.fill(`#${next}`, good);
+    await page.fill(`#${again}`, good);
+    await press(page, button);
+  }
+  const about = 'Changing the password of';
+  const [other, own, ...more] = await rows(page, '&outcome=refused&subject=account');
+  assert.deepEqual(own, ['admin | 10.20.0.1', `${about} admin was refused.`, 'Refused | wrong own password']);
+  assert.deepEqual(other.slice(0, 2), ['admin | 10.20.0.1', `${about} monitor was refused.`]);
+  assert.match(other[2], /^Refused \| (too many attempts|wrong own password)$/, 'by the time that has passed');
+  assert.deepEqual(more, []);
+  assert.doesNotMatch(fs.readFileSync(files.refused, 'utf8'), /secret/);
+});
+
+auditTest('What the role monitor was refused is there, and however often it asks pushes no change out', {user: 'monitor'}, async (page, context) => {
+  write(`write_audit('admin', '10.20.0.1', 'Set the DNS servers.', '', 'dns');`);
+  const {name, value} = await sessionCookie(context);
+  await open(page, 'account.php');
+  const token = await page.getAttribute('[name=token] >> nth=0', 'value');
+  const ask = (file, values) => fetch(base() + file, {method: 'POST', headers: {cookie: `${name}=${value}`}, redirect: 'manual',
+    body: new URLSearchParams({token, ...values})});
+  for (let i = 0; i < 3; i += 1) assert.equal((await ask('dns.php', {change: 'dns', dnsPrimary: '10.20.0.66'})).status, 403);
+  assert.equal((await ask('account.php', {change: 'other', name: 'admin'})).status, 403);
+  const shown = await rows(page, '&subject=rights');
+  assert.deepEqual(shown.map(([who, what, outcome]) => [who, what.replace(/ since .*/, ''), outcome]), [
+    ['monitor | 10.20.0.1', 'Changing the password of another account was refused.', 'Refused | the role may only look'],
+    ['monitor | 10.20.0.1', 'A request of the page "DNS" was refused. 3 times', 'Refused | the role may only look']]);
+  assert.equal(fs.readFileSync(files.changes, 'utf8').trim().split('\n').length, 1);
+});
+
+auditTest('Of a test to many receivers those that failed stand first, and what has no room is counted', {user: 'admin'}, async (page) => {
+  const receivers = Array.from({length: 20}, (_, i) => `10.20.0.${i + 1}`);
+  php(receivers.map((ip) => `create_snmp_trap_reg($session, 1, "${ip}", "162");`).join(''));
+  try {
+    const lines = receivers.map((ip) => `udp:${ip}:162 2c ${ip.endsWith('.17') ? 'refused' : 'sent'}`).reverse();
+    await withScript('testTrapResults.sh', `printf '%s\\n' "time $(date +%s)" '${lines.join("' '")}'`, async () => {
+      await open(page, 'traps.php');
+      await press(page, 'Send a test trap');
+    });
+    const [[, what]] = await rows(page);
+    const values = what.split(' | ')[1].split(', ');
+    assert.equal(values[0], 'udp:10.20.0.17:162 Refused');
+    const named = values.slice(1, -1);
+    assert.deepEqual(named, named.map((value) => value.match(/^udp:10\.20\.0\.\d+:162 Sent$/)[0]).sort(), 'whole, and in order');
+    assert.ok(named.length >= 5);
+    assert.equal(values.at(-1), `and ${20 - 1 - named.length} more`);
+  } finally {
+    php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
+  }
+});
+
 auditTest('The last name that is tried hides none of those before', {user: 'admin'}, async (page) => {
   write(`${refusedSignIn('10.20.0.6')} ${refusedSignIn('10.20.0.6')} ${refusedSignIn('10.20.0.6', 'monitor')} ${refusedSignIn('10.20.0.6', 'nobody')}
     ${refusedSignIn('10.20.0.6')}`);
@@ -217,7 +273,7 @@ auditTest('The last name that is tried hides none of those before', {user: 'admi
   assert.deepEqual(shown.map(([who, what]) => [who, what.replace(/ since .*/, '')]), [
     ['admin | 10.20.0.6', 'Signing in was refused. 3 times'], ['Not known | 10.20.0.6', 'Signing in was refused.'],
     ['monitor | 10.20.0.6', 'Signing in was refused.']]);
-  assert.equal((await rows(page, '&user=admin&outcome=refused')).length, 1);
+  assert.equal((await rows(page, '&user=admin&outcome=refused&subject=sign-in')).length, 1);
 });
 
 auditTest('A client with a whole network of IPv6 addresses pushes out nobody else\'s refused sign-ins', {user: 'admin'}, async (page) => {

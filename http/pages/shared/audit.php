@@ -14,6 +14,7 @@ define('AUDIT_PATIENCE', 2); // seconds that a line waits for another one
 define('AUDIT_FOLDED_SECONDS', 86400); // what is refused to one user at one place within this time is one line
 define('VALUE_SEPARATOR', "\x1e"); // between two values of a field
 define('LABEL_SEPARATOR', "\x1f"); // between a value's label and its text
+define('MORE_VALUES', 'and'); // the label of how many values found no room
 
 // Kind => its file, and the lines that are kept.
 $audit_files = array(
@@ -25,7 +26,7 @@ $audit_files = array(
 // What an entry can be about => what people call it.
 $audit_subjects = array('sign-in' => 'Signing in and out', 'account' => 'Accounts', 'ipv4' => 'IPv4', 'name' => 'Host name',
     'ipv6' => 'IPv6', 'dns' => 'DNS', 'port' => 'Ethernet port', 'ssl' => 'Web security', 'snmp' => 'SNMP agent',
-    'traps' => 'Trap receivers', 'backup' => 'Backup', 'other' => 'Other');
+    'traps' => 'Trap receivers', 'backup' => 'Backup', 'rights' => 'Rights', 'other' => 'Other');
 
 // The past of the words with which a change begins.
 $past_of = array('Add' => 'Added', 'Delete' => 'Deleted', 'Send' => 'Sent', 'Set' => 'Set', 'Switch' => 'Switched');
@@ -65,6 +66,13 @@ function write_audit($user, $client, $what, $details = '', $subject = 'other', $
         $GLOBALS['audit_failed'] = true;
     }
     return $written;
+}
+
+// Writes down that the signed-in user was refused something.
+function audit_refusal($session, $subject, $what, $reason)
+{
+    return write_audit($session->user, text_of($_SERVER, 'REMOTE_ADDR'), $what, '', $subject, array(), array(),
+        'refused: ' . $reason);
 }
 
 // Writes down a change just behind the module's function that made it: $verb (one of $past_of) and $object are its sentence,
@@ -107,8 +115,9 @@ function labelled($values, $labels)
 
 function audit_kind($entry)
 {
-    $is_about_signing_in = $entry['subject'] == 'sign-in' || $entry['subject'] == 'account';
-    if ($is_about_signing_in && kind_of_result($entry['result']) == 'refused') {
+    // What anybody can have refused as often as they like; what the appliance refuses is among the changes.
+    $is_who_may = $entry['subject'] == 'sign-in' || $entry['subject'] == 'account' || $entry['subject'] == 'rights';
+    if ($is_who_may && kind_of_result($entry['result']) == 'refused') {
         return 'refused';
     }
     return $entry['subject'] == 'sign-in' ? 'sign-ins' : 'changes';
@@ -247,8 +256,13 @@ function audit_values($values)
     foreach ($values as $label => $value) {
         $texts[] = audit_text($label, 40) . LABEL_SEPARATOR . audit_text($value, 100);
     }
-    $text = implode(VALUE_SEPARATOR, $texts);
-    return strlen($text) <= AUDIT_FIELD_BYTES ? $text : whole_characters(substr($text, 0, AUDIT_FIELD_BYTES));
+    $more = '';
+    // Whole values only, and how many are left out.
+    for ($left_out = 1; $texts && strlen(implode(VALUE_SEPARATOR, $texts) . $more) > AUDIT_FIELD_BYTES; $left_out++) {
+        $texts = array_slice($texts, 0, -1);
+        $more = VALUE_SEPARATOR . MORE_VALUES . LABEL_SEPARATOR . $left_out . ' more';
+    }
+    return implode(VALUE_SEPARATOR, $texts) . $more;
 }
 
 // Without the first bytes of a character that was cut off.
