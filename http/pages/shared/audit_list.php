@@ -178,7 +178,11 @@ function differences($entry)
 {
     $texts = array();
     $all = array();
+    $is_cut = isset($entry['new'][MORE_VALUES]) || isset($entry['old'][MORE_VALUES]);
     foreach ($entry['new'] + $entry['old'] as $label => $nothing) {
+        if ($is_cut && $entry['old'] && $entry['new'] && !isset($entry['old'][$label], $entry['new'][$label])) {
+            continue; // it may be among those that found no room
+        }
         $old = isset($entry['old'][$label]) ? $entry['old'][$label] : '';
         $new = isset($entry['new'][$label]) ? $entry['new'][$label] : '';
         $all[] = $label . ' ' . ($new == '' ? 'none' : $new);

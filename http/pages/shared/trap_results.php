@@ -33,6 +33,22 @@ function outcome_of_trap($outcome)
     return isset($texts[$outcome]) ? $texts[$outcome] : 'Not known';
 }
 
+// Receiver => what became of it, in words: those that failed first, for the audit has no room for all.
+function outcomes_for_audit($results)
+{
+    $failed = array();
+    $others = array();
+    ksort($results);
+    foreach ($results as $receiver => $outcome) {
+        if ($outcome == 'sent' || $outcome == 'connected') {
+            $others[$receiver] = outcome_of_trap($outcome);
+        } else {
+            $failed[$receiver] = outcome_of_trap($outcome);
+        }
+    }
+    return $failed + $others;
+}
+
 // State and explanation, as markup.
 function outcome_of_trap_in_words($outcome)
 {
