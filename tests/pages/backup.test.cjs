@@ -184,6 +184,23 @@ async function applyOnTrial(page, text, title) {
   await reaches('kept');
 }
 
+test('Leaving after a file was chosen asks; comparing it does not', {user: 'admin'}, async (page) => {
+  let asked = 0;
+  page.on('dialog', (dialog) => { if (dialog.type() === 'beforeunload') asked += 1; });
+  await open(page, 'backup.php');
+  await page.click('h1'); // a browser asks only where something was done
+  await open(page, 'backup.php');
+  assert.equal(asked, 0, 'nothing was chosen');
+  await page.setInputFiles('#file', {name: 'settings.txt', mimeType: 'text/plain', buffer: Buffer.from(head)});
+  await page.click('h1');
+  await open(page, 'index.php');
+  assert.equal(asked, 1);
+  asked = 0;
+  await choose(page, head);
+  assert.equal(await page.innerText('h1'), 'Compare and apply');
+  assert.equal(asked, 0, 'it is sent');
+});
+
 test('Download, change everything, upload: all is as before', {}, async (page) => {
   await setStatic('10.20.0.7');
   php(`set_network_hostname($session, "before"); create_snmp_trap_reg($session, 1, "10.20.0.9", "162");
