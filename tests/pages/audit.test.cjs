@@ -157,6 +157,13 @@ auditTest('What the services say of a change by a page is in its details and now
       'by its address, which the services do not say');
   });
 
+auditTest('What another program did is there after many other operations of the services', {user: 'admin'}, async (page) => {
+  php(`create_snmp_trap_reg($session, 7, "10.20.0.201", "162"); for ($i = 0; $i < 110; $i++) create_snmp_trap_reg($session, 7, "10.20.0.202", "162");`);
+  const table = await (await page.request.get(`${base()}audit.php?subject=traps&user=tests`)).text();
+  assert.equal(table.match(/"Tried to add the trap receiver 10\.20\.0\.201, port 162\."/g)?.length, 1);
+  assert.equal(table.match(/"Tried to add the trap receiver 10\.20\.0\.202, port 162\."/g).length, 110);
+});
+
 auditTest('Whoever changes the agent is named, whoever was served before', {user: 'admin'}, async (page, context) => {
   const other = await context.browser().newContext();
   const monitor = await other.newPage();

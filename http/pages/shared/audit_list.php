@@ -2,6 +2,7 @@
 // Reading the audit: what the pages have written down and what the management services have, in one list.
 
 define('AUDIT_PAGE_ENTRIES', 10);
+define('AFTER_BEGUN', 30); // seconds that a change goes on after the entry that it has begun
 
 // Operation of the management services => its subject here.
 $subjects_of_operations = array('setSSLEnabled' => 'ssl', 'setSNMPVersions' => 'snmp', 'setAuthTrapsEnabled' => 'snmp',
@@ -30,11 +31,15 @@ function whole_audit($services)
         $own = $kind == 'changes' ? count($entries) : $own;
     }
     $receivers = array();
+    $first = 0; // of the changes that may still have gone on: both are in the order of time
     // Oldest first: what is deleted has been added before.
     for ($i = ($services ? count($services) : 0) - 1; $i >= 0; $i--) {
         $operation = without_secrets($services[$i]);
         $time = time_of_services($operation['time']);
-        $owner = owner_of($operation, $time, $entries, $own);
+        while ($first < $own && $entries[$first]['time'] + AFTER_BEGUN < $time) {
+            $first++;
+        }
+        $owner = owner_of($operation, $time, $entries, $first, $own);
         if ($owner >= 0) {
             $entries[$owner]['operations'][] = $operation;
         } else {
@@ -76,11 +81,12 @@ function time_of_services($text)
     return $fraction + gmmktime((int) $part[4], (int) $part[5], (int) $part[6], (int) $part[2], (int) $part[3], (int) $part[1]);
 }
 
-// The entry of the change by a page that this was a part of, or -1: of those under way at that time the last that began.
-function owner_of($operation, $time, $entries, $own)
+// The entry of the change by a page that this was a part of, or -1: of those from $first on that were under way at that time the
+// last that began.
+function owner_of($operation, $time, $entries, $first, $own)
 {
     $owner = -1;
-    for ($i = 0; $i < $own; $i++) {
+    for ($i = $first; $i < $own; $i++) {
         if ($time >= $entries[$i]['began'] && is_part_of($operation, $time, $entries[$i])
             && ($owner < 0 || $entries[$i]['began'] >= $entries[$owner]['began'])) {
             $owner = $i;
@@ -97,7 +103,7 @@ function is_part_of($operation, $time, $entry)
     $is_on_trial = $outcome == 'begun' || $outcome == 'undone';
     // A new host name switches HTTPS on again, in nobody's name.
     $is_of_name = $subject == 'ssl' && ($entry['subject'] == 'name' || $entry['subject'] == 'ipv4');
-    $ends = $entry['time'] + ($outcome == 'begun' ? 30 : 0);
+    $ends = $entry['time'] + ($outcome == 'begun' ? AFTER_BEGUN : 0);
     return $time <= $ends && ($is_of_name
         || ($subject == $entry['subject'] && ($is_on_trial || $operation['user'] == $entry['user'])));
 }

@@ -55,5 +55,5 @@ $filters = array('user' => array('label' => 'User', 'choices' => $users),
       <?php echo (int) $GLOBALS['audit_files']['sign-ins']['lines']; ?> sign-ins and sign-outs and
       <?php echo (int) $GLOBALS['audit_files']['refused']['lines']; ?> lines of what was refused, of which those about the same, of one user
       and one address (of IPv6: one network) within a day are one line with the last address; each line has <?php echo AUDIT_LINE_BYTES; ?> bytes at most. None of the three takes room from another.
-      Of what the management services did without a page, the newest 100.</p></details>
+      Of what the management services did, for a page or without one, the newest 1500 operations.</p></details>
 </section>
