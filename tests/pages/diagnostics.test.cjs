@@ -2,7 +2,7 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const {spawn} = require('node:child_process');
+const {execFileSync, spawn} = require('node:child_process');
 const fs = require('node:fs');
 const {applianceFolder, datagramsTo, fromLan, inAppliance, php, traceLog, until, web, withScript} = require('./appliance.cjs');
 const {base, errorOf, messages, open, pages, press, sessionCookie, test} = require('./browser.cjs');
@@ -150,8 +150,9 @@ function withTraceLog(text, code, ...options) {
   const log = `${folder}/HTTPService/lighttpd/logs/php_extension.log`;
   fs.writeFileSync(log, text);
   try {
-    return inAppliance('php', ...options, '-r', `define('APPLIANCE_FOLDER', '${folder}'); require '${web}/shared/page.php';
-      $admin = new Session(); $admin->role = 'admin'; $monitor = new Session(); $monitor->role = 'monitor'; ${code}`);
+    return execFileSync('php', [...options, '-r', `define('APPLIANCE_FOLDER', '${folder}'); require '${web}/shared/page.php';
+      $admin = new Session(); $admin->role = 'admin'; $monitor = new Session(); $monitor->role = 'monitor'; ${code}`],
+    {encoding: 'utf8', maxBuffer: 1e8});
   } finally {
     fs.rmSync(folder, {recursive: true});
   }
@@ -160,16 +161,16 @@ function withTraceLog(text, code, ...options) {
 test('A long trace log is downloaded with 8 MB of memory', {}, async () => {
   const line = 'TRACE[2026-11-22 04:16:09.704 +0000]:Entering get_network_hostname:<>\n';
   const said = withTraceLog(line.repeat(100000), 'print_trace(open_end_of_trace(TRACE_DOWNLOAD_BYTES), $monitor);', '-d', 'memory_limit=8M');
-  assert.equal(said, line.repeat(Math.floor(4194304 / line.length)).trim());
+  assert.ok(said === line.repeat(Math.floor(4194304 / line.length)), `${said.length} characters: ${said.slice(0, 200)}`);
 });
 
 test('A trace log that is cut off, begun anew, goes or grows while it is read ends there, and is no fault', {}, async () => {
   const text = Array.from({length: 1000}, (_, i) => `TRACE[x]:line ${i}:<>\n`).join('');
   for (const [fault, expected] of [
-    ['fclose(fopen(TRACE_LOG, "wb"));', /^(TRACE\[x\]:line \d+:<>\n?)+$/],
-    ['rename(TRACE_LOG, TRACE_LOG . ".1"); file_put_contents(TRACE_LOG, "another\\n");', /line 999:<>$/],
-    ['unlink(TRACE_LOG);', /line 999:<>$/],
-    ['file_put_contents(TRACE_LOG, str_repeat("grown\\n", 100), FILE_APPEND);', /line 999:<>$/]]) {
+    ['fclose(fopen(TRACE_LOG, "wb"));', /^(TRACE\[x\]:line \d+:<>\n)+(TRACE.*)?$/],
+    ['rename(TRACE_LOG, TRACE_LOG . ".1"); file_put_contents(TRACE_LOG, "another\\n");', /line 999:<>\n$/],
+    ['unlink(TRACE_LOG);', /line 999:<>\n$/],
+    ['file_put_contents(TRACE_LOG, str_repeat("grown\\n", 100), FILE_APPEND);', /line 999:<>\n$/]]) {
     const said = withTraceLog(text, `$trace = open_end_of_trace(TRACE_BYTES); echo next_of_trace($trace, $admin); ${fault} print_trace($trace, $admin);`);
     assert.ok(said.startsWith('TRACE[x]:line 0:<>\n'), fault);
     assert.match(said, expected, fault);
@@ -180,10 +181,10 @@ test('A trace log that is cut off, begun anew, goes or grows while it is read en
 test('A line without an end and one of a megabyte are no fault, and show no more than they may', {}, async () => {
   const print = (text, who) => withTraceLog(text, `print_trace(open_end_of_trace(TRACE_DOWNLOAD_BYTES), ${who});`);
   const long = `TRACE[x]:setting community name::<${'s3cret'.repeat(200000)}>\nTRACE[x]:next:<>\nTRACE[x]:SNMP community:<s3cr`;
-  assert.equal(print(long, '$monitor'), 'TRACE[x]:setting community name::<not shown>\nTRACE[x]:next:<>\nTRACE[x]:SNMP community:<not shown>');
-  assert.equal(print(long, '$admin'), long);
+  assert.equal(print(long, '$monitor'), 'TRACE[x]:setting community name::<not shown>\nTRACE[x]:next:<>\nTRACE[x]:SNMP community:<not shown>\n');
+  assert.ok(print(long, '$admin') === long);
   // It begins in the middle of a line that is longer than all that is looked at.
-  assert.equal(print(`${'s3cret'.repeat(1000000)}\nTRACE[x]:next:<>\n`, '$monitor'), 'TRACE[x]:next:<>');
+  assert.equal(print(`${'s3cret'.repeat(1000000)}\nTRACE[x]:next:<>\n`, '$monitor'), 'TRACE[x]:next:<>\n');
   assert.equal(print('', '$admin'), '');
 });
 
