@@ -413,7 +413,9 @@ auditTest('The audit is downloaded as CSV, filtered, and no cell is a formula', 
   const answer = await fetch(`${base()}audit.php?subject=backup`, {headers});
   assert.match(answer.headers.get('content-type'), /^text\/csv/);
   assert.match(answer.headers.get('content-disposition'), /^attachment; filename="audit\.csv"$/);
-  const [head, second, first, ...more] = parsed(await answer.text());
+  const bytes = Buffer.from(await answer.arrayBuffer());
+  assert.equal(bytes.subarray(0, 3).toString('hex'), 'efbbbf', 'the mark of the encoding');
+  const [head, second, first, ...more] = parsed(bytes.subarray(3).toString());
   assert.deepEqual(head, ['Time (UTC)', 'User', 'From', 'Subject', 'What', 'Values', 'Outcome', 'Reason', 'How often', 'Operations']);
   assert.match(first[0], /^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d$/);
   assert.deepEqual(first.slice(1), ['admin', '10.20.0.1', 'Backup', "'=1+1", 'Old -1 → @x', 'done', 'He said "no", twice', '1', '']);
@@ -421,6 +423,28 @@ auditTest('The audit is downloaded as CSV, filtered, and no cell is a formula', 
   assert.deepEqual(more, []);
   const anonymous = await fetch(`${base()}audit.php`);
   assert.match(await anonymous.text(), /action="signin\.php"/);
+});
+
+auditTest('What the audit lacks is said on the page and in the file', {user: 'admin'}, async (page) => {
+  write(`write_audit('admin', '10.20.0.1', 'Set the DNS servers.', 'kept', 'dns');`);
+  const services = 'The audit trail of the management services cannot be read: what they did without a page is missing.';
+  const own = 'What the pages have written down cannot all be read: missing are the sign-ins.';
+  const damaged = 'One line of the audit is damaged and is left out.';
+  fs.rmSync(files.signIns, {force: true});
+  fs.mkdirSync(files.signIns);
+  fs.appendFileSync(files.changes, 'damaged\n');
+  await withScript('auditTrail.sh', 'exit 1', async () => {
+    assert.equal((await rows(page, '&subject=dns')).length, 1);
+    const said = await page.innerText('[aria-labelledby=audit]');
+    const [, ...cells] = parsed(await (await page.request.get(`${base()}audit.php?subject=dns`)).text());
+    assert.deepEqual(cells.map((row) => row[4]), [services, own, damaged, 'Set the DNS servers.']);
+    assert.equal(cells[0][6], 'failed');
+    for (const sentence of [services, own, damaged]) assert.ok(said.includes(sentence), sentence);
+  });
+  fs.rmdirSync(files.signIns);
+  fs.rmSync(files.changes);
+  const [, ...cells] = parsed(await (await page.request.get(`${base()}audit.php?subject=dns`)).text());
+  assert.deepEqual(cells, [], 'what is not there yet lacks nothing');
 });
 
 auditTest('The role monitor reads the audit too', {user: 'monitor'}, async (page) => {

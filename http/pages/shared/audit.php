@@ -20,7 +20,7 @@ define('MORE_VALUES', 'and'); // the label of how many values found no room
 $audit_files = array(
     'changes' => array('file' => AUDIT_FILE, 'lines' => 500),
     'sign-ins' => array('file' => AUDIT_FILE . '.sign-ins', 'lines' => 300),
-    'refused' => array('file' => AUDIT_FILE . '.refused', 'lines' => 600)
+    'refusals' => array('file' => AUDIT_FILE . '.refused', 'lines' => 600)
 );
 
 // What an entry can be about => what people call it.
@@ -118,7 +118,7 @@ function audit_kind($entry)
     // What anybody can have refused as often as they like; what the appliance refuses is among the changes.
     $is_who_may = $entry['subject'] == 'sign-in' || $entry['subject'] == 'account' || $entry['subject'] == 'rights';
     if ($is_who_may && kind_of_result($entry['result']) == 'refused') {
-        return 'refused';
+        return 'refusals';
     }
     return $entry['subject'] == 'sign-in' ? 'sign-ins' : 'changes';
 }
@@ -151,7 +151,7 @@ function store_in_audit($kind, $entry)
     $path = $GLOBALS['audit_files'][$kind]['file'];
     $most = $GLOBALS['audit_files'][$kind]['lines'];
     $lines = audit_lines($kind);
-    $folded = $kind == 'refused' ? line_to_fold($lines, $entry) : -1;
+    $folded = $kind == 'refusals' ? line_to_fold($lines, $entry) : -1;
     if ($folded >= 0) {
         $before = audit_entry($lines[$folded]);
         $entry['count'] += $before['count'];
@@ -231,6 +231,18 @@ function audit_lines($kind)
     }
     fclose($file);
     return array_slice($lines, -$most);
+}
+
+// What is there and cannot be read.
+function unreadable_audits()
+{
+    $names = array();
+    foreach ($GLOBALS['audit_files'] as $name => $about) {
+        if (file_exists($about['file']) && !(is_file($about['file']) && is_readable($about['file']))) {
+            $names[] = 'the ' . $name;
+        }
+    }
+    return $names;
 }
 
 function audit_line($entry)

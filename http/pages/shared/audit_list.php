@@ -9,14 +9,14 @@ $subjects_of_operations = array('setSSLEnabled' => 'ssl', 'setSNMPVersions' => '
     'setReadCommunity' => 'snmp', 'restartSNMP' => 'snmp', 'createTrapRegistration' => 'traps',
     'deleteTrapRegistration' => 'traps');
 
-// All entries, newest first, and how many lines are damaged: array of the two. $services: audit_entries(). What the services say
+// All entries, newest first, and what is missing: array of the two, the second as audit_gaps() has it. $services: audit_entries(). What the services say
 // of a change by a page is under that entry's 'operations'; what nobody of the pages asked for is an entry of its own.
 function whole_audit($services)
 {
     $entries = array();
     $damaged = 0;
     $own = 0;
-    foreach (array('changes', 'sign-ins', 'refused') as $kind) {
+    foreach (array('changes', 'sign-ins', 'refusals') as $kind) {
         foreach (audit_lines($kind) as $line) {
             $entry = audit_entry($line);
             if ($entry) {
@@ -50,7 +50,24 @@ function whole_audit($services)
         $receivers = known_receivers($operation, $receivers);
     }
     usort($entries, 'newer_first');
-    return array($entries, $damaged);
+    return array($entries, audit_gaps($services !== false, $damaged));
+}
+
+// What the list lacks: sentences, each with its kind of message.
+function audit_gaps($has_services, $damaged)
+{
+    $gaps = array();
+    if (!$has_services) {
+        $gaps['The audit trail of the management services cannot be read: what they did without a page is missing.'] = 'bad';
+    }
+    if (unreadable_audits()) {
+        $gaps['What the pages have written down cannot all be read: missing are ' . implode(', ', unreadable_audits()) . '.'] = 'bad';
+    }
+    if ($damaged > 0) {
+        $gaps[$damaged == 1 ? 'One line of the audit is damaged and is left out.'
+            : $damaged . ' lines of the audit are damaged and are left out.'] = 'caution';
+    }
+    return $gaps;
 }
 
 function newer_first($one, $other)
@@ -226,11 +243,15 @@ function users_of($entries)
     return $users;
 }
 
-// The entries as a table for other programs (RFC 4180).
-function audit_as_csv($entries)
+// The entries as a table for other programs (RFC 4180), with a row for each of the $gaps in front. Spreadsheets that guess the
+// encoding know it by the mark at the beginning.
+function audit_as_csv($entries, $gaps)
 {
-    $csv = csv_line(array('Time (UTC)', 'User', 'From', 'Subject', 'What', 'Values', 'Outcome', 'Reason',
+    $csv = "\xef\xbb\xbf" . csv_line(array('Time (UTC)', 'User', 'From', 'Subject', 'What', 'Values', 'Outcome', 'Reason',
         'How often', 'Operations'));
+    foreach ($gaps as $gap => $kind) {
+        $csv .= csv_line(array('', '', '', 'Audit', $gap, '', 'failed', '', '', ''));
+    }
     foreach ($entries as $entry) {
         $operations = array();
         foreach ($entry['operations'] as $operation) {
