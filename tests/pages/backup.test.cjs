@@ -293,9 +293,9 @@ test('A file with something wrong is refused at the field, with its lines, and n
   assert.match(await errorOf(page, 'file'), /^The file was refused: below/);
   assert.match(await messages(page), /^Nothing was changed/);
   assert.deepEqual(await page.locator('.wrong-lines tbody tr').allInnerTexts(),
-    ['7\tThis is neither a section, such as [dns], nor a setting, such as "primary = 10.20.0.1".']);
+    ['6\tEnter an IPv4 or IPv6 address, such as 10.20.0.1 or 2001:db8:20::1.', '7\tThis is neither a section, such as [dns], nor a setting, such as "primary = 10.20.0.1".']);
   assert.equal(audit().at(-1)[3], 'A file of settings was refused.');
-  assert.equal(audit().at(-1)[8], 'refused: line 7');
+  assert.equal(audit().at(-1)[8], 'refused: line 6');
   await choose(page, head + 'x\n'.repeat(30));
   assert.equal(await page.locator('.wrong-lines tbody tr').count(), 10);
   assert.match(await page.innerText('main'), /not listed: 20/);
