@@ -363,7 +363,7 @@ test('A test trap says of each receiver what became of it, all at once', {user: 
 test('A device that keeps no results, or only those of an earlier test, says that the trap was sent', {user: 'admin'}, async (page) => {
   php('create_snmp_trap_reg($session, 1, "10.20.0.77", "162");');
   try {
-    for (const text of ['exit 1', 'printf "time 1\\nudp:10.20.0.77:162 2c sent\\n"', 'printf "\\377 rubbish"']) {
+    for (const text of ['exit 1', 'echo udp:10.20.0.77:162 2c sent', 'printf "time 1\\nudp:10.20.0.77:162 2c sent\\n"', 'printf "\\377 rubbish"']) {
       await withScript('testTrapResults.sh', text, async () => {
         await open(page, 'traps.php');
         await press(page, 'Send a test trap');
