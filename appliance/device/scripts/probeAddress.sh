@@ -3,6 +3,7 @@
 # Prints "answers" or "silent"; ends with 1 and prints nothing where that cannot be told.
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
+behind_the_door "$@"
 
 WAIT=2 # seconds
 

@@ -3,6 +3,7 @@
 # agent answers.
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
+behind_the_door "$@"
 # shellcheck source=SCRIPTDIR/management.sh
 . "$BIN/management.sh"
 # shellcheck source=SCRIPTDIR/snmp.sh

@@ -127,15 +127,29 @@ store_agent_configuration() {
 agent_answers() {
   set -- $STATELESS -t 0.5 -r 4 -Oqv
   if [ "$version3" = 1 ]; then
-    set -- "$@" -v 3 -l authNoPriv -u "$user" -a MD5 -A "$passphrase"
+    set -- "$@" -v 3
   elif [ "$version2" = 1 ]; then
-    set -- "$@" -v 2c -c "$community"
+    set -- "$@" -v 2c
   elif [ "$version1" = 1 ]; then
-    set -- "$@" -v 1 -c "$community"
+    set -- "$@" -v 1
   else
     return 0 # it is to answer nobody
   fi
-  snmpget "$@" "udp:127.0.0.1:${AGENT_ADDRESSES##*:}" "$SYSTEM_UPTIME" >/dev/null 2>&1
+  with_secrets snmpget "$@" "udp:127.0.0.1:${AGENT_ADDRESSES##*:}" "$SYSTEM_UPTIME" >/dev/null 2>&1
+}
+
+# with_secrets PROGRAM ARGUMENT...: with the community and the user in a file that root alone reads, because everybody can
+# read a command line. The programs look for it in a folder.
+with_secrets() {
+  secrets=$(umask 077 && mktemp -d "$RUN/snmp.XXXXXX") || return
+  (umask 077 && {
+    line "defCommunity $(quoted "$community")"
+    [ "${version3-0}" = 0 ] || printf '%s\n' "defSecurityName $user" 'defSecurityLevel authNoPriv' 'defAuthType MD5' \
+      "defAuthPassphrase $passphrase"
+  } >"$secrets/snmp.conf") && SNMPCONFPATH=$secrets "$@"
+  with_secrets=$?
+  rm -rf "$secrets"
+  return "$with_secrets"
 }
 
 gone_in_time() {
@@ -154,8 +168,8 @@ stop_agent() {
 
 # Without SMUX, for which it would listen to TCP as well. The agent must not keep the lock.
 start_agent() {
-  timeout -s KILL "$SECONDS_TO_START" setsid snmpd -I -smux -C -c "$AGENT_CONFIGURATION" -p "$AGENT_PROCESS" \
-    -Lf "$AGENT_LOG" 9>&- </dev/null >/dev/null 2>&1
+  (with_rights ,+net_bind_service timeout -s KILL "$SECONDS_TO_START" setsid snmpd -I -smux -C -c "$AGENT_CONFIGURATION" \
+    -p "$AGENT_PROCESS" -Lf "$AGENT_LOG" 9>&- </dev/null >/dev/null 2>&1)
 }
 
 # For a receiver that became silent just now.
@@ -186,9 +200,10 @@ restart_agent() {
 
 # send_test_trap VERSION COMMUNITY RECEIVER
 send_test_trap() {
+  community=$2
   if [ "$1" = 1 ]; then
-    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 -c "$2" "$3" "${TEST_TRAP%.0.1}" '' 6 1 ''
+    with_secrets timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 "$3" "${TEST_TRAP%.0.1}" '' 6 1 ''
   else
-    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" -c "$2" "$3" '' "$TEST_TRAP"
+    with_secrets timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" "$3" '' "$TEST_TRAP"
   fi || complain "no version $1 trap could be sent to $3"
 }

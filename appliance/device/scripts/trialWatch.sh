@@ -13,5 +13,5 @@ for program in php setsid; do
 done
 # Nothing of the web service stays open: not its connection, not its session.
 # shellcheck disable=SC2016 # the variable is PHP's
-setsid php -r 'require $argv[1]; watch_trial();' "$PAGES/shared/page.php" \
+as_user pages setsid php -r 'require $argv[1]; watch_trial();' "$PAGES/shared/page.php" \
   </dev/null >>"$PAGES/logs/trial.log" 2>&1 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&- &
