@@ -124,7 +124,9 @@ redirect() {
 
 redirect_http() {
   # Not for good: the mode can be switched off again.
-  printf '%s\n' '$HTTP["scheme"] == "http" {' '  url.redirect-code = 307'
+  printf '%s\n' '$HTTP["scheme"] == "http" {' '  url.redirect-code = 307' \
+    '  $HTTP["url"] =~ "(\.php|/)$" {' \
+    '    setenv.add-response-header = ( "Content-Security-Policy" => "default-src '"'none'; frame-ancestors 'none'"'" )' '  }'
   ports=$(sed -n 's/^published //p' "$SOCKETS")
   if [ -n "$ports" ]; then
     redirect "^(.+):${ports%:*}\$" ":${ports#*:}"

@@ -9,13 +9,13 @@
 . "$BIN/snmp.sh"
 
 [ $# = 0 ] || refuse_call 'none' "$@"
-restart_agent # sets receivers, trap1, trap2 and community
+restart_agent # sets receivers, trap1 and trap2
 [ -n "$receivers" ] || exit 0
 [ "$trap1$trap2" != 00 ] || fail 'no version of traps is on: nothing can be sent to the registered receivers'
 unsent=$(
   for receiver in $receivers; do
-    [ "$trap1" = 0 ] || send_test_trap 1 "$community" "$receiver" &
-    [ "$trap2" = 0 ] || send_test_trap 2c "$community" "$receiver" &
+    [ "$trap1" = 0 ] || send_test_trap 1 "$receiver" &
+    [ "$trap2" = 0 ] || send_test_trap 2c "$receiver" &
   done 2>&1
   wait
 )

@@ -5,6 +5,7 @@
 AGENT_STATE=$LIBRARY/CoreService/dat/snmp # what the agent keeps, and its version 3 user
 AGENT_USER=$AGENT_STATE/user              # name and passphrase
 AGENT_CONFIGURATION=$RUN/snmpd.conf
+AGENT_CLIENTS=$RUN/snmp # the settings of the programs that ask the agent, and send traps: everybody can read a command line
 AGENT_PROCESS=$RUN/snmpd.pid
 AGENT_LOG=$RUN/snmpd.log
 AGENT_LOCK=$RUN/snmpd.lock
@@ -16,7 +17,7 @@ fi
 SYSTEM_UPTIME=.1.3.6.1.2.1.1.3.0
 TEST_TRAP=.1.3.6.1.4.1.8072.2.3.0.1 # net-snmp's example notification
 
-export SNMP_PERSISTENT_DIR="$AGENT_STATE" MIBS=
+export SNMP_PERSISTENT_DIR="$AGENT_STATE" SNMPCONFPATH="$AGENT_CLIENTS" MIBS=
 
 # How long the receivers of traps can keep a start waiting: the first three together, less than 5 seconds. The agent
 # connects to them before it has started; afterwards it waits for none.
@@ -119,8 +120,18 @@ agent_configuration() {
   done
 }
 
+client_settings() {
+  line "defCommunity $(quoted "$community")"
+  line "defSecurityName $user"
+  line 'defSecurityLevel authNoPriv'
+  line 'defAuthType MD5'
+  line "defAuthPassphrase $passphrase"
+}
+
+# Both are root's alone.
 store_agent_configuration() {
-  configuration=$(agent_configuration) && (umask 077 && store_file "$AGENT_CONFIGURATION" "$configuration")
+  configuration=$(agent_configuration) && settings=$(client_settings) && (umask 077 && mkdir -p "$AGENT_CLIENTS" &&
+    store_file "$AGENT_CONFIGURATION" "$configuration" && store_file "$AGENT_CLIENTS/snmp.conf" "$settings")
 }
 
 # Waits until it does, 2.5 seconds at most: it listens already. As restart_agent has read the settings.
@@ -135,21 +146,7 @@ agent_answers() {
   else
     return 0 # it is to answer nobody
   fi
-  with_secrets snmpget "$@" "udp:127.0.0.1:${AGENT_ADDRESSES##*:}" "$SYSTEM_UPTIME" >/dev/null 2>&1
-}
-
-# with_secrets PROGRAM ARGUMENT...: with the community and the user in a file that root alone reads, because everybody can
-# read a command line. The programs look for it in a folder.
-with_secrets() {
-  secrets=$(umask 077 && mktemp -d "$RUN/snmp.XXXXXX") || return
-  (umask 077 && {
-    line "defCommunity $(quoted "$community")"
-    [ "${version3-0}" = 0 ] || printf '%s\n' "defSecurityName $user" 'defSecurityLevel authNoPriv' 'defAuthType MD5' \
-      "defAuthPassphrase $passphrase"
-  } >"$secrets/snmp.conf") && SNMPCONFPATH=$secrets "$@"
-  with_secrets=$?
-  rm -rf "$secrets"
-  return "$with_secrets"
+  snmpget "$@" "udp:127.0.0.1:${AGENT_ADDRESSES##*:}" "$SYSTEM_UPTIME" >/dev/null 2>&1
 }
 
 gone_in_time() {
@@ -198,12 +195,11 @@ restart_agent() {
   exec 9>&-
 }
 
-# send_test_trap VERSION COMMUNITY RECEIVER
+# send_test_trap VERSION RECEIVER: with the community that restart_agent has stored for the programs.
 send_test_trap() {
-  community=$2
   if [ "$1" = 1 ]; then
-    with_secrets timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 "$3" "${TEST_TRAP%.0.1}" '' 6 1 ''
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 "$2" "${TEST_TRAP%.0.1}" '' 6 1 ''
   else
-    with_secrets timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" "$3" '' "$TEST_TRAP"
-  fi || complain "no version $1 trap could be sent to $3"
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" "$2" '' "$TEST_TRAP"
+  fi || complain "no version $1 trap could be sent to $2"
 }
