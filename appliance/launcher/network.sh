@@ -6,7 +6,8 @@
 #       that of eth2), to be entered with `nsenter --net=FILE`. Both go with the caller's mount namespace.
 #   network_start_lan FOLDER CONFIGURATION
 #       Starts the LAN's services in the background; they are ready when this returns. Their log is
-#       FOLDER/lan.log.
+#       FOLDER/lan.log. A file put into FOLDER/lan.hosts with a line like those of dnsmasq's dhcp-host is read at
+#       once: HARDWARE-ADDRESS,ignore makes the DHCP server silent to a device, HARDWARE-ADDRESS,ADDRESS gives it another lease.
 #
 # Each returns 1 after one sentence on standard error when the kernel or the program refuses.
 
@@ -41,10 +42,12 @@ _network_open_to_users() {
 
 network_start_lan() {
   local folder=$1 configuration=$2 error
+  mkdir -p "$folder/lan.hosts" || return
   # No change of user or group: in a user namespace there is no other.
   error=$(_network_in lan setpriv --no-new-privs --inh-caps=-all \
-    --bounding-set=-all,+net_admin,+net_raw,+net_bind_service dnsmasq --conf-file="$configuration" --user=root --group= --pid-file= \
-    --dhcp-leasefile="$folder/lan.leases" --log-facility="$folder/lan.log" 2>&1 </dev/null) ||
+    --bounding-set=-all,+net_admin,+net_raw,+net_bind_service dnsmasq --conf-file="$configuration" --user=root --group= \
+    --pid-file= --dhcp-leasefile="$folder/lan.leases" --dhcp-hostsdir="$folder/lan.hosts" \
+    --log-facility="$folder/lan.log" 2>&1 </dev/null) ||
     { echo "The LAN's services did not start: ${error##*$'\n'}" >&2; return 1; }
 }
 

@@ -24,16 +24,17 @@ function base(scheme = 'http') {
   return `${scheme}://${appliance.ipv4Address()}/`;
 }
 
-// A test with a page of its own. What a page reports as a fault of its own fails the test, and a picture of it is
-// kept. options: those of a browser context, and "user" to be signed in as: in a session that other tests use
-// too, so that it must not be ended.
+// A test with a page of its own. What a page, or the interpreter, reports as a fault of the pages fails the test, and a
+// picture of it is kept. options: those of a browser context, and "user" to be signed in as: in a session that other tests use
+// too, so that it must not be ended; and "expected": which lines of the interpreter the test causes itself.
 function test(name, options, work) {
   nodeTest.test(name, async () => {
-    const {user, ...contextOptions} = options;
+    const {user, expected, ...contextOptions} = options;
     const context = await browser.newContext({reducedMotion: 'reduce', ignoreHTTPSErrors: true, ...contextOptions});
     context.setDefaultTimeout(10000);
     const page = await context.newPage();
     const faults = [];
+    const logged = appliance.errorLog().length;
     page.on('pageerror', (error) => faults.push(error.message));
     page.on('console', (message) => {
       if (/Content Security Policy/.test(message.text())) faults.push(message.text());
@@ -41,7 +42,10 @@ function test(name, options, work) {
     try {
       if (user) await resume(page, user);
       await work(page, context);
-      if (faults.length > 0) throw new Error(`The browser reports: ${faults.join('; ')}`);
+      // What the interpreter has to say of the pages is in the web server's log.
+      faults.push(...appliance.errorLog().slice(logged).split('\n').filter((line) => /PHP|htdocs|on line/.test(line)
+        && !expected?.test(line)));
+      if (faults.length > 0) throw new Error(`The browser or the web server reports: ${faults.join('; ')}`);
     } catch (error) {
       fs.mkdirSync(failures, {recursive: true});
       const picture = `${failures}/${name.replace(/[^A-Za-z0-9]+/g, '-')}.png`;

@@ -1,4 +1,4 @@
-// The pictures of doc/pictures, taken anew: tests/pages/run pictures.cjs
+// The pictures of doc/pictures, taken anew: tests/pages/run --pictures
 'use strict';
 
 const fs = require('node:fs');

@@ -3,22 +3,27 @@
 # ends with
 #
 #   run_test_files FOLDER AT_ONCE SECONDS [NAME...]
-#       Runs FOLDER/NAME.test, or all that are in the folder, AT_ONCE of them at the same time, each for at most
-#       SECONDS. Shows what they say, file after file, and ends with "N passed, N failed"; returns 1 when one
-#       failed. What each has said stays in build/tests/logs/SUITE/.
+#       Runs FOLDER/NAME.test, or all that are in the folder, AT_ONCE of them at the same time, the largest first, each
+#       for at most SECONDS. Shows what they say, file after file, and ends with "N passed, N failed"; returns 1 when
+#       one failed. What each has said stays in build/tests/logs/SUITE/.
+#
+# A suite whose files are no executables sets what they are called and what runs them before that.
+TEST_SUFFIX=.test
+TEST_RUNNER=()
 
 run_test_files() {
   local folder=$1 at_once=$2 seconds=$3
   shift 3
   local logs=${folder%/*/*}/build/tests/logs/${folder##*/} file running=0
-  local -a files=("$folder"/*.test)
+  local -a files
+  mapfile -t files < <(ls -S "$folder"/*"$TEST_SUFFIX")
   if [[ $# -gt 0 ]]; then
     files=("${@/#/$folder/}")
-    files=("${files[@]/%/.test}")
+    files=("${files[@]/%/$TEST_SUFFIX}")
   fi
   rm -rf "$logs" && mkdir -p "$logs" || return
   for file in "${files[@]}"; do
-    [[ -x $file ]] || { echo "There is no test $file." >&2 && return 2; }
+    [[ -x $file || (-e $file && ${#TEST_RUNNER[@]} -gt 0) ]] || { echo "There is no test $file." >&2 && return 2; }
     if ((running == at_once)); then
       wait -n
       ((running -= 1))
@@ -32,7 +37,7 @@ run_test_files() {
 
 # It ends with its time, and with this process, however that ends. A job in the background would ignore interrupts.
 run_test_file() {
-  exec env --default-signal=INT,QUIT setpriv --pdeathsig TERM timeout --kill-after=10 "$2" "$1"
+  exec env --default-signal=INT,QUIT setpriv --pdeathsig TERM timeout --kill-after=10 "$2" "${TEST_RUNNER[@]}" "$1"
 }
 
 show_and_count() {

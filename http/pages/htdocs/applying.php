@@ -31,23 +31,30 @@ if ($values['polls'] && family_of_kind($trial['kind']) == 'ipv6') {
     $values['other_origins'][] = origin_of('::', ''); // addresses of IPv6 come while the page is open
 }
 if ($values['polls']) {
-    $values['refresh'] = refresh_of($trial, $ways, $values['key'], $kind);
+    $values['refresh'] = refresh_of($trial, $ways, $kind);
 }
 if (is_settled($trial) && !is_background()) {
     news_of_trial($session); // said here
 }
 show('applying', $values);
 
-// Without scripts nothing but going there shows whether the new address answers; who finds nobody there comes back to this
-// address when the trial is over.
-function refresh_of($trial, $ways, $key, $kind)
+// Without scripts the browser cannot ask who answers under the new address. So it takes no key there: whoever signs in keeps the
+// change. It goes there by itself only when the appliance has seen that nobody else has that address; else the page stays, with
+// the link, until this address must be answering again.
+function refresh_of($trial, $ways, $kind)
 {
-    $here = array('seconds' => 2, 'address' => 'applying.php?background=1');
-    if (!$ways['leaves'] || !$ways['origins'] || $key == '' && $trial['seconds'] > 0) {
-        return $here;
+    if (!$ways['leaves'] || !$ways['origins']) {
+        return array('seconds' => 2, 'address' => 'applying.php?background=1');
     }
-    return array('seconds' => max(2, $kind['usual_seconds'] + 3 - seconds_since($trial)),
-        'address' => $ways['origins'][0] . ($key == '' ? '/applying.php' : '/trial.php?key=' . $key));
+    if ($trial['state'] == 'undoing') {
+        return array('seconds' => $kind['usual_seconds'] + 5, 'address' => $ways['origins'][0] . '/applying.php');
+    }
+    if ($trial['goes_alone']) {
+        return array('seconds' => max(2, $kind['usual_seconds'] + 3 - seconds_since($trial)),
+            'address' => $ways['origins'][0] . '/applying.php');
+    }
+    return array('seconds' => ($trial['seconds'] > 0 ? seconds_left($trial) : 0) + $kind['longest_seconds'],
+        'address' => 'applying.php');
 }
 
 function answer_to_wish($session, $wish, $id)
@@ -58,10 +65,12 @@ function answer_to_wish($session, $wish, $id)
         go_to('applying.php', $by_this ? '' : 'It was too late for keeping the change.');
     }
     if ($trial && $trial['id'] == $id && $wish == 'undo') {
-        undo_trial($trial, 'asked', $session->user, client_of_request());
+        // Who has not seen that it is kept has not asked for undoing what is kept.
+        undo_trial($trial, 'asked', $session->user, client_of_request(), posted('seen') == 'kept');
         $trial = advance_trial();
         go_to('applying.php', $trial['state'] == 'undoing' || $trial['state'] == 'undone' ? ''
-            : 'It was too late for undoing the change.');
+            : ($trial['state'] == 'kept' ? 'The change was kept before it could be undone. It can be undone once more below.'
+            : 'It was too late for undoing the change.'));
     }
     go_to('applying.php', 'This change is no longer the last one; nothing was done.');
 }

@@ -37,11 +37,13 @@ function change_name($session, $old, $new)
     if ($error != '') {
         return array('hostname' => $error);
     }
+    if ($new === $old) {
+        go_to('ipv4.php', UNCHANGED);
+    }
     begin_change();
     set_network_hostname($session, $new);
     if (!change_failed()) {
-        go_to('ipv4.php', $new == $old ? 'The host name was ' . $new . ' already; nothing was changed.'
-            : 'The host name is now ' . $new . '.');
+        go_to('ipv4.php', 'The host name is now ' . $new . '.');
     }
     return array('hostname' => 'The appliance did not take this name.');
 }
@@ -92,6 +94,7 @@ function change_addressing($session, $now, $wanted)
     $to = $wanted->dhcpEnabled === null ? $wanted->ip : '';
     $trial = new_trial($session, 'ipv4', $values, settings_of($session, 'ipv4'), $now->ip, $to, chosen_seconds());
     $trial['others'] = $to == '' ? places_with_dhcp($now->hostname) : array();
+    $trial['goes_alone'] = $to != '' && was_silent($to, $now);
     if ($now->dhcpEnabled && $to != '' && is_host_address($now->ip)) {
         replace_file(EARLIER_LEASE, $now->ip);
     }

@@ -108,6 +108,8 @@ function begin_ipv6($session, $kind, $values, $before)
     $trial = new_trial($session, $kind, $values, $before, $before['static'] ? $before['ip'] : '', $to, $seconds);
     $ipv4 = get_network_configuration_ipv4($session);
     $trial['others'] = is_host_address($ipv4->ip) ? array($ipv4->ip) : array();
+    // Over IPv6 the way leads to the other family's address, which the appliance has already.
+    $trial['goes_alone'] = moved_to($trial) == '';
     $errors = start_change($session, $trial, wanted_ipv6($kind, $before));
     return $errors ? array('static' => $errors[0]) : array();
 }

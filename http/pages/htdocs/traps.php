@@ -1,27 +1,31 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 
 define('TRAP_PORT', '162');
 
 $session = signed_in();
 $typed = array('transport' => '1', 'ip' => '', 'port' => TRAP_PORT);
 $errors = array();
+$meanwhile = array();
 if (is_post()) {
     $change = posted('change');
     if ($change == 'test') {
         test_receivers($session);
     } elseif ($change == 'delete') {
-        delete_receiver($session, posted('id'));
+        $meanwhile = delete_receiver($session, posted('id'));
     } else {
         $typed = array('transport' => posted('transport'), 'ip' => posted('ip'), 'port' => posted('port'));
         $errors = receiver_errors($typed);
-        if (!$errors) {
+        $meanwhile = $errors ? array() : receivers_changed(get_snmp_trap_regs($session));
+        if (!$errors && !$meanwhile) {
             $errors = add_receiver($session, $typed);
         }
     }
 }
-show('traps', array('title' => 'Trap receivers', 'receivers' => get_snmp_trap_regs($session), 'typed' => $typed,
-    'errors' => $errors, 'lead' => 'The systems to which the SNMP agent reports events.'));
+$receivers = get_snmp_trap_regs($session);
+show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
+    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'lead' => 'The systems to which the SNMP agent reports events.'));
 
 function test_receivers($session)
 {
@@ -32,11 +36,44 @@ function test_receivers($session)
     }
 }
 
+// What the list shows of each: its number => text.
+function receivers_shown($receivers)
+{
+    $shown = array();
+    foreach ($receivers as $receiver) {
+        $shown[$receiver->id] = receiver_text($receiver->ip, $receiver->port, $receiver->transport);
+    }
+    return $shown;
+}
+
+function receiver_text($ip, $port, $transport)
+{
+    return short_ipv6($ip) . ', port ' . (int) $port . ', ' . ($transport == 1 ? 'UDP' : ($transport == 2 ? 'TCP'
+        : 'transport ' . $transport));
+}
+
+// What is no longer as the form's list was: rows for meanwhile_message(). A number may be another receiver's by now.
+function receivers_changed($receivers)
+{
+    $now = receivers_shown($receivers);
+    $labels = array();
+    foreach (array_merge(array_keys($now), array_keys(seen_values())) as $id) {
+        $labels[$id] = 'Receiver';
+    }
+    // An empty list is one that was seen, too.
+    return text_of($_POST, 'listed') == '' ? array() : rows_changed($labels, seen_values(), $now);
+}
+
+// Returns what has become of the receiver meanwhile, when it is another one.
 function delete_receiver($session, $id)
 {
     $receiver = find_receiver(get_snmp_trap_regs($session), $id);
     if (!$receiver) {
         go_to('traps.php', 'This receiver is not in the list any more.');
+    }
+    $meanwhile = changed_meanwhile(receivers_shown(array($receiver)), array($receiver->id => 'Receiver'));
+    if ($meanwhile) {
+        return $meanwhile;
     }
     delete_snmp_trap_reg($session, $id);
     if (find_receiver(get_snmp_trap_regs($session), $id)) {
@@ -50,6 +87,9 @@ function delete_receiver($session, $id)
 function add_receiver($session, $typed)
 {
     $before = get_snmp_trap_regs($session);
+    if (in_array(receiver_text($typed['ip'], $typed['port'], $typed['transport']), receivers_shown($before))) {
+        go_to('traps.php', UNCHANGED);
+    }
     begin_change();
     create_snmp_trap_reg($session, (int) $typed['transport'], $typed['ip'], $typed['port']);
     if (!change_failed()) {

@@ -7,9 +7,13 @@ $number = text_of($_GET, 'probe');
 if (preg_match('/^[0-9a-f]{32}$/D', $number)) {
     tell_who_this_is($number);
 }
-$key = text_of($_POST, 'key', text_of($_GET, 'key'));
-if ($key != '') {
-    take_key($key);
+if (text_of($_POST, 'key') != '') {
+    take_key(text_of($_POST, 'key'));
+}
+// In the address only for the other mode of this same address, where it gives no session.
+$current = read_trial();
+if ($current && $current['kind'] == 'ssl' && text_of($_GET, 'key') != '') {
+    take_key(text_of($_GET, 'key'));
 }
 show('trial', array('title' => 'Welcome back'));
 
@@ -20,7 +24,7 @@ function tell_who_this_is($number)
     header('Content-Type: text/plain; charset=utf-8');
     // The page at the old address asks, which is another origin. There is nothing else to be read here.
     header('Access-Control-Allow-Origin: *');
-    echo $trial && is_followed($trial) ? answer_to_probe($trial, $number) : '';
+    echo $trial && is_looked_for($trial) ? answer_to_probe($trial, $number) : '';
     exit;
 }
 

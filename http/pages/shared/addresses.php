@@ -117,7 +117,7 @@ function host_error($text)
     if (!is_address($text)) {
         return 'Enter an IPv4 or IPv6 address, such as 10.20.0.1 or 2001:db8:20::1.';
     }
-    return is_host_address($text) ? ''
+    return is_host_address($text) ? internal_error($text)
         : 'No other device can have this address. Enter one such as 10.20.0.1 or 2001:db8:20::1.';
 }
 
@@ -172,12 +172,20 @@ function internal_network_of($address)
 function internal_errors($field, $address, $gateway)
 {
     foreach (array($field => $address, 'gateway' => $gateway) as $name => $value) {
-        $network = internal_network_of($value);
-        if ($network != '') {
-            return array($name => "The network $network is used inside the appliance. Choose an address of your own network.");
+        $error = internal_error($value);
+        if ($error != '') {
+            return array($name => $error);
         }
     }
     return array();
+}
+
+// The same for one address: a sentence, or ''.
+function internal_error($address)
+{
+    $network = internal_network_of($address);
+    return $network == '' ? ''
+        : "The network $network is used inside the appliance. Choose an address of your own network.";
 }
 
 // What is wrong with a host name, or ''.

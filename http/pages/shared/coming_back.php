@@ -109,16 +109,26 @@ function is_followed($trial)
     return !is_settled($trial) || $trial['why'] == 'no trial' && seconds_since($trial) < 120;
 }
 
+// Whether a page may still ask where the appliance is: also one that was under the new address when that was undone.
+function is_looked_for($trial)
+{
+    return is_followed($trial) || $trial['state'] == 'undone' && time() - $trial['settled'] < 120;
+}
+
 // What this appliance answers to a random number: nobody else knows the record's secret.
 function answer_to_probe($trial, $number)
 {
     return sha1($trial['secret'] . ':' . $number);
 }
 
-// Scheme and address under which the browser finds the appliance after the change, when it is using the address that goes
-// away; else ''.
+// Scheme and address under which the browser finds the appliance after the change, or when it is undone, when it is using
+// the address that goes away; else ''.
 function moved_to($trial)
 {
+    if ($trial['state'] == 'undoing' && $trial['kind'] == 'ipv4') {
+        return is_host_address($trial['from']) && !is_used_address($trial['from'])
+            ? origin_of($trial['from'], port_of_request()) : '';
+    }
     if ($trial['to'] == '' || $trial['from'] == '' || same_value($trial['from'], $trial['to'])) {
         return '';
     }

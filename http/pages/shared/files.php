@@ -14,13 +14,14 @@ function make_private_folders()
 }
 
 // Writes another file and gives it the name when it is complete: whoever reads at any moment gets the old content or the
-// new one. $durable: it is on the disk before it gets the name, where the engine can say so. Returns whether that worked.
+// new one. $durable: it is on the disk before it gets the name, where the engine can say so. Returns whether that worked; that it
+// did not, on a full disk, say, is the caller's to tell, and no fault of the page.
 function replace_file($path, $content, $durable = false)
 {
     $new = $path . '.' . random_hex(4);
     $mask = umask(077);
-    $file = fopen($new, 'wb');
-    $written = $file && fwrite($file, $content) == strlen($content) && fflush($file)
+    $file = @fopen($new, 'wb');
+    $written = $file && @fwrite($file, $content) == strlen($content) && @fflush($file)
         && (!$durable || put_on_disk($file)) && fclose($file);
     umask($mask);
     if ($written && rename($new, $path)) {
@@ -47,7 +48,7 @@ function put_on_disk($file)
 function open_locked($path)
 {
     $mask = umask(077);
-    $file = fopen($path, 'a+b');
+    $file = @fopen($path, 'a+b');
     umask($mask);
     return $file && flock($file, LOCK_EX) ? $file : false;
 }

@@ -28,12 +28,18 @@ function seen_values()
 // What is no longer as the form showed it: rows of 'label', 'then' and 'now'. $labels: name => label.
 function changed_meanwhile($now, $labels)
 {
-    $rows = array();
     $seen = seen_values();
+    return $seen ? rows_changed($labels, $seen, $now) : array();
+}
+
+function rows_changed($labels, $seen, $now)
+{
+    $rows = array();
     foreach ($labels as $name => $label) {
+        $then = isset($seen[$name]) ? $seen[$name] : '';
         $value = isset($now[$name]) ? (string) $now[$name] : '';
-        if ($seen && (isset($seen[$name]) ? $seen[$name] : '') != $value) {
-            $rows[] = array('label' => $label, 'then' => isset($seen[$name]) ? $seen[$name] : '', 'now' => $value);
+        if ($then != $value) {
+            $rows[] = array('label' => $label, 'then' => $then, 'now' => $value);
         }
     }
     return $rows;

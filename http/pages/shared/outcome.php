@@ -119,7 +119,7 @@ function outcome_sentence($trial, $outcome, $rows, $stored_only)
     }
     if ($outcome == 'refused') {
         return 'Refused by the appliance' . ($trial['why'] == '' ? '.' : ': ' . $trial['why'] . '.')
-            . (all_as_wanted($rows) ? '' : ' It has the values that are marked below.');
+            . (all_as_wanted($rows) ? '' : ' It has the values in "Now" below.');
     }
     return undo_sentence($trial, $outcome);
 }
@@ -145,9 +145,13 @@ function reason_of_undo($trial)
     return $trial['why'] == 'start' ? 'the appliance started anew during the trial' : $trial['by'] . ' asked for it';
 }
 
-// The state of one value, as markup.
-function row_state($row, $outcome)
+// The state of one value, as markup. What is undone is the value of before, also where that is what was wanted.
+function row_state($row, $outcome, $undo_failed)
 {
+    if ($outcome == 'undone') {
+        return !$undo_failed ? state('off', 'As before') : ($row['same'] ? state('caution', 'As wanted')
+            : state('off', 'Not as wanted'));
+    }
     if ($row['same']) {
         return state('good', 'As wanted');
     }
@@ -157,8 +161,8 @@ function row_state($row, $outcome)
     if ($outcome == 'kept') {
         return state('caution', 'Changed since');
     }
-    if ($outcome == 'undone' || $outcome == 'undoing') {
-        return state('off', $outcome == 'undone' ? 'As before' : 'Going back');
+    if ($outcome == 'undoing') {
+        return state('off', 'Going back');
     }
     $has_old_value = $outcome == 'refused' && $row['now'] != 'None' && $row['now'] != 'No';
     return state('bad', $has_old_value ? 'Old value' : 'Not as wanted');

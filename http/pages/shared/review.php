@@ -2,17 +2,33 @@
 // What the network can say about an address before it is used: warnings, shown on a step of their own. A device without the
 // tools for it says nothing, and there is no such step.
 
+$said_of_addresses = array(); // what was found out already: address => answer
+
 // 'answers', 'silent', or '' when that cannot be told.
 function probe_address($address)
 {
-    if (!is_address($address)) {
-        return '';
+    if (!isset($GLOBALS['said_of_addresses'][$address])) {
+        $GLOBALS['said_of_addresses'][$address] = is_address($address) ? ask_network($address) : '';
     }
+    return $GLOBALS['said_of_addresses'][$address];
+}
+
+function ask_network($address)
+{
     $status = 1;
     $lines = array();
     exec('/bin/sh ' . APPLIANCE_FOLDER . '/AppManager/bin/probeAddress.sh ' . strtolower($address), $lines, $status);
     $said = $status == 0 && $lines ? $lines[0] : '';
     return $said == 'answers' || $said == 'silent' ? $said : '';
+}
+
+// Whether nobody else has the address, as far as that was asked. Of an address outside of the network of now the appliance cannot
+// tell: a router may know a device that has it.
+function was_silent($address, $now)
+{
+    $old_mask = ipv4_bytes($now->netmask);
+    return isset($GLOBALS['said_of_addresses'][$address]) && $GLOBALS['said_of_addresses'][$address] == 'silent'
+        && $old_mask && same_network(ipv4_bytes($now->ip), ipv4_bytes($address), netmask_length($old_mask));
 }
 
 // Sentences about a wanted address and its gateway. $from: the address of now.

@@ -13,6 +13,7 @@
 
 define('TRIAL_FILE', PRIVATE_FOLDER . '/trial');
 define('TRIAL_LOCK', PRIVATE_FOLDER . '/trial.lock');
+define('TRIAL_ROOM', PRIVATE_FOLDER . '/trial.room'); // room on the disk for the way back
 define('TRIAL_SECONDS', 90); // unless another time is chosen
 define('UNDO_SECONDS', 60); // in which undoing comes to its end; then somebody else tries
 define('UNDO_TRIES', 3);
@@ -23,8 +24,9 @@ function read_trial()
 {
     clearstatcache();
     $text = is_readable(TRIAL_FILE) ? implode('', file(TRIAL_FILE)) : '';
-    $trial = $text == '' ? false : unserialize($text);
-    return isset($trial['id'], $trial['state'], $trial['lines']) ? $trial : false;
+    $trial = $text == '' ? false : @unserialize($text); // one that is damaged is none
+    return is_array($trial) && isset($trial['id'], $trial['state'], $trial['kind'], $trial['lines'], $trial['undo_failed'])
+        && isset($GLOBALS['kinds_of_change'][$trial['kind']]) ? $trial : false;
 }
 
 // Makes $trial the change that is on trial, unless there is one already. Returns whether that worked.
@@ -33,7 +35,7 @@ function begin_trial($trial)
     make_private_folders();
     $lock = open_locked(TRIAL_LOCK);
     $current = read_trial();
-    $begun = $lock && !($current && is_active($current)) && store_trial($trial);
+    $begun = $lock && !($current && is_active($current)) && set_room_aside($trial) && store_trial($trial);
     if ($lock) {
         fclose($lock);
     }
@@ -54,13 +56,15 @@ function new_trial($session, $kind, $values, $before, $from, $to, $seconds)
     $accounts = read_accounts();
     return array('id' => random_hex(8), 'state' => 'applying', 'kind' => $kind, 'values' => $values, 'before' => $before,
         'from' => $from, 'to' => $to, 'trace' => $trace, 'began' => time(), 'seconds' => $seconds,
+        'boot' => boot_id(), 'uptime' => uptime(), // the same beginning, whatever becomes of the clock
         // who asked for it
         'user' => $session->user, 'account' => md5($accounts[$session->user]['hash']),
         'client' => plain_address(text_of($_SERVER, 'REMOTE_ADDR')),
         // hash of the single-use key, what the answer to a random number is made of, that number, and the session that ends
-        // with the keeping; where else the appliance may be found, and what the watcher has to ask for
+        // with the keeping; where else the appliance may be found, whether a browser without scripts is sent there, and what the
+        // watcher has to ask for
         'key' => '', 'secret' => random_hex(16), 'probe' => random_hex(16), 'session' => '', 'others' => array(),
-        'later' => array(),
+        'goes_alone' => false, 'later' => array(),
         // when it came to its end and was settled; why, by whom, from where; what the trace log said; who has been told
         'ended' => 0, 'settled' => 0, 'why' => '', 'by' => '', 'from_client' => '', 'lines' => array(), 'told' => array(),
         'as_wanted' => false,
@@ -83,15 +87,31 @@ function is_settled($trial)
     return $trial['state'] == 'kept' || $trial['state'] == 'refused' || $trial['state'] == 'undone';
 }
 
+// While it is not settled this is no matter of the clock, which may be set anew as soon as a time server is reached.
 function seconds_since($trial)
 {
-    return max(0, time() - $trial['began']);
+    $since_start = uptime() - $trial['uptime'];
+    $is_of_this_run = $trial['boot'] != '' && $trial['boot'] == boot_id() && $trial['uptime'] > 0 && $since_start >= 0;
+    return !is_settled($trial) && $is_of_this_run ? $since_start : max(0, time() - $trial['began']);
+}
+
+// Seconds since the device's start, or 0.
+function uptime()
+{
+    return is_readable('/proc/uptime') ? (int) implode('', file('/proc/uptime')) : 0;
+}
+
+// Which start of the device this is, or ''.
+function boot_id()
+{
+    $file = '/proc/sys/kernel/random/boot_id';
+    return is_readable($file) ? trim(implode('', file($file))) : '';
 }
 
 // Until the settings of before come back.
 function seconds_left($trial)
 {
-    return max(0, min($trial['seconds'], $trial['began'] + $trial['seconds'] - time()));
+    return max(0, $trial['seconds'] - seconds_since($trial));
 }
 
 // Changes the record when it is still this trial, in one of these states, and as it is expected to be (name => value).
@@ -109,6 +129,9 @@ function change_trial($id, $states, $changes, $expected = array())
             $trial[$name] = $value;
         }
         $right = store_trial($trial);
+        if ($right && is_settled($trial)) {
+            free_room();
+        }
     }
     if ($lock) {
         fclose($lock);
@@ -116,10 +139,23 @@ function change_trial($id, $states, $changes, $expected = array())
     return $right ? $trial : false;
 }
 
-// It has to outlive a power cut.
+// It has to outlive a power cut. On a disk that has become full there is the room that was set aside.
 function store_trial($trial)
 {
-    return replace_file(TRIAL_FILE, serialize($trial), true);
+    $text = serialize($trial);
+    return replace_file(TRIAL_FILE, $text, true) || free_room() && replace_file(TRIAL_FILE, $text, true);
+}
+
+// A disk that is full when the settings of before are to be stored again would leave the device where nobody finds it.
+function set_room_aside($trial)
+{
+    return $trial['seconds'] == 0 || replace_file(TRIAL_ROOM, str_repeat('.', 65536), true);
+}
+
+// Returns whether there was any.
+function free_room()
+{
+    return is_file(TRIAL_ROOM) && unlink(TRIAL_ROOM);
 }
 
 // The change has been asked for in vain: nothing is on trial.
@@ -192,11 +228,11 @@ function keep_trial($trial, $why, $by, $client)
     return true;
 }
 
-// Decides that the settings of before come back. $why: 'time', 'asked' or 'start'. What was kept can still be undone by
-// somebody who asks for it. Returns the record.
-function undo_trial($trial, $why, $by, $client)
+// Decides that the settings of before come back. $why: 'time', 'asked' or 'start'. $also_kept: whether what is kept by now is to
+// be undone, too. Returns the record.
+function undo_trial($trial, $why, $by, $client, $also_kept = false)
 {
-    $states = $why == 'asked' ? array('applying', 'trial', 'kept') : array('applying', 'trial');
+    $states = $also_kept ? array('applying', 'trial', 'kept') : array('applying', 'trial');
     $undoing = change_trial($trial['id'], $states, array('state' => 'undoing', 'why' => $why, 'by' => $by,
         'from_client' => $client, 'undo_began' => 0, 'undo_tries' => 0, 'undo_handed' => 0,
         'told' => array()));
@@ -227,6 +263,7 @@ function follow_undo($trial)
     if (!$mine) {
         return read_trial();
     }
+    free_room();
     begin_change();
     if (!put_back(session_of_trial($trial), $trial['kind'], $trial['before'])) {
         end_undo($mine, change_failed(), array());
@@ -294,6 +331,9 @@ function why_undone($trial)
 function undo_at_start()
 {
     $trial = read_trial();
+    if (!$trial) {
+        error_log('The record of the last change cannot be read; if it was on trial, its settings stay.');
+    }
     if ($trial && $trial['seconds'] > 0 && ($trial['state'] == 'applying' || $trial['state'] == 'trial')) {
         $trial = undo_trial($trial, 'start', '', '');
     } elseif ($trial && $trial['state'] == 'undoing') {
@@ -333,8 +373,26 @@ function watch_trial()
     for ($step = 0; $trial && $trial['id'] == $id && !is_settled($trial) && $step < 2 * ($limit + UNDO_SECONDS * UNDO_TRIES);
         $step++) {
         pause(0.5);
+        $known = $trial;
         $trial = advance_trial($step > 2 * $limit);
+        if (!$trial) {
+            $trial = restore_trial($known);
+        }
     }
+}
+
+// A record that has become unreadable during the trial must not end it. Returns the one that is there.
+function restore_trial($known)
+{
+    $lock = open_locked(TRIAL_LOCK);
+    if ($lock && !read_trial()) {
+        error_log('The record of the change on trial was damaged and is written again.');
+        store_trial($known);
+    }
+    if ($lock) {
+        fclose($lock);
+    }
+    return read_trial();
 }
 
 // A change that would cut the connection before the answer is out is asked for here: 'later' holds the settings.

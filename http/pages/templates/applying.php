@@ -3,9 +3,8 @@ $is_over = $outcome == 'refused' || $outcome == 'late';
 $moved_to = $ways['leaves'] && $ways['origins'] ? $ways['origins'][0] : '';
 $waits = $outcome == 'applying' || $outcome == 'trial' || $outcome == 'missing';
 $on_trial = $waits && $trial['seconds'] > 0;
-$new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) || $stored_only ? ''
+$new_address = $trial['to'] == '' || same_value($trial['from'], $trial['to']) || $stored_only || $outcome == 'undoing' ? ''
     : origin_of($trial['to'], '') . '/';
-$path = $key == '' ? '/applying.php' : '/trial.php?key=' . $key;
 ?>
 <section class="card" aria-label="The change"<?php if ($polls) { ?> data-poll="1000" data-parts="outcome steps wishes values way hint"<?php } ?>>
 <div id="outcome" role="status" data-when-answering<?php if (is_settled($trial)) echo ' data-over'; ?>>
@@ -17,10 +16,6 @@ $path = $key == '' ? '/applying.php' : '/trial.php?key=' . $key;
 <?php } else { ?>
   <p>The trace log does not say why. <a href="diagnostics.php">See all of it under Diagnostics</a>.</p>
 <?php } ?>
-<?php } ?>
-<?php if (!$waits && $outcome != 'undoing') { ?>
-  <p class="actions"><a class="button" href="<?php echo h($kind['page']); ?>"><?php
-    echo $is_over ? 'Back, to try again' : 'Back to the settings'; ?></a></p>
 <?php } ?>
 </div>
 <div id="steps">
@@ -42,19 +37,20 @@ $path = $key == '' ? '/applying.php' : '/trial.php?key=' . $key;
 <?php } ?>
 <div role="status">
 <p class="message caution" data-when-lost hidden><?php echo icon('caution'); ?><span>The appliance does not answer at this address
-  at the moment. <?php if ($moved_to != '' && $trial['to'] != '') { ?>If the page does not go on by itself, open
-  <a href="<?php echo h($moved_to . $path); ?>"><?php echo h($moved_to); ?>/</a>.<?php
+  at the moment. <?php if ($moved_to != '' && ($trial['to'] != '' || $outcome == 'undoing')) { ?>If the page does not go on by itself, open
+  <a href="<?php echo h($moved_to); ?>/applying.php"><?php echo h($moved_to); ?>/</a> and sign in there.<?php
   } elseif ($new_address != '') { ?>From the network it is at <a href="<?php echo h($new_address); ?>"><?php
   echo h($new_address); ?></a> when the change is done.<?php
-  } elseif ($trial['kind'] == 'ipv4' && $trial['to'] == '') { ?>It may have another one now: the DHCP server, or the
+  } elseif ($trial['kind'] == 'ipv4' && $trial['to'] == '' && $outcome != 'undoing') { ?>It may have another one now: the DHCP server, or the
   network's router, knows which. Open it there and sign in to keep the change.<?php
   } else { ?>If it does not come back, open it under another of its addresses.<?php } ?><?php
   if ($on_trial) echo ' Leave this page open: it shows when the settings of before are back.'; ?></span></p>
 </div>
 <div id="wishes" data-when-answering>
-<?php echo render('wishes', array('trial' => $trial)); ?>
+<?php echo render('wishes', array('trial' => $trial, 'back' => $waits || $outcome == 'undoing' ? '' : '<a class="button" href="'
+    . h($kind['page']) . '">' . ($is_over ? 'Back, to try again' : 'Back to the settings') . '</a>')); ?>
 </div>
-<div id="values">
+<div id="values" data-when-answering>
 <table class="stacks">
   <thead><tr><th scope="col">Setting</th><th scope="col">Wanted</th><th scope="col">Now</th><th scope="col">State</th></tr></thead>
   <tbody>
@@ -63,7 +59,7 @@ $path = $key == '' ? '/applying.php' : '/trial.php?key=' . $key;
     <th scope="row"><?php echo h($row['label']); ?></th>
     <td data-label="Wanted"><?php echo h($row['wanted']); ?></td>
     <td data-label="Now"><?php echo h($row['now']); ?></td>
-    <td data-label="State"><?php echo row_state($row, $outcome); ?></td>
+    <td data-label="State"><?php echo row_state($row, $outcome, $trial['undo_failed']); ?></td>
   </tr>
 <?php } ?>
   </tbody>
@@ -76,9 +72,12 @@ $path = $key == '' ? '/applying.php' : '/trial.php?key=' . $key;
 <?php if ($moved_to != '' && $waits) { ?>
 <div class="message note" data-when-answering><?php echo icon('note'); ?><div>
   <p>This page loses its connection when the address changes. <?php echo is_https()
-      ? 'Then open the new one yourself, as your browser asks about its certificate:' : 'It goes on by itself to'; ?>
-    <a href="<?php echo h($moved_to . $path); ?>"><?php echo h($moved_to); ?>/</a><?php
-    echo $key == '' ? ', where you sign in again' : ''; ?>.</p>
+      ? 'Then open the new one yourself, as your browser asks about its certificate, and sign in:' : 'It goes on by itself to'; ?>
+    <a href="<?php echo h($moved_to); ?>/applying.php"><?php echo h($moved_to); ?>/</a><?php
+    echo $key == '' && !is_https() ? ', where you sign in again' : ''; ?>.</p>
+  <noscript><p><?php echo $trial['goes_alone'] ? 'Your browser runs no scripts, so you sign in there again.'
+      : 'Your browser runs no scripts, and another device may have that address: open it yourself after some seconds, and sign in'
+      . ' only if these pages answer.'; ?></p></noscript>
 <?php if ($on_trial) { ?>
   <p>If nobody reaches it there, this address answers again when the time is over.</p>
 <?php } ?>

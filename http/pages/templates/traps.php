@@ -1,6 +1,7 @@
 <?php
 $transports = array(1 => 'UDP', 2 => 'TCP');
 $may_change = may_change($GLOBALS['session']);
+if ($meanwhile) echo meanwhile_message($meanwhile);
 ?>
 <section class="card" aria-labelledby="list">
   <h2 id="list">Receivers</h2>
@@ -19,7 +20,8 @@ $may_change = may_change($GLOBALS['session']);
           : 'Number ' . $receiver->transport); ?></td>
 <?php if ($may_change) { ?>
       <td><details class="confirm"><summary>Delete<span class="unseen"> <?php echo h($receiver->ip); ?></span></summary>
-        <form method="post" action="traps.php"><?php echo token_field(); ?>
+        <form method="post" action="traps.php"><?php echo token_field();
+          echo seen_field(array($receiver->id => $seen[$receiver->id])); ?>
           <input type="hidden" name="change" value="delete">
           <input type="hidden" name="id" value="<?php echo h($receiver->id); ?>">
           <p>It will get no more traps.</p>
@@ -44,6 +46,8 @@ $may_change = may_change($GLOBALS['session']);
   <h2 id="add">Add a receiver</h2>
 <?php
 echo form_begin('traps.php', 'add');
+echo seen_field($seen);
+echo '<input type="hidden" name="listed" value="1">';
 echo text_field('ip', 'Address', $typed['ip'], $errors, 'IPv4 or IPv6 address of the management system.');
 echo text_field('port', 'Port', $typed['port'], $errors, '', 'inputmode="numeric" class="short"');
 echo choice_field('transport', 'Transport', array(

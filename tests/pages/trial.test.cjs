@@ -3,62 +3,11 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
-const http = require('node:http');
-const {execFileSync} = require('node:child_process');
-const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, ipv4ChangesOver, php, until, web,
+const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, until, web,
   withScript} = require('./appliance.cjs');
 const {accessibilityFaults, base, enterPassword, errorOf, messages, open, press, served, signIn, test} = require('./browser.cjs');
-
-const record = `${applianceFolder}/HTTPService/dat/trial`;
-
-// A field of the record of the change on trial.
-function trial(field) {
-  const text = fs.existsSync(record) ? fs.readFileSync(record, 'utf8') : '';
-  const found = text.match(new RegExp(`"${field}";(?:s:\\d+:"([^"]*)"|i:(\\d+))`));
-  return found ? found[1] ?? found[2] : '';
-}
-
-function audit() {
-  return fs.readFileSync(`${applianceFolder}/HTTPService/dat/audit`, 'utf8').trim().split('\n').map((line) => line.split('\t').slice(1));
-}
-
-// Lets so many seconds of the trial be over.
-function passes(seconds) {
-  const text = fs.readFileSync(record, 'utf8');
-  const [, began] = text.match(/"began";i:(\d+);/);
-  fs.writeFileSync(`${record}.test`, text.replace(`"began";i:${began};`, `"began";i:${began - seconds};`));
-  fs.renameSync(`${record}.test`, record);
-}
-
-// Until the trial is in this state.
-function reaches(state, seconds = 30) {
-  return until(() => trial('state') === state, `the trial to be ${state}`, seconds);
-}
-
-async function setStatic(ip) {
-  ask('ipv4Manager.sh', '-c', '-s', `${ip}?255.255.255.0?10.20.0.1`);
-  await until(() => ipv4Address() === ip, `the address ${ip}`);
-}
-
-async function fillStatic(page, ip, gateway = '10.20.0.1', seconds = '60') {
-  await open(page, 'ipv4.php');
-  await page.check('#mode-static');
-  await page.fill('#ip', ip);
-  await page.fill('#netmask', '255.255.255.0');
-  await page.fill('#gateway', gateway);
-  await page.selectOption('#trial', seconds);
-}
-
-// Sends the form, past the step at which the appliance warns.
-async function applyIfFree(page) {
-  await press(page, 'Apply');
-  if (await page.innerText('h1') === 'Before it is applied') await press(page, 'Apply');
-}
-
-async function apply(page) {
-  await applyIfFree(page);
-  assert.equal(await page.innerText('h1'), 'Applying');
-}
+const {answersAt, apply, applyDhcp, applyIfFree, audit, fillStatic, isUndone, isUndoneWithTabClosed, keepWhatIs, passes,
+  reaches, record, setStatic, trial, withDhcpServer, withOtherDevice} = require('./on_trial.cjs');
 
 test('A static address in the right network: the page arrives there with its session, and the change is kept', {}, async (page) => {
   await setStatic('10.20.0.7');
@@ -71,11 +20,14 @@ test('A static address in the right network: the page arrives there with its ses
   assert.match(await page.innerText('#outcome'), /^Kept by admin: reached under the new settings\./);
   assert.equal(trial('state'), 'kept');
   assert.deepEqual(addresses('inet'), ['10.20.0.8/24']);
+  await answersAt('10.20.0.8');
   assert.deepEqual(audit().slice(-2).map(([user, client, operation]) => [user, client, operation]),
     [['admin', '10.20.0.1', 'IPv4 settings begun'], ['admin', '10.20.0.1', 'IPv4 settings kept']]);
   await press(page, 'Undo now');
-  await reaches('undone');
-  await until(() => ipv4Address() === '10.20.0.7', 'the address of before');
+  assert.equal(await page.innerText('h1'), 'Undoing');
+  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  await answersAt('10.20.0.7');
 });
 
 test('A static address in a wrong network: the settings of before come back by themselves', {}, async (page) => {
@@ -96,7 +48,7 @@ test('A static address in a wrong network: the settings of before come back by t
   assert.ok(left > 30 && left < 60, `${left} seconds are left`);
   passes(45);
   await reaches('undone', 40);
-  assert.equal(ipv4Address(), '10.20.0.7');
+  await answersAt('10.20.0.7');
   await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
   assert.match(await page.innerText('#outcome'), /^Undone at [\d:]+ UTC, because nobody was back under the new settings within 60 seconds\./);
   assert.equal(audit().at(-1)[2], 'IPv4 settings undone');
@@ -111,9 +63,7 @@ test('The same with the tab closed at once', {}, async (page, context) => {
   await until(() => ipv4Address() === '10.99.0.7', 'the wrong address');
   await reaches('trial');
   php('set_network_hostname($session, "shelf");');
-  passes(55);
-  await reaches('undone', 40);
-  assert.equal(ipv4Address(), '10.20.0.7');
+  await isUndone();
   assert.equal(inAppliance('hostname'), 'shelf', 'a name that was changed meanwhile stays');
   php('set_network_hostname($session, "library");');
 });
@@ -127,27 +77,14 @@ test('The right network and a wrong gateway: said before, and kept, as its maker
   await press(page, 'Apply');
   await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
   assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.66 /);
+  await answersAt('10.20.0.7');
   await setStatic('10.20.0.7');
+  // Nobody is back when the tab is closed.
+  await fillStatic(page, '10.20.0.7', '10.20.0.66');
+  await apply(page);
+  await isUndoneWithTabClosed(page);
+  assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.1 /);
 });
-
-// Another device of the LAN under an address, while the work is done; with a web server when there is an answer.
-async function withOtherDevice(ip, answer, work) {
-  fromLan('ip', 'address', 'add', `${ip}/32`, 'dev', 'lan0');
-  const asked = [];
-  const server = http.createServer((request, response) => {
-    asked.push(request.url);
-    response.setHeader('Access-Control-Allow-Origin', '*');
-    response.end(answer);
-  });
-  try {
-    if (answer) await new Promise((resolve) => server.listen(80, ip, resolve));
-    await work(asked);
-  } finally {
-    server.closeAllConnections();
-    server.close();
-    fromLan('ip', 'address', 'del', `${ip}/32`, 'dev', 'lan0');
-  }
-}
 
 test('An address that another web server has: said before, and it gets neither the visitor nor the key', {}, async (page) => {
   await signIn(page);
@@ -162,89 +99,76 @@ test('An address that another web server has: said before, and it gets neither t
     passes(50);
     await page.waitForSelector('h1:text-is("Undone")', {timeout: 40000});
     assert.ok(asked.every((address) => /^\/trial\.php\?probe=[0-9a-f]{32}$/.test(address)), asked.join(' '));
+    // Nor when the visitor takes the link.
+    const links = await page.locator('main a').evaluateAll((all) => all.map((link) => link.href));
+    assert.deepEqual(links.filter((link) => /key|#[0-9a-f]{32}/.test(link)), []);
   });
-  assert.equal(ipv4Address(), '10.20.0.7');
+  await answersAt('10.20.0.7');
 });
 
-test('An address that another host has, and the tab closed at once', {}, async (page) => {
+test('An address that another host has', {}, async (page) => {
   await signIn(page);
   await withOtherDevice('10.20.0.9', '', async () => {
     await fillStatic(page, '10.20.0.9');
     await apply(page);
-    await page.goto('about:blank');
-    await reaches('trial');
-    passes(55);
-    await reaches('undone', 40);
+    await isUndone();
+    await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
   });
-  assert.equal(ipv4Address(), '10.20.0.7');
 });
-
-async function applyDhcp(page) {
-  await open(page, 'ipv4.php');
-  await page.check('#mode-dhcp');
-  await page.selectOption('#trial', '60');
-  await apply(page);
-}
 
 test('DHCP without a server: the page shows that the settings of before are back', {}, async (page) => {
   await signIn(page);
-  // The client goes on asking, and nothing comes of it.
-  await withScript('dhcpv4Event.sh', 'exit 0', async () => {
+  await withDhcpServer('ignore', async () => {
     await applyDhcp(page);
     await reaches('trial');
     assert.equal(ipv4Address(), undefined);
     await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
     assert.match(await page.innerText('[data-when-lost]'), /Leave this page open: it shows when the settings of before are back/);
-    passes(50);
-    await reaches('undone', 40);
+    await isUndone();
   });
   await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
-  assert.equal(ipv4Address(), '10.20.0.7');
 });
 
-test('Another web server, and DHCP without a server, with the tab closed at once', {}, async (page) => {
+test('Another web server, another host, DHCP without a server and with another lease, with the tab closed at once', {}, async (page) => {
   const closed = async (begin) => {
-    await begin();
-    await page.goto('about:blank');
-    await reaches('trial');
-    passes(55);
-    await reaches('undone', 40);
-    assert.equal(ipv4Address(), '10.20.0.7');
     await page.context().clearCookies();
     await signIn(page);
+    await begin();
+    await isUndoneWithTabClosed(page);
   };
-  await signIn(page);
-  await withOtherDevice('10.20.0.9', 'Here is somebody else.', () => closed(async () => {
+  const begin = () => closed(async () => {
     await fillStatic(page, '10.20.0.9');
     await apply(page);
+  });
+  await withOtherDevice('10.20.0.9', 'Here is somebody else.', begin);
+  await withOtherDevice('10.20.0.9', '', begin);
+  await withDhcpServer('ignore', () => closed(() => applyDhcp(page)));
+  await withDhcpServer('10.20.0.141', () => closed(async () => {
+    await applyDhcp(page);
+    await until(() => ipv4Address() === '10.20.0.141', 'the other lease');
   }));
-  await withScript('dhcpv4Event.sh', 'exit 0', () => closed(() => applyDhcp(page)));
 });
 
-test('DHCP with a lease that nobody can guess: undone with the tab closed, kept by whoever signs in there', {}, async (page) => {
-  const earlier = `${applianceFolder}/HTTPService/dat/lease`;
-  const lease = () => until(() => ask('ipv4Manager.sh', '-d', 'status').match(/^(10\.20\.0\.1\d\d)\?/), 'a lease', 30);
+test('DHCP with another lease than the page can know: kept by whoever signs in there', {}, async (page) => {
+  ask('ipv4Manager.sh', '-c', '-d', 'on');
+  const [earlier] = await until(() => /^10\.20\.0\.1[0-3]\d$/.test(ipv4Address()) && [ipv4Address()], 'a lease');
   await signIn(page);
-  fs.writeFileSync(earlier, '10.20.0.99');
-  await applyDhcp(page);
-  await page.goto('about:blank');
-  await lease();
-  await reaches('trial');
-  passes(55);
-  await reaches('undone', 40);
-  assert.equal(ipv4Address(), '10.20.0.7');
-
-  await page.context().clearCookies();
-  await signIn(page);
-  await applyDhcp(page);
-  const [, ip] = await lease();
-  await reaches('trial');
-  await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
-  await page.context().clearCookies();
-  await page.goto(`http://${ip}/index.php`);
-  await enterPassword(page);
-  assert.match(await messages(page), /^IPv4 settings: Kept by admin: reached under the new settings\./);
-  assert.equal(trial('state'), 'kept');
+  await fillStatic(page, '10.20.0.7');
+  await apply(page);
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  await withDhcpServer('10.20.0.142', async () => {
+    await applyDhcp(page);
+    assert.ok((await page.getAttribute('[data-origins]', 'data-origins')).includes(`http://${earlier}`), 'it looks at the earlier one');
+    await until(() => ipv4Address() === '10.20.0.142', 'the other lease');
+    await reaches('trial');
+    await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+    await page.context().clearCookies();
+    await page.goto('http://10.20.0.142/index.php');
+    await enterPassword(page);
+    assert.match(await messages(page), /^IPv4 settings: Kept by admin: reached under the new settings\./);
+    assert.equal(trial('state'), 'kept');
+    await answersAt('10.20.0.142');
+  });
   await setStatic('10.20.0.7');
 });
 
@@ -263,6 +187,7 @@ test('One trial at a time, and two administrators: the other one is offered to k
   assert.equal(await other.inputValue('#ip'), '10.20.0.9', 'nothing typed is lost');
   await press(other, 'Undo now');
   await reaches('undone');
+  await answersAt('10.20.0.7');
   await open(other, 'applying.php');
   assert.match(await other.innerText('#outcome'), /^Undone at [\d:]+ UTC, because admin asked for it\./);
   assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.1 /);
@@ -328,12 +253,6 @@ test('An unchanged form changes nothing and says so', {}, async (page) => {
   assert.doesNotMatch(trace, /ntering set_/);
 });
 
-// Nothing is on trial any longer.
-async function keepWhatIs() {
-  if (trial('state') === 'trial' || trial('state') === 'applying') passes(400);
-  await until(() => ['', 'kept', 'undone', 'refused'].includes(trial('state')), 'the end of the trial', 40);
-}
-
 test('Keeping, and the end of the time, at the same instant: exactly one wins, 50 times', {}, async () => {
   await keepWhatIs();
   const code = 'require "/home/embedded/library/HTTPService/lighttpd/shared/page.php";';
@@ -370,9 +289,7 @@ test('The web server starts anew during a trial, and the watcher is killed: the 
   process.kill(Number(fs.readFileSync('/run/appmanager/web/lighttpd.pid', 'utf8')), 'SIGUSR1');
   await reaches('trial');
   assert.equal(ipv4Address(), '10.20.0.8');
-  passes(55);
-  await reaches('undone', 40);
-  assert.equal(ipv4Address(), '10.20.0.7');
+  await isUndone();
 
   await served('http');
   await page.context().clearCookies();
@@ -381,7 +298,10 @@ test('The web server starts anew during a trial, and the watcher is killed: the 
   await press(page, 'Apply');
   await page.goto('about:blank');
   await reaches('trial');
-  for (const watcher of fromLan('pgrep', '-f', '^php -r .*watch_trial').split('\n')) process.kill(Number(watcher), 'SIGKILL');
+  // Of the watcher the outer one first, which would start the inner one again.
+  for (const inside of ['^sh -c ', '^php -r ']) {
+    for (const watcher of fromLan('pgrep', '-f', `${inside}.*watch_trial`).split('\n')) process.kill(Number(watcher), 'SIGKILL');
+  }
   passes(65);
   assert.equal(trial('state'), 'trial', 'nobody is there to undo it');
   await fetch('http://10.20.0.8/index.php');
@@ -389,7 +309,7 @@ test('The web server starts anew during a trial, and the watcher is killed: the 
     await fetch('http://10.20.0.7/index.php', {signal: AbortSignal.timeout(500)}).catch(() => {});
     return trial('state') === 'undone';
   }, 'the undoing by a request', 40);
-  assert.equal(ipv4Address(), '10.20.0.7');
+  await answersAt('10.20.0.7');
 });
 
 test('IPv6 is switched on by a visitor over IPv4: proved over IPv6, and kept', {}, async (page) => {
@@ -481,15 +401,55 @@ test('Under HTTPS the session moves along to another address, too', {}, async (p
   await setStatic('10.20.0.7');
 });
 
-test('Without scripts the session moves along as well', {javaScriptEnabled: false}, async (page) => {
+test('Without scripts the page goes to a free address by itself, without the key; who signs in there keeps the change',
+  {javaScriptEnabled: false}, async (page) => {
+    await signIn(page);
+    await fillStatic(page, '10.20.0.8');
+    await press(page, 'Apply');
+    assert.match(await page.innerText('main'), /Your browser runs no scripts, so you sign in there again/);
+    await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+    await reaches('trial');
+    await enterPassword(page);
+    assert.equal(await page.innerText('h1'), 'Kept');
+    assert.equal(trial('state'), 'kept');
+    await answersAt('10.20.0.8');
+    await press(page, 'Undo now');
+    await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+    assert.equal(await page.innerText('h1'), 'Undone');
+    await answersAt('10.20.0.7');
+  });
+
+test('Without scripts another web server under the new address gets neither the visitor nor the key', {javaScriptEnabled: false}, async (page) => {
   await signIn(page);
-  await fillStatic(page, '10.20.0.8');
-  await press(page, 'Apply');
-  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
-  assert.equal(await page.innerText('h1'), 'Kept');
-  await press(page, 'Undo now');
-  await reaches('undone');
-  await until(() => ipv4Address() === '10.20.0.7', 'the address of before');
+  await withOtherDevice('10.20.0.9', 'Here is somebody else.', async (asked) => {
+    await fillStatic(page, '10.20.0.9');
+    await apply(page);
+    assert.match(await page.innerText('main'), /another device may have that address: open it yourself/);
+    assert.doesNotMatch(await page.content(), /trial\.php\?key/);
+    await until(() => ipv4Address() === '10.20.0.9', 'the new address');
+    await reaches('trial');
+    // Longer than a free address would be waited for.
+    await page.waitForTimeout(8000);
+    assert.equal(page.url(), 'http://10.20.0.7/applying.php');
+    await page.click('.message.note a');
+    assert.match(await page.innerText('body'), /Here is somebody else/);
+    assert.deepEqual(asked.filter((address) => address !== '/favicon.ico'), ['/applying.php'], 'what the visitor asked for, and no key');
+    await isUndone();
+  });
+  await page.goto('http://10.20.0.7/applying.php');
+  assert.equal(await page.innerText('h1'), 'Undone');
+});
+
+test('Without scripts a page that cannot go on comes back to itself when the time is over', {javaScriptEnabled: false}, async (page) => {
+  await signIn(page);
+  await fillStatic(page, '10.99.0.7', '10.99.0.1');
+  await apply(page);
+  const refresh = (await page.content()).match(/http-equiv="refresh" content="(\d+); url=applying\.php"/);
+  // When the time is over, and what undoing takes.
+  assert.ok(refresh && refresh[1] > 60 && refresh[1] < 120, String(refresh));
+  await isUndone();
+  await open(page, 'applying.php');
+  assert.equal(await page.innerText('h1'), 'Undone');
 });
 
 test('The key is good for one use, for the right address, and for nobody who guesses', {}, async (page) => {
@@ -509,6 +469,8 @@ test('The key is good for one use, for the right address, and for nobody who gue
   await page.goto('about:blank');
   await reaches('trial');
   assert.equal(await use('10.20.0.8', '0'.repeat(32)), false);
+  await fetch(`http://10.20.0.8/trial.php?key=${key}`);
+  assert.equal(trial('state'), 'trial', 'in an address it is good for nothing');
   assert.equal(await use('10.20.0.8', key), true);
   assert.equal(trial('state'), 'kept');
   assert.equal(await use('10.20.0.8', key), false);

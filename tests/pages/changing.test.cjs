@@ -3,8 +3,21 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
-const {addresses, ask, datagramsTo, fromLan, inAppliance, ipv4Address, php, traceLog, until, withScript} = require('./appliance.cjs');
+const {addresses, ask, datagramsTo, fromLan, inAppliance, ipv4Address, php, traceLog, until, web, withScript} = require('./appliance.cjs');
 const {beside, errorOf, messages, open, press, signIn, test} = require('./browser.cjs');
+
+// The pages as on a device that has no list of the networks within it: there the appliance alone knows what it refuses.
+async function withoutList(work) {
+  const rules = `${web}/shared/addresses.php`;
+  const others = '/run/addresses.without.list';
+  fs.writeFileSync(others, fs.readFileSync(rules, 'utf8').replace('/etc/internal_networks\'', '/etc/none\''), {mode: 0o644});
+  fromLan('mount', '--bind', others, rules);
+  try {
+    await work();
+  } finally {
+    fromLan('umount', rules);
+  }
+}
 
 // Fills in a form, sends it, and sees each field keep what was typed, with the sentence beside it.
 async function refused(page, button, within, cases) {
@@ -29,8 +42,10 @@ test('The host name', {user: 'admin'}, async (page) => {
   assert.equal(await messages(page), 'The host name is now archive-3.example.');
   assert.equal(inAppliance('hostname'), 'archive-3.example');
   assert.match(await page.title(), /archive-3\.example$/);
+  const asked = traceLog().length;
   await press(page, 'Save name');
   assert.match(await messages(page), /already; nothing was changed/);
+  assert.doesNotMatch(traceLog().slice(asked), /set_network_hostname/, 'the appliance was not asked');
   await page.fill('#hostname', 'library');
   await press(page, 'Save name');
   assert.equal(inAppliance('hostname'), 'library');
@@ -114,16 +129,22 @@ test('DNS servers that cannot be', {user: 'admin'}, async (page) => {
     [{dnsPrimary: '10.20.0.1" x', dnsSecondary: ''}, {dnsPrimary: /IPv4 or IPv6 address/}],
     [{dnsPrimary: '127.0.0.1', dnsSecondary: '::1'}, {dnsPrimary: /No other device/, dnsSecondary: /No other device/}],
   ]);
-  await page.fill('#dnsPrimary', '192.168.250.5');
-  await page.fill('#dnsSecondary', '');
-  await press(page, 'Save');
-  assert.match(await messages(page), /Failed to set DNS addresses\.\n+The address belongs to the network inside the appliance[^]*Code 0x00050040/);
-  assert.equal(await page.inputValue('#dnsPrimary'), '192.168.250.5');
-  assert.equal(await errorOf(page, 'dnsPrimary'), 'This address is used inside the appliance. Enter a server of your own network.');
-  await page.fill('#dnsPrimary', '10.20.0.1');
-  await page.fill('#dnsSecondary', '192.168.250.5');
-  await press(page, 'Save');
-  for (const field of ['dnsPrimary', 'dnsSecondary']) assert.match(await errorOf(page, field), /^This address or the other one/);
+  await refused(page, 'Save', 'main', [
+    [{dnsPrimary: '192.168.250.5', dnsSecondary: ''}, {dnsPrimary: /^The network 192\.168\.250\.0\/24 is used inside the appliance/}],
+    [{dnsPrimary: '10.20.0.1', dnsSecondary: 'fd00:250::5'}, {dnsSecondary: /^The network fd00:250::\/64 is used inside the appliance/}],
+  ]);
+  await withoutList(async () => {
+    await page.fill('#dnsPrimary', '192.168.250.5');
+    await page.fill('#dnsSecondary', '');
+    await press(page, 'Save');
+    assert.match(await messages(page), /Failed to set DNS addresses\.\n+The address belongs to the network inside the appliance[^]*Code 0x00050040/);
+    assert.equal(await page.inputValue('#dnsPrimary'), '192.168.250.5');
+    assert.equal(await errorOf(page, 'dnsPrimary'), 'This address is used inside the appliance. Enter a server of your own network.');
+    await page.fill('#dnsPrimary', '10.20.0.1');
+    await page.fill('#dnsSecondary', '192.168.250.5');
+    await press(page, 'Save');
+    for (const field of ['dnsPrimary', 'dnsSecondary']) assert.match(await errorOf(page, field), /^This address or the other one/);
+  });
   assert.equal(ask('ipv6Manager.sh', '-g', 'dns'), 'disabled');
 });
 
@@ -339,6 +360,35 @@ test('A receiver that somebody else has deleted meanwhile', {user: 'admin'}, asy
   assert.equal(await messages(page), 'This receiver is not in the list any more.');
 });
 
+test('A list of receivers that somebody else has changed meanwhile is shown before one is added', {user: 'admin'}, async (page) => {
+  const clear = 'foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);';
+  await open(page, 'traps.php');
+  php('create_snmp_trap_reg($session, 2, "10.20.0.9", "162");');
+  await page.fill('#ip', '10.20.0.8');
+  await press(page, 'Add');
+  assert.match(await page.innerText('main'), /Receiver: none when you opened it, 10\.20\.0\.9, port 162, TCP now/);
+  assert.equal(receivers().length, 1, 'none was added');
+  assert.equal(await page.inputValue('#ip'), '10.20.0.8', 'nothing typed is lost');
+  php(clear);
+  await press(page, 'Add');
+  assert.match(await page.innerText('main'), /Receiver: 10\.20\.0\.9, port 162, TCP when you opened it, none now/);
+  await press(page, 'Add');
+  assert.equal(await messages(page), 'The receiver 10.20.0.8 is added.');
+  await page.fill('#ip', '10.20.0.8');
+  await press(page, 'Add');
+  assert.equal(await messages(page), 'These are the settings already; nothing was changed.');
+  assert.deepEqual(receivers().map(({ip}) => ip), ['10.20.0.8']);
+
+  // Under the number that the form has there is another receiver.
+  await page.evaluate(() => { document.querySelector('details [name=seen]').value = document.querySelector('details [name=id]').value
+    + '=10.20.0.7%2C+port+162%2C+UDP'; });
+  await page.click('summary:has-text("10.20.0.8")');
+  await press(page, 'Delete 10.20.0.8');
+  assert.match(await page.innerText('main'), /Receiver: 10\.20\.0\.7, port 162, UDP when you opened it, 10\.20\.0\.8, port 162, UDP now/);
+  assert.equal(receivers().length, 1);
+  php(clear);
+});
+
 test('Trap receivers that cannot be', {user: 'admin'}, async (page) => {
   await open(page, 'traps.php');
   await refused(page, 'Add', 'main', [
@@ -350,11 +400,13 @@ test('Trap receivers that cannot be', {user: 'admin'}, async (page) => {
     [{ip: '10.20.0.1', port: '65536'}, {port: /1 to 65535/}],
     [{ip: '10.20.0.1', port: '-1'}, {port: /1 to 65535/}],
   ]);
-  await page.fill('#ip', '192.168.250.9');
-  await page.fill('#port', '162');
-  await press(page, 'Add');
-  assert.match(await messages(page), /Internal Address Conflict\n[^]*Code 0x00050040/);
-  assert.match(await errorOf(page, 'ip'), /used inside the appliance/);
+  await refused(page, 'Add', 'main', [[{ip: '192.168.250.9', port: '162'},
+    {ip: /^The network 192\.168\.250\.0\/24 is used inside the appliance/}]]);
+  await withoutList(async () => {
+    await press(page, 'Add');
+    assert.match(await messages(page), /Internal Address Conflict\n[^]*Code 0x00050040/);
+    assert.match(await errorOf(page, 'ip'), /used inside the appliance/);
+  });
   assert.deepEqual(receivers(), [], 'what the module adds after its report is taken back');
 });
 
@@ -424,7 +476,7 @@ test('The audit trail names who changed the agent, whoever was served before', {
   await press(page, 'Save');
 });
 
-// trial.cjs has what happens with one.
+// trial.test.cjs has what happens with one.
 async function saveWithoutTrial(page, section, field) {
   await page.selectOption(field, '0');
   await press(page, 'Save', `[aria-labelledby=${section}]`);
