@@ -20,8 +20,10 @@ USERS=$APP_RUN/users # that the device scripts know
 rights_add_users() {
   local root=$1 id
   for id in "$WEB_ID" "$PAGES_ID"; do
-    ! getent passwd "$id" >/dev/null && ! getent group "$id" >/dev/null ||
-      { echo "the number $id is that of another user or group of this machine" && return 1; }
+    if getent passwd "$id" || getent group "$id"; then
+      echo "the number $id is that of another user or group of this machine"
+      return 1
+    fi >&2
   done
   _rights_of_the_system /etc/passwd >"$root/etc/passwd.new" && _rights_of_the_system /etc/group >"$root/etc/group.new" || return
   printf '%s\n' "$WEB_USER:x:$WEB_ID:$WEB_ID::/nonexistent:/usr/sbin/nologin" \

@@ -1,4 +1,6 @@
 #!/bin/sh
+# shellcheck disable=SC2317 # functions that signals call
+# shellcheck disable=SC3045 # every shell that a Debian system has as /bin/sh sets the number of open files
 # The web server as a service, in the foreground: webServer.sh CONFIGURATION
 #
 #   USR1   has it start anew by itself, with every socket that it listens on
@@ -51,7 +53,7 @@ while :; do
     wait "$server"
     status=$?
   done
-  [ -z "$ending" ] && [ "$tries" -gt 0 ] || break
+  if [ -n "$ending" ] || [ "$tries" -le 0 ]; then break; fi
   tries=$((tries - 1))
   sleep 0.05
   start_server
