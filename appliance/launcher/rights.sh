@@ -67,8 +67,8 @@ _rights_folder() { mkdir -p "$4" && chown -h "$2:$3" "$4" && chmod "$1" "$4"; }
 # A file is there for whoever may write to it, but not make it. Its folder is root's alone.
 _rights_new_file() { [[ -e $1 ]] || : >>"$1"; }
 
-# _rights_file MODE USER FILE: where there is one. No link is followed.
+# _rights_file MODE USER FILE: where there is one, or whatever else lies in its place. No link is followed.
 _rights_file() {
-  [[ -f $3 && ! -L $3 ]] || return 0
-  chown -h "$2:$2" "$3" && chmod "$1" "$3"
+  [[ -e $3 || -L $3 ]] || return 0
+  chown -h "$2:$2" "$3" && if [[ -f $3 && ! -L $3 ]]; then chmod "$1" "$3"; fi
 }
