@@ -1,12 +1,14 @@
 #!/bin/sh
-# What has to be done from time to time while the device runs, in the foreground: begins logs anew that have grown, and has
-# a certificate made that is about to end.
+# What has to be done from time to time while the device runs, in the foreground: begins logs anew that have grown, has the
+# web server take up another name of the appliance, and a certificate made that is about to end.
 #
 #   housekeeping.sh          every minute, and for the certificate every hour
 #   housekeeping.sh once     now, and ends
 # shellcheck disable=SC2154 # variables are set by the functions that read into them
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
+# shellcheck source=SCRIPTDIR/web_server.sh
+. "$BIN/web_server.sh"
 
 LOGS=$LIBRARY/HTTPService/lighttpd/logs
 TRACE=$LOGS/php_extension.log
@@ -60,6 +62,7 @@ case $#$* in
   trap '[ -z "$sleeping" ] || kill "$sleeping"; exit 0' TERM
   while :; do
     look_after_logs
+    take_up_names
     [ $((minutes % MINUTES_BETWEEN_LOOKS)) != 0 ] || renew_certificate
     minutes=$((minutes + 1))
     sleep 60 &
@@ -69,6 +72,7 @@ case $#$* in
   ;;
 1once)
   look_after_logs
+  take_up_names
   renew_certificate
   ;;
 *) refuse_call 'none, "once"' "$@" ;;

@@ -45,6 +45,7 @@ configuration=$1 ending='' leaving='' tries=0 status=1
 trap 'tries=$TRIES; kill -USR1 "$server"' USR1
 trap '[ -n "$ending" ] || replace_server' HUP
 trap 'ending=yes; kill -TERM "$server" $leaving $(answering) 2>/dev/null' TERM
+: >"$RUN/webServer.names" # as web_server.sh has it
 start_server
 (umask 022 && echo $$ >"$PROCESS")
 while :; do

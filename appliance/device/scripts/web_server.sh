@@ -6,6 +6,7 @@ CONFIGURATION=$LIBRARY/HTTPService/lighttpd/conf
 NAMES=$CONFIGURATION/names.conf
 FURTHER_NAMES=$CONFIGURATION/names # that the appliance is reached by, a line each; made by hand where there are any
 WEB_SERVER_PROCESS=$RUN/webServer.pid
+NAMES_TAKEN=$RUN/webServer.names # as old as the names that the web server has taken up last
 
 # Prints the expression of the names that a request may be for: the appliance's, also within a domain, and further ones.
 own_names() {
@@ -18,6 +19,11 @@ own_names() {
     *) printf '|%s' "$(as_expression "$name")" ;;
     esac
   done <"$FURTHER_NAMES"
+}
+
+# What was stored since the web server started.
+take_up_names() {
+  if [ -s "$WEB_SERVER_PROCESS" ] && [ "$NAMES" -nt "$NAMES_TAKEN" ]; then restart_web_server; fi
 }
 
 as_expression() {
@@ -36,5 +42,6 @@ store_names() {
 restart_web_server() {
   [ -s "$WEB_SERVER_PROCESS" ] || return 0
   read -r process <"$WEB_SERVER_PROCESS"
+  : >"$NAMES_TAKEN"
   kill -s "${1:-USR1}" "$process" 2>/dev/null || complain "the web server is not running"
 }
