@@ -7,7 +7,7 @@ const fs = require('node:fs');
 const http = require('node:http');
 const {addresses, applianceFolder, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until,
   withScript} = require('./appliance.cjs');
-const {base, enterPassword, messages, open, press, signIn, test} = require('./browser.cjs');
+const {base, enterPassword, messages, open, press, sessionCookie, signIn, test} = require('./browser.cjs');
 
 async function fillStatic(page, ip, gateway = '10.20.0.1') {
   await open(page, 'ipv4.php');
@@ -155,14 +155,14 @@ test('The page goes to the new address also when the old one answers for some ti
 
 test('Under a name the page offers the new address, unless another machine publishes it', {user: 'admin'}, async (page, context) => {
   await fillStatic(page, '10.20.0.9');
-  const [{name, value}] = await context.cookies();
+  const {name, value} = await sessionCookie(context);
   await withScript('ipv4Manager.sh', 'case "$*" in "-c -s "*) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
     await apply(page);
     const offered = (host) => new Promise((resolve) => {
       http.get(`${base()}applying.php`, {headers: {cookie: `${name}=${value}`, host}}, (answer) => {
         let body = '';
         answer.on('data', (data) => { body += data; });
-        answer.on('end', () => resolve((body.match(/data-origins="([^"]*)"/) || ['', ''])[1]));
+        answer.on('end', () => resolve((body.match(/data-origin="([^"]*)"/) || ['', ''])[1]));
       });
     });
     assert.equal(await offered('library.example'), 'http://10.20.0.9');

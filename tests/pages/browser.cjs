@@ -12,7 +12,7 @@ const flags = ['--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', 
   '--disable-background-networking', '--disable-component-update', '--disable-sync'];
 const axe = fs.readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 const pages = ['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php', 'traps.php',
-  'diagnostics.php'];
+  'diagnostics.php', 'account.php'];
 
 let browser;
 nodeTest.before(async () => {
@@ -32,6 +32,8 @@ function test(name, options, work) {
     const {user, expected, ...contextOptions} = options;
     const context = await browser.newContext({reducedMotion: 'reduce', ignoreHTTPSErrors: true, ...contextOptions});
     context.setDefaultTimeout(10000);
+    // A form with changes asks before it is left.
+    context.on('dialog', (dialog) => dialog.accept());
     const page = await context.newPage();
     const faults = [];
     const logged = appliance.errorLog().length;
@@ -68,6 +70,11 @@ async function resume(page, user) {
   }
   await page.context().addCookies(cookies.get(who));
   await page.goto(base());
+  // Tests of sessions end those of others, too.
+  if (await page.locator('form[action="signin.php"]').count() > 0) {
+    await enterPassword(page, user);
+    cookies.set(who, await page.context().cookies());
+  }
 }
 
 async function signIn(page, user = 'admin', next = 'index.php', scheme = 'http') {
@@ -80,6 +87,18 @@ async function enterPassword(page, user = 'admin') {
   await page.fill('#password', appliance.accounts.get(user));
   await press(page, 'Sign in');
   await page.waitForSelector('.layout');
+}
+
+// Of the pages' cookies the one that says which session it is.
+async function sessionCookie(context) {
+  const found = (await context.cookies()).filter(({name}) => /^(__Host-)?settings$/.test(name));
+  if (found.length !== 1) throw new Error(`${found.length} cookies of a session`);
+  return found[0];
+}
+
+// The read community is seen on a click.
+async function showCommunity(page) {
+  if (!await page.isVisible('#community_name')) await page.click('summary:has-text("Read community")');
 }
 
 // Whether the page asks to sign in, and what it says about that.
@@ -99,7 +118,9 @@ async function press(page, label, within = 'body') {
   await navigated;
 }
 
-function messages(page) {
+// With what is folded in them.
+async function messages(page) {
+  await page.evaluate(() => document.querySelectorAll('#messages .details').forEach((details) => { details.open = true; }));
   return page.innerText('#messages');
 }
 
@@ -158,4 +179,4 @@ async function accessibilityFaults(page) {
 }
 
 module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, enterPassword, errorOf, messages, open, pages, press, served,
-  signIn, test};
+  sessionCookie, showCommunity, signIn, test};

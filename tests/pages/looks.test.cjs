@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {applianceFolder, ipv4Address, php, withScript} = require('./appliance.cjs');
-const {accessibilityFaults, asksToSignIn, base, enterPassword, messages, open, pages, press, served, signIn, test} = require('./browser.cjs');
+const {accessibilityFaults, asksToSignIn, base, enterPassword, messages, open, pages, press, served, showCommunity, signIn, test} = require('./browser.cjs');
 
 const screens = {wide: {width: 1280, height: 900}, narrow: {width: 360, height: 740}};
 
@@ -37,6 +37,7 @@ for (const [colorScheme, screen] of [['light', 'wide'], ['dark', 'narrow']]) {
       await judge(page, 'diagnostics.php with a refused change');
       for (const [name, button] of [['dns.php', 'Save'], ['snmp.php', 'Save'], ['traps.php', 'Add']]) {
         await open(page, name);
+        if (name === 'snmp.php') await showCommunity(page);
         await page.fill('main input[type=text] >> nth=0', 'x y');
         await press(page, button);
         await judge(page, `${name} with errors`);

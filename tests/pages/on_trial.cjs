@@ -101,14 +101,15 @@ async function keepWhatIs() {
   await until(() => ['', 'kept', 'undone', 'refused'].includes(trial('state')), 'the end of the trial', 40);
 }
 
-// Another device of the LAN under an address, while the work is done; with a web server when there is an answer.
+// Another device of the LAN under an address, while the work is done; with a web server when there is an answer: a text, or a
+// function that makes one of the request's address.
 async function withOtherDevice(ip, answer, work) {
   fromLan('ip', 'address', 'add', `${ip}/32`, 'dev', 'lan0');
   const asked = [];
-  const server = http.createServer((request, response) => {
+  const server = http.createServer(async (request, response) => {
     asked.push(request.url);
     response.setHeader('Access-Control-Allow-Origin', '*');
-    response.end(answer);
+    response.end(typeof answer === 'function' ? await answer(request.url) : answer);
   });
   try {
     if (answer) await new Promise((resolve) => server.listen(80, ip, resolve));
@@ -144,11 +145,12 @@ class Client {
   constructor(localAddress) {
     this.localAddress = localAddress;
     this.cookie = '';
+    this.headers = {};
   }
 
   // Fields: what is posted; without them the address is fetched. Redirects are not followed.
   ask(address, fields) {
-    const headers = {cookie: this.cookie};
+    const headers = {...this.headers, cookie: this.cookie};
     if (fields) headers['content-type'] = 'application/x-www-form-urlencoded';
     return new Promise((resolve, reject) => {
       const request = http.request(address, {method: fields ? 'POST' : 'GET', headers, localAddress: this.localAddress, timeout: 15000,

@@ -12,11 +12,10 @@ test('The overview', {user: 'admin'}, async (page) => {
   assert.equal(await beside(page, 'Gateway'), '10.20.0.1');
   assert.equal(await beside(page, 'Netmask'), '255.255.255.0');
   assert.equal(await beside(page, 'HTTPS'), 'Off');
-  assert.equal(await beside(page, 'Duplex'), 'Full duplex');
+  assert.equal(await beside(page, 'Autonegotiation'), 'On');
   assert.equal(await beside(page, 'Trap receivers'), '0');
   const states = await page.locator('.state').allInnerTexts();
-  assert.deepEqual(states, ['In use', 'Off', 'No servers set', 'Autonegotiation on', 'These pages are not encrypted',
-    'Versions 1, 2c and 3']);
+  assert.deepEqual(states, ['In use', 'Link up', 'Off', 'No servers set', 'Link up', 'These pages are not encrypted', 'The agent answers']);
 });
 
 test('IPv4 and host name', {user: 'admin'}, async (page) => {
@@ -91,7 +90,8 @@ test('With no device script working every page still says what is wrong, with me
       await open(page, name);
       assert.doesNotMatch(await page.content(), /This page has a fault|Warning:|htdocs/, name);
       const wrong = await page.locator('#messages .message.bad').allInnerTexts();
-      for (const message of wrong) assert.match(message, /\nCode 0x[0-9A-F]{8}, reported at /, name);
+      assert.ok(wrong.length <= 1, `${name}: one cause is one message`);
+      if (wrong.length > 0) assert.match(await messages(page), /Code 0x[0-9A-F]{8}, reported at /, name);
       if (['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php'].includes(name)) assert.ok(wrong.length > 0, name);
     }
     await open(page, 'ipv4.php');
@@ -108,7 +108,7 @@ test('A setting that cannot be read is reported with message and code, never as 
       await open(page, 'ipv4.php');
       const said = await messages(page);
       assert.match(said, /^Could not get IPv4 network information\n/);
-      assert.match(said, /Code 0x00000001, reported at http\/src\/network:\d+/);
+      assert.match(await messages(page), /Code 0x00000001, reported at http\/src\/network:\d+/);
       assert.doesNotMatch(await page.content(), /Warning|<b>|htdocs/);
       assert.equal(await page.inputValue('#ip'), '');
       assert.match(await page.title(), /^Error: /);

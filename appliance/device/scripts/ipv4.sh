@@ -51,5 +51,6 @@ stop_dhcpv4() {
     [ -z "$client" ] || kill "$client" 2>/dev/null
   done
   rm -f "$RUN/dhcpv4.pid" "$DHCPV4_LEASE"
+  rm -rf "$DHCPV4_LEASE_FACTS" 2>/dev/null
   drop_name_servers "$DHCPV4_SERVERS"
 }

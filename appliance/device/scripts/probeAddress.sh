@@ -7,16 +7,18 @@ behind_the_door "$@"
 
 WAIT=2 # seconds
 
-# It asks the way a device does that looks whether an address is free: no address of our own is told, and none is needed.
+# It asks the way a device does that looks whether an address is free: no address of our own is told, and none is needed. Programs of
+# this name differ in what they end with, and one without the rights for it ends like one that was answered: what counts is what
+# they say.
 probe_ipv4() {
   if command -v arping >/dev/null; then
-    arping -D -q -c 2 -w "$WAIT" -I "$PRIMARY" "$1"
+    said=$(arping -D -c 2 -w "$WAIT" -I "$PRIMARY" "$1" 2>/dev/null)
   else
-    busybox arping -D -q -c 2 -w "$WAIT" -I "$PRIMARY" "$1"
-  fi >/dev/null 2>&1
-  case $? in
-  0) echo silent ;;
-  1) echo answers ;;
+    said=$(busybox arping -D -c 2 -w "$WAIT" -I "$PRIMARY" "$1" 2>/dev/null)
+  fi
+  case $said in
+  *"eply from $1 "* | *"bytes from "*"($1)"*) echo answers ;;
+  *'eceived 0 '* | *' 0 packets received'* | *'100% packet loss'*) echo silent ;;
   *) exit 1 ;;
   esac
 }

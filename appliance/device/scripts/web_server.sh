@@ -22,6 +22,7 @@ own_names() {
 }
 
 # What was stored since the web server started.
+# shellcheck disable=SC3013,SC2119 # every shell that a Debian system has as /bin/sh compares times; USR1 is meant
 take_up_names() {
   if [ -s "$WEB_SERVER_PROCESS" ] && [ "$NAMES" -nt "$NAMES_TAKEN" ]; then restart_web_server; fi
 }
@@ -39,6 +40,7 @@ store_names() {
 }
 
 # A web server that runs takes up its new configuration; answers under way go out all the same.
+# shellcheck disable=SC2120 # HUP is applyWebMode.sh's
 restart_web_server() {
   [ -s "$WEB_SERVER_PROCESS" ] || return 0
   read -r process <"$WEB_SERVER_PROCESS"

@@ -21,12 +21,15 @@ $outcome = outcome_of($trial, $rows);
 $ways = is_followed($trial) ? ways_of($session, $trial) : array('origins' => array(), 'leaves' => false);
 $stored_only = isset($now['enabled']) && isset($now['ip']) && !$now['enabled'];
 $values = array('title' => title_of_outcome($trial, $outcome), 'part_of' => $kind['page'], 'kind' => $kind, 'rows' => $rows,
-    'stored_only' => $stored_only, 'outcome' => $outcome, 'trial' => $trial, 'ways' => $ways, 'key' => key_of_session($trial),
+    'stored_only' => $stored_only, 'outcome' => $outcome, 'trial' => $trial, 'ways' => $ways, 'questions' => questions_of($session, $trial, $ways['origins']),
     'sentence' => outcome_sentence($trial, $outcome, $rows, $stored_only), 'other_origins' => $ways['origins'],
     'left' => seconds_left($trial),
     'needs_wish' => $trial['state'] == 'trial' && !$ways['leaves'] && !arrives_by_change($session, $trial),
     'polls' => $outcome == 'applying' || $outcome == 'late' && seconds_since($trial) < 10 * $kind['longest_seconds']
         || !is_settled($trial));
+$values['unless'] = unless_what($session, $trial, $values['needs_wish']);
+$values['network'] = network_to_be_in($trial);
+$values['no_name_servers'] = $outcome == 'kept' && may_change($session) && lost_name_servers($session, $trial);
 if ($values['polls'] && family_of_kind($trial['kind']) == 'ipv6') {
     $values['other_origins'][] = origin_of('::', ''); // addresses of IPv6 come while the page is open
 }

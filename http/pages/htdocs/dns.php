@@ -9,7 +9,9 @@ class DnsSettings
 }
 
 $session = signed_in();
+ask_device();
 $settings = get_network_dns($session);
+$is_known = could_read();
 $errors = array();
 $meanwhile = array();
 $seen = array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary);
@@ -18,7 +20,7 @@ if (is_post()) {
     $settings->dnsPrimary = posted('dnsPrimary');
     $settings->dnsSecondary = posted('dnsSecondary');
     $errors = dns_errors($settings);
-    $meanwhile = $errors ? array() : changed_meanwhile($seen, array('dnsPrimary' => 'Primary server',
+    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, array('dnsPrimary' => 'Primary server',
         'dnsSecondary' => 'Secondary server'));
     if (!$errors && !$meanwhile) {
         if (is_unchanged(array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary), $seen)) {
@@ -33,7 +35,7 @@ if (is_post()) {
     }
 }
 show('dns', array('title' => 'DNS', 'lead' => 'The servers that the appliance asks for the addresses of names.',
-    'settings' => $settings, 'errors' => $errors, 'meanwhile' => $meanwhile, 'seen' => $seen));
+    'settings' => $settings, 'is_known' => $is_known, 'errors' => $errors, 'meanwhile' => $meanwhile, 'seen' => $seen));
 
 function dns_errors($settings)
 {

@@ -5,7 +5,12 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/review.php';
 
 $session = signed_in();
+ask_device();
 $settings = get_network_configuration_ipv4($session);
+$is_known = could_read();
+if (is_post()) {
+    end_asking(); // what is asked of the network before a change may take longer than a page waits
+}
 $current_name = $settings->hostname;
 $errors = array();
 $meanwhile = array();
@@ -26,9 +31,14 @@ if (is_post() && posted('change') == 'name') {
     }
     $settings = $wanted;
 }
+$again = is_post() ? false : values_again('ipv4');
+if ($again) {
+    $settings = ipv4_settings($current_name, array('dhcp' => $again['mode'] == 'DHCP') + $again
+        + array('ip' => $current->ip, 'netmask' => $current->netmask, 'gateway' => $current->gateway));
+}
 show('ipv4', array('title' => 'IPv4 and host name', 'settings' => $settings, 'errors' => $errors, 'name' => $current_name,
     'mode' => posted('change') == 'addressing' ? posted('mode') : ($settings->dhcpEnabled ? 'dhcp' : 'static'),
-    'meanwhile' => $meanwhile, 'seen' => $seen, 'current' => $current, 'servers' => servers_in_use(),
+    'meanwhile' => $meanwhile, 'seen' => $seen, 'current' => $current, 'is_known' => $is_known,
     'lead' => 'The name and the address under which the appliance is found.'));
 
 function change_name($session, $old, $new)
@@ -86,7 +96,7 @@ function change_addressing($session, $now, $wanted)
     }
     if ($wanted->dhcpEnabled === null && posted('reviewed') != 'yes') {
         $warnings = array_merge(address_warnings($now->ip, $wanted->ip, $wanted->gateway, $now->gateway),
-            network_warnings($wanted->ip, $wanted->netmask, $now));
+            network_warnings($wanted->ip, $wanted->netmask, $now), name_server_warnings($session, $now));
         if ($warnings) {
             show_review($warnings, $values, $now);
         }
@@ -134,18 +144,4 @@ function places_with_dhcp($hostname)
         $places[] = $hostname;
     }
     return $places;
-}
-
-// The name servers that are asked, whoever has named them.
-function servers_in_use()
-{
-    $servers = array();
-    if (is_readable('/etc/resolv.conf')) {
-        foreach (file('/etc/resolv.conf') as $line) {
-            if (preg_match('/^nameserver\s+(\S+)/', $line, $found)) {
-                $servers[] = $found[1];
-            }
-        }
-    }
-    return $servers;
 }

@@ -5,8 +5,18 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 require dirname(dirname(__FILE__)) . '/shared/review.php';
 
 $session = signed_in();
+if (is_background() && has_facts()) {
+    // What the page fetches again and again: without asking the module, whose trace log it would fill.
+    ask_device();
+    show('ipv6_now', array('title' => 'IPv6', 'enabled' => is_readable(IPV6_SWITCH)));
+}
+ask_device();
+$unknown = array();
 $settings = get_network_configuration_ipv6($session);
+$unknown['static'] = !could_read();
+begin_reading();
 $modes = read_modes();
+$unknown['stateless'] = !could_read();
 $typed = array('static' => $settings->staticEnabled, 'prefix' => $settings->prefix,
     'ipStatic' => $settings->staticEnabled ? short_ipv6($settings->ipStatic) : '',
     'gateway' => $settings->staticEnabled ? short_ipv6($settings->gateway) : '');
@@ -15,17 +25,28 @@ $change = is_post() ? posted('change') : '';
 $seen = values_shown($settings, $modes);
 $meanwhile = array();
 if ($change != '') {
+    end_asking(); // what is asked of the network before a change may take longer than a page waits
     list($errors, $meanwhile) = change_ipv6($session, $change, $seen, $settings);
     $modes = read_modes();
     $seen = values_shown($settings, $modes);
+}
+$again = is_post() ? false : values_again('ipv6');
+if ($again) {
+    $typed = array('static' => $again['mode'] == 'On', 'ipStatic' => isset($again['ip']) ? $again['ip'] : '',
+        'prefix' => isset($again['prefix']) ? $again['prefix'] : $typed['prefix'],
+        'gateway' => isset($again['gateway']) ? $again['gateway'] : '');
 }
 if ($change == 'static') {
     $typed = array('static' => posted('static') == '1', 'ipStatic' => posted('ipStatic'), 'prefix' => posted('prefix'),
         'gateway' => posted('gateway'));
 }
+$in_use = $unknown['static'] ? '' : is_ipv6_static_enabled();
+begin_reading();
+$addresses = get_all_ipv6_addresses();
+$unknown['addresses'] = !could_read();
 show('ipv6', array('title' => 'IPv6', 'enabled' => is_ipv6_enabled(), 'modes' => $modes, 'typed' => $typed,
-    'in_use' => is_ipv6_static_enabled(), 'addresses' => get_all_ipv6_addresses(), 'errors' => $errors,
-    'meanwhile' => $meanwhile, 'change' => $change, 'seen' => $seen,
+    'in_use' => $in_use, 'addresses' => $addresses, 'unknown' => $unknown, 'errors' => $errors,
+    'meanwhile' => $meanwhile, 'change' => $change, 'seen' => $seen, 'other_way' => other_way($session),
     'lead' => 'Whether the appliance uses IPv6, and where its addresses come from.'));
 
 // What each form shows: the form's change => its values, under the names that its kind of change has.
@@ -63,10 +84,22 @@ function change_ipv6($session, $change, $seen, $settings)
             show_review($warnings, $values, $seen['static']);
         }
     }
-    if (chosen_seconds() == 0 && $change != 'static') {
+    // Modes that are only stored are set at once. Over IPv6 the answer might not arrive: the watcher does it then.
+    $only_stored = $change == 'modes' && !$before['enabled'];
+    if ($change != 'static' && ($only_stored || chosen_seconds() == 0 && ipv4_bytes(address_of_request()) !== false)) {
         return array(switch_at_once($session, $change, $before), array());
     }
     return array(begin_ipv6($session, $kind, $values, $before), array());
+}
+
+// The address of the other family, for a visitor who may lose the one in use; else ''.
+function other_way($session)
+{
+    if (ipv4_bytes(address_of_request()) !== false) {
+        return '';
+    }
+    $ipv4 = get_network_configuration_ipv4($session);
+    return is_host_address($ipv4->ip) ? origin_of($ipv4->ip, port_of_request()) . '/' : '';
 }
 
 // What is wanted, as it is shown.
@@ -123,7 +156,9 @@ function switch_at_once($session, $change, $before)
     begin_change();
     put_back($session, 'ipv6', wanted_ipv6($change == 'enabled' ? 'ipv6-switch' : 'ipv6-modes', $before));
     if (!change_failed()) {
-        go_to('ipv6.php', $change == 'modes' ? 'The sources of addresses are set. Addresses appear or go within some seconds.'
+        go_to('ipv6.php', $change == 'modes' ? ($before['enabled']
+            ? 'The sources of addresses are set. Addresses appear or go within some seconds.'
+            : 'The sources of addresses are stored. They come into force when IPv6 is switched on.')
             : (posted('enabled') == '1' ? 'IPv6 is on. Addresses appear within some seconds.' : 'IPv6 is off.'));
     }
     return array();

@@ -18,6 +18,16 @@ for (const shown of document.querySelectorAll('[data-address-from]')) {
   update();
 }
 
+// Parts of a form that another field makes useless. Without scripts they only look it, and what they say is passed over.
+for (const part of document.querySelectorAll('[data-inactive-while]')) {
+  const field = document.getElementById(part.dataset.inactiveWhile);
+  const locked = part.closest('fieldset.form[disabled]') !== null;
+  const update = () => { part.disabled = locked || field.checked; };
+  field.addEventListener('change', update);
+  addEventListener('pageshow', update); // the browser may have put back what was chosen
+  update();
+}
+
 function isIpv4(text) {
   const numbers = text.split('.');
   return numbers.length === 4 && numbers.every((number) => /^\d{1,3}$/.test(number) && number < 256);
@@ -57,8 +67,8 @@ async function follow(section) {
     const page = await fetchPage();
     if (location.href !== asked) continue; // the filter has changed meanwhile
     misses = page ? 0 : misses + 1;
-    for (const lost of section.querySelectorAll('[data-when-lost]')) lost.hidden = misses < 3;
     for (const told of section.querySelectorAll('[data-when-answering]')) told.hidden = misses >= 3;
+    for (const lost of section.querySelectorAll('[data-when-lost]')) showLost(lost, misses >= 3);
     if (await goWhereItIs(misses)) return undefined;
     if (!page) continue;
     // Another title is another state, and no part at all another page.
@@ -69,20 +79,37 @@ async function follow(section) {
   }
 }
 
+// While nothing answers, the page's last words about it are stale: it says so, and when the settings of before are back, which
+// takes some seconds after the time is over.
+function showLost(lost, isLost) {
+  if (isLost) {
+    const title = document.querySelector('h1');
+    document.title = document.title.replace(title.textContent, lost.dataset.whenLost);
+    title.textContent = lost.dataset.whenLost;
+    const back = lost.querySelector('[data-back-at]');
+    if (back) back.textContent = `at ${timeOfDay(Date.now() + countdownEnd - performance.now() + 15000)}`;
+  }
+  lost.hidden = !isLost;
+}
+
+function timeOfDay(milliseconds) {
+  return new Date(milliseconds).toLocaleTimeString([], {hour: '2-digit', minute: '2-digit'});
+}
+
 // When the appliance is elsewhere, the page goes there; where the address in use stays, it only proves that the other one is
-// reached. The random number tells the appliance from another web server at its address. Returns whether it goes.
+// reached. The random number tells the appliance from another web server at its address: none but the appliance gets the key.
+// Returns whether it goes.
 async function goWhereItIs(misses) {
-  const way = document.querySelector('[data-origins]');
-  if (!way || (way.dataset.leaves && misses === 0)) return false;
-  for (const origin of way.dataset.origins.split(' ')) {
-    const isIt = await isThisAppliance(origin, way.dataset.probe, way.dataset.answer);
-    if (way.dataset.leaves && (isIt || (way.dataset.known && misses > 4))) {
-      location.assign(way.dataset.key ? `${origin}/trial.php#${way.dataset.key}` : `${origin}/applying.php`);
+  for (const {dataset: {origin, probe, answer, key, leaves, known}} of document.querySelectorAll('[data-origin]')) {
+    if (leaves && misses === 0) return false;
+    const isIt = await isThisAppliance(origin, probe, answer);
+    if (leaves && (isIt || (known && misses > 4))) {
+      location.assign(isIt && key ? `${origin}/trial.php#${key}` : `${origin}/applying.php`);
       return true;
     }
-    if (isIt && way.dataset.key) {
+    if (isIt && key) {
       await fetch(`${origin}/trial.php?background=1`, {method: 'POST', mode: 'no-cors', credentials: 'omit',
-        body: new URLSearchParams({key: way.dataset.key}), signal: AbortSignal.timeout(3000)}).catch(() => {});
+        body: new URLSearchParams({key}), signal: AbortSignal.timeout(3000)}).catch(() => {});
       return false;
     }
   }
@@ -93,7 +120,7 @@ async function isThisAppliance(origin, number, answer) {
   try {
     const said = await fetch(`${origin}/trial.php?probe=${number}`,
       {cache: 'no-store', credentials: 'omit', signal: AbortSignal.timeout(2000)});
-    return said.ok && (await said.text()).trim() === answer;
+    return said.ok && (await said.text()).trim().split(' ').includes(answer);
   } catch {
     return false;
   }
@@ -110,6 +137,12 @@ if (countdown) {
     const bar = countdown.closest('section').querySelector('progress[value]');
     if (bar) bar.value = left;
   }, 500);
+}
+
+// A time of the appliance as this computer says it.
+for (const told of document.querySelectorAll('[data-local-time]')) {
+  told.textContent = `That was at ${timeOfDay(told.dataset.localTime * 1000)} on this computer.`;
+  told.hidden = false;
 }
 
 function countDown(page) {
@@ -133,8 +166,15 @@ if (returning) waitForReturn(returning.dataset.return);
 async function waitForReturn(address) {
   for (;;) {
     await new Promise((resolve) => setTimeout(resolve, 2000));
+    const isOver = performance.now() > countdownEnd;
+    for (const part of returning.querySelectorAll('[data-until-over]')) part.hidden = isOver;
+    for (const part of returning.querySelectorAll('[data-when-over]')) part.hidden = !isOver;
     try {
       const answer = await fetch(`${address}?background=1`, {redirect: 'manual', signal: AbortSignal.timeout(3000)});
+      // It sends on to the new mode.
+      const isThere = answer.type === 'opaqueredirect';
+      for (const part of returning.querySelectorAll('[data-until-there]')) part.hidden = isThere;
+      for (const part of returning.querySelectorAll('[data-when-there]')) part.hidden = !isThere;
       const page = answer.ok ? new DOMParser().parseFromString(await answer.text(), 'text/html') : null;
       if (page && page.querySelector('[data-over]')) return location.assign(address);
     } catch {
@@ -229,4 +269,150 @@ async function goAfterRestart(link) {
   // It may not listen everywhere yet.
   await pause();
   location.assign(link.href);
+}
+
+// Leaving a form with changes asks first, but for the form that is sent. The browser is told only then: it does not keep a page
+// for going back that may ask.
+let sent = null;
+addEventListener('submit', (event) => { sent = event.target; });
+addEventListener('input', updateAsking);
+addEventListener('change', updateAsking);
+addEventListener('pageshow', () => { sent = null; });
+updateAsking();
+
+function updateAsking() {
+  if (unsavedForms().length > 0) addEventListener('beforeunload', askBeforeLeaving);
+  else removeEventListener('beforeunload', askBeforeLeaving);
+}
+
+function askBeforeLeaving(event) {
+  if (!unsavedForms().some((form) => form !== sent)) return;
+  event.preventDefault();
+  event.returnValue = true;
+  // Who stays can send the form after all.
+  const button = sent && sent.querySelector('button[type=submit][disabled]');
+  sent = null;
+  if (button) setTimeout(() => { button.disabled = false; }, 1000);
+}
+
+function unsavedForms() {
+  return [...document.querySelectorAll('form[method=post]')].filter((form) => form.hasAttribute('data-unsaved')
+    || form.querySelector('[aria-invalid=true]') || [...form.elements].some(isChanged));
+}
+
+function isChanged(field) {
+  if (field.type === 'checkbox' || field.type === 'radio') return field.checked !== field.defaultChecked;
+  if (field.options) {
+    const chosen = [...field.options].findIndex((option) => option.defaultSelected);
+    return field.selectedIndex !== Math.max(0, chosen);
+  }
+  return ['text', 'password'].includes(field.type) && field.value !== field.defaultValue;
+}
+
+// Who is about to be signed out is told in time. The focus stays where it is: the place is read out when something is put there.
+const session = document.getElementById('session');
+if (session) watchSession(session);
+
+async function watchSession(place) {
+  const warning = Number(document.body.dataset.sessionWarning);
+  let left = secondsOf(document.body.dataset.session);
+  let end = Date.now() + left.idle * 1000;
+  for (;;) {
+    const seconds = (end - Date.now()) / 1000;
+    // While it warns it looks often: another page of the same session may go on.
+    await new Promise((resolve) => setTimeout(resolve, 1000 * (seconds > warning ? Math.min(seconds - warning, 3600) : 5)));
+    if ((end - Date.now()) / 1000 > warning) continue;
+    const now = await askForSession('&background=1');
+    if (now) {
+      left = now;
+      end = Date.now() + left.idle * 1000;
+    }
+    const rest = (end - Date.now()) / 1000;
+    if (rest <= 0) return say(place, 'over', overText());
+    if (rest > warning) say(place, '');
+    else warn(place, rest, left.idle >= left.atMost, (stays) => { end = Date.now() + stays.idle * 1000; });
+  }
+}
+
+// Seconds until the session ends when nothing is done, and until it ends in any case; zeros when it has ended, and null when
+// nobody answers.
+async function askForSession(more) {
+  try {
+    const answer = await fetch(`account.php?seconds=1${more}`, {cache: 'no-store', signal: AbortSignal.timeout(3000)});
+    const text = await answer.text();
+    return secondsOf(/^\d+ \d+$/.test(text) ? text : '0 0');
+  } catch {
+    return null;
+  }
+}
+
+function secondsOf(text) {
+  const [idle, atMost] = text.split(' ').map(Number);
+  return {idle, atMost};
+}
+
+function warn(place, seconds, inAnyCase, stay) {
+  const time = seconds > 60 ? 'in 2 minutes' : 'in less than a minute';
+  if (inAnyCase) {
+    say(place, time, `You will be signed out ${time}: a session does not last longer. Save what you have typed.`);
+    return;
+  }
+  if (place.dataset.said === time) return;
+  say(place, time, `You will be signed out ${time}, because nothing was done here.`);
+  const button = document.createElement('button');
+  button.type = 'button';
+  button.textContent = 'Stay signed in';
+  button.addEventListener('click', async () => {
+    const stays = await askForSession('');
+    if (!stays) return;
+    if (stays.idle > 0) {
+      stay(stays);
+      say(place, 'stays', 'You stay signed in.');
+      setTimeout(() => { if (place.dataset.said === 'stays') say(place, ''); }, 5000);
+    } else {
+      say(place, 'over', overText());
+    }
+  });
+  place.firstChild.append(button);
+}
+
+function overText() {
+  return `You have been signed out. ${unsavedForms().length > 0
+    ? 'What you have typed is not lost: press the button of the form, sign in, and it is there again.' : 'The next click asks for the password.'}`;
+}
+
+// `what` is there so that nothing is read out twice.
+function say(place, what, text = '') {
+  if (place.dataset.said === what) return;
+  place.dataset.said = what;
+  const focused = place.contains(document.activeElement);
+  place.replaceChildren();
+  if (text === '') return;
+  const box = document.createElement('div');
+  box.className = 'message caution';
+  const words = document.createElement('p');
+  words.textContent = text;
+  box.append(words);
+  place.append(box);
+  if (focused) document.getElementById('content').focus();
+}
+
+// How strong a new password is, in words, as it is typed.
+for (const field of document.querySelectorAll('[data-strengths]')) {
+  const strengths = field.dataset.strengths.split(', ').map((pair) => pair.split(' '));
+  const place = document.createElement('p');
+  place.className = 'hint';
+  place.setAttribute('role', 'status');
+  field.after(place);
+  let typed;
+  field.addEventListener('input', () => {
+    clearTimeout(typed);
+    typed = setTimeout(() => {
+      const length = [...field.value].length;
+      const reached = strengths.filter(([characters]) => length >= characters);
+      const missing = strengths[0][0] - length;
+      place.textContent = length === 0 ? '' : reached.length > 0 ? `Strength by its length: ${reached.at(-1)[1].toLowerCase()}.`
+        : `Too short: ${missing} more ${missing === 1 ? 'character' : 'characters'}.`;
+    }, 400);
+  });
 }

@@ -10,17 +10,25 @@ class PortSettings
 }
 
 $session = signed_in();
+ask_device();
 $settings = get_eth2_port_settings($session);
+$is_known = could_read();
+if (!$is_known) {
+    // Its numbers stand for nothing then.
+    $settings = new PortSettings();
+    $settings->AutoNegotiate = '';
+}
 $errors = array();
 $meanwhile = array();
 $seen = values_shown($settings);
 if (is_post()) {
     $settings = new PortSettings();
     $settings->AutoNegotiate = posted('auto') == '1' ? 1 : 0;
-    $settings->Speed = (int) posted('speed');
-    $settings->Duplex = posted('duplex') == '' ? -1 : (int) posted('duplex');
+    // With autonegotiation these fields are not used: the port may agree on the most that it can.
+    $settings->Speed = $settings->AutoNegotiate ? 100 : (int) posted('speed');
+    $settings->Duplex = $settings->AutoNegotiate ? 1 : (posted('duplex') == '' ? -1 : (int) posted('duplex'));
     $errors = port_errors($settings);
-    $meanwhile = $errors ? array() : changed_meanwhile($seen, array('auto' => 'Autonegotiation', 'speed' => 'Speed',
+    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, array('auto' => 'Autonegotiation', 'speed' => 'Speed',
         'duplex' => 'Duplex'));
     if (!$errors && !$meanwhile) {
         if (is_unchanged(values_shown($settings), $seen)) {
@@ -39,6 +47,9 @@ show('port', array('title' => 'Ethernet port', 'settings' => $settings, 'errors'
 
 function values_shown($settings)
 {
+    if ($settings->AutoNegotiate === '') {
+        return array('auto' => '', 'speed' => '', 'duplex' => '');
+    }
     $duplex = array(-1 => 'not known', 0 => 'Half', 1 => 'Full');
     return array('auto' => $settings->AutoNegotiate ? 'On' : 'Off', 'speed' => $settings->Speed . ' Mbit/s',
         'duplex' => $duplex[$settings->Duplex]);
@@ -54,4 +65,13 @@ function port_errors($settings)
         $errors['duplex'] = 'Choose a duplex mode.';
     }
     return $errors;
+}
+
+function port_setting_in_words($seen)
+{
+    if ($seen['auto'] == '') {
+        return unknown();
+    }
+    return $seen['auto'] == 'On' ? 'Autonegotiation' : h($seen['speed'] . ', '
+        . ($seen['duplex'] == 'not known' ? 'duplex unknown' : strtolower($seen['duplex']) . ' duplex'));
 }

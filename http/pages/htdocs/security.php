@@ -7,7 +7,9 @@ require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
 define('PORT_DISTANCE', 443 - 80);
 
 $session = signed_in();
+ask_device();
 $settings = get_ssl_settings($session);
+$is_known = !failed();
 $errors = array();
 $meanwhile = array();
 $seen = array('https' => $settings->isEnabled ? 'On' : 'Off');
@@ -22,7 +24,7 @@ if (is_post()) {
         $errors = switch_mode($session, $wanted == '1');
     }
 }
-show('security', array('title' => 'Web security', 'settings' => $settings, 'errors' => $errors,
+show('security', array('title' => 'Web security', 'settings' => $settings, 'is_known' => $is_known, 'errors' => $errors,
     'meanwhile' => $meanwhile, 'seen' => $seen,
     'lead' => 'Whether your password and all settings travel encrypted.', 'address' => address_after(!$settings->isEnabled)));
 
@@ -34,9 +36,7 @@ function switch_mode($session, $on)
     if ($seconds == 0 && trial_in_the_way()) {
         return array('https' => 'Another change is on trial: keep or undo it first. Yours was not applied.');
     }
-    if ($seconds > 0) {
-        $trial = give_key($trial);
-    }
+    $trial['wanted'] = array('https' => $on);
     name_user_to_services($session);
     begin_change();
     if ($seconds > 0) {
@@ -53,6 +53,7 @@ function switch_mode($session, $on)
     }
     if ($seconds == 0) {
         forget_session();
+        end_sessions_of_mode(!$on);
     } else {
         ended_at_once($trial);
     }
@@ -62,10 +63,7 @@ function switch_mode($session, $on)
 // The web server restarts now: this answer is the last one in the old mode.
 function show_restart($on, $trial, $seconds)
 {
-    $address = address_after($on);
-    if ($seconds > 0) {
-        $address = str_replace('security.php', 'trial.php?key=' . $_SESSION['trial_key'], $address);
-    }
+    $address = str_replace('security.php', $seconds > 0 ? 'applying.php' : 'security.php', address_after($on));
     // Before it goes on to HTTPS, the certificate is to be seen.
     $refresh = $on ? array('seconds' => $seconds + 8, 'address' => 'applying.php') : array('seconds' => 5, 'address' => $address);
     $values = array('title' => 'Web security', 'on' => $on, 'address' => $address, 'certificate' => certificate_facts(),

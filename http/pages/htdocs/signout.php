@@ -2,10 +2,8 @@
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 
 // No matter what the user may change: signing out is for everybody.
-if (text_of($_COOKIE, cookie_name()) != '') {
-    open_session();
-    if (is_post() && has_token()) {
-        end_session();
-    }
+if (open_session() && is_post() && has_token()) {
+    write_audit($_SESSION['user'], text_of($_SERVER, 'REMOTE_ADDR'), 'Signed out.', '', 'sign-in');
+    end_session();
 }
 go_to('signin.php');

@@ -17,8 +17,13 @@ $labels = array('version1' => 'Versions 1 and 2c', 'community' => 'Read communit
     'trap2' => 'Traps of version 2c', 'auth' => 'Trap about a wrong community');
 
 $session = signed_in();
+ask_device();
 $settings = get_snmp_settings($session);
-$facts = $settings; // of these the page shows what no form changes
+$is_known = !failed();
+if (!may_change($session)) {
+    $settings->community_name = ''; // a password: not in the page, wherever that has its values
+}
+$agent = $settings; // of these the page shows what no form changes
 $errors = array();
 $meanwhile = array();
 $seen = values_shown($settings);
@@ -45,8 +50,9 @@ if (is_post()) {
         $seen = values_shown(get_snmp_settings($session));
     }
 }
-show('snmp', array('title' => 'SNMP agent', 'settings' => $settings, 'facts' => $facts, 'errors' => $errors, 'meanwhile' => $meanwhile,
+show('snmp', array('title' => 'SNMP agent', 'settings' => $settings, 'agent' => $agent, 'is_known' => $is_known, 'errors' => $errors, 'meanwhile' => $meanwhile,
     'seen' => $seen,
+    'shows_community' => may_change($session),
     'lead' => 'How network management systems read the appliance\'s state, and how it tells them about events.'));
 
 function values_shown($settings)
@@ -59,7 +65,10 @@ function values_shown($settings)
 function agent_errors($settings)
 {
     $errors = array();
-    if (!preg_match('/^[!#-&(-~]{1,32}$/D', $settings->community_name)) {
+    if (strlen($settings->community_name) > 32) {
+        $errors['community_name'] = 'Too long by ' . (strlen($settings->community_name) - 32) . ': enter 1 to 32 letters, digits or'
+            . ' signs.';
+    } elseif (!preg_match('/^[!#-&(-~]{1,32}$/D', $settings->community_name)) {
         $errors['community_name'] = 'Enter 1 to 32 letters, digits or signs, without blanks, quotes and accents.';
     }
     // With none the agent would still be shown with version 1.

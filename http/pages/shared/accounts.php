@@ -2,7 +2,12 @@
 // Who may sign in: lines of name, role ("admin" or "monitor") and password hash, joined by ":".
 
 define('ACCOUNTS_FILE', PRIVATE_FOLDER . '/users');
+define('ACCOUNTS_LOCK', PRIVATE_FOLDER . '/users.lock');
 define('LONGEST_PASSWORD', 72); // what the hash looks at
+define('SHORTEST_PASSWORD', 10); // of those that people choose
+
+// Characters from which on a password is called so.
+$password_strengths = array(SHORTEST_PASSWORD => 'Enough', 14 => 'Good', 20 => 'Strong');
 
 // name => array of 'role' and 'hash'; empty before the first start's passwords are made.
 function read_accounts()
@@ -25,10 +30,11 @@ function read_accounts()
 // kept. Prints nothing when there are accounts.
 function make_first_accounts()
 {
+    make_private_folders();
+    $lock = open_locked(ACCOUNTS_LOCK);
     if (read_accounts()) {
         return;
     }
-    make_private_folders();
     $lines = '';
     $names_and_passwords = '';
     foreach (array('admin', 'monitor') as $role) {
@@ -40,10 +46,120 @@ function make_first_accounts()
         $lines .= $role . ':' . $role . ':' . $hash . "\n";
         $names_and_passwords .= $role . ' ' . $password . "\n";
     }
-    if (!replace_file(ACCOUNTS_FILE, $lines)) {
+    if (!$lock || !replace_file(ACCOUNTS_FILE, $lines, true)) {
         give_up('The accounts cannot be written to ' . ACCOUNTS_FILE . '.');
     }
     echo $names_and_passwords;
+}
+
+// Gives the account another password, which ends all its sessions: they are bound to the hash. The file is replaced whole, one
+// change after the other; where that fails the old password is still good. Returns what was wrong, or ''.
+function set_password($name, $password)
+{
+    $hash = hash_password($password);
+    if ($hash == '') {
+        return 'This interpreter has no password hash that is strong enough.';
+    }
+    $lock = open_locked(ACCOUNTS_LOCK);
+    if (!$lock) {
+        return 'The password was not changed: ' . ACCOUNTS_LOCK . ' cannot be locked.';
+    }
+    clearstatcache();
+    $lines = is_readable(ACCOUNTS_FILE) ? file(ACCOUNTS_FILE) : array();
+    $found = false;
+    foreach ($lines as $i => $line) {
+        $parts = explode(':', trim($line), 3);
+        if (count($parts) == 3 && $parts[0] === (string) $name) {
+            $lines[$i] = $parts[0] . ':' . $parts[1] . ':' . $hash . "\n";
+            $found = true;
+        }
+    }
+    remove_unfinished(ACCOUNTS_FILE);
+    $written = $found && replace_file(ACCOUNTS_FILE, implode('', $lines), true);
+    fclose($lock);
+    if ($written) {
+        return '';
+    }
+    return $found ? 'The password was not changed: the disk is full or cannot be written. The old one is still good.'
+        : 'There is no account of this name any longer.';
+}
+
+// Gives a new password to somebody who has lost theirs, prints it after the name, and ends the account's sessions. Only who may
+// write the appliance's files gets here.
+function reset_password($name)
+{
+    $accounts = read_accounts();
+    if (!$accounts) {
+        give_up('There are no accounts in ' . ACCOUNTS_FILE . ' yet: the first start makes them.');
+    }
+    if (!isset($accounts[$name])) {
+        give_up('There is no account of the name "' . printable($name) . '"; there are: '
+            . implode(', ', array_keys($accounts)) . '.');
+    }
+    $password = random_password();
+    $error = set_password($name, $password);
+    if ($error != '') {
+        give_up($error);
+    }
+    end_sessions_of($name);
+    forget_browsers_of($name);
+    write_audit($name, '', 'The password of ' . $name . ' was set anew on the appliance itself.', '', 'account');
+    echo $name . ' ' . $password . "\n";
+}
+
+function printable($text)
+{
+    return preg_replace('/[^\x20-\x7e]/', '?', substr($text, 0, 100));
+}
+
+// What is wrong with a password that somebody has chosen, or ''.
+function password_error($password, $name)
+{
+    $characters = characters_of($password);
+    if ($password == '') {
+        return 'Enter a password.';
+    }
+    if (preg_match('/[\x00-\x1f\x7f]/', $password)) {
+        return 'Use no control characters, such as line ends.';
+    }
+    if ($characters < SHORTEST_PASSWORD) {
+        return 'Too short: it has ' . $characters . ($characters == 1 ? ' character' : ' characters') . ' and needs at least '
+            . SHORTEST_PASSWORD . '.';
+    }
+    if (strlen($password) > LONGEST_PASSWORD) {
+        return 'Too long: at most ' . LONGEST_PASSWORD . ' bytes are looked at, and this has ' . strlen($password) . '.';
+    }
+    return is_easily_guessed($password, $name) ? 'Weak: it is among the first that are tried. Take several words that have'
+        . ' nothing to do with one another.' : '';
+}
+
+// The name, a well-known word or a row of the keyboard with little else, or few different characters.
+function is_easily_guessed($password, $name)
+{
+    $rest = str_replace(array(strtolower($name), 'password', 'passwort', 'administrator', 'admin', 'letmein', 'welcome',
+        'qwertyuiop', 'qwertzuiop', 'qwerty', 'qwertz', 'asdfghjkl', 'asdfgh', 'yxcvbnm', 'zxcvbnm', '1234567890', '0123456789',
+        '123456789', '12345678', '123456', '987654321', 'abcdefghij', 'abcdef', 'library'), '', strtolower($password));
+    $different = array();
+    for ($i = 0; $i < strlen($rest); $i++) {
+        $different[$rest[$i]] = true;
+    }
+    return strlen($rest) < 6 || count($different) < 5;
+}
+
+// How strong a password is that has nothing wrong.
+function password_strength($password)
+{
+    $strength = '';
+    foreach ($GLOBALS['password_strengths'] as $characters => $word) {
+        $strength = characters_of($password) >= $characters ? $word : $strength;
+    }
+    return $strength;
+}
+
+// Characters of UTF-8, not bytes.
+function characters_of($text)
+{
+    return strlen(preg_replace('/[\x80-\xbf]/', '', $text));
 }
 
 // The strongest hash that this engine has; '' when it has none but the historic one.

@@ -7,11 +7,23 @@
 // says what is on trial).
 function show($template, $values)
 {
+    if ($GLOBALS['change_begun']) {
+        ask_device(); // what it said was before the change
+    }
+    end_asking();
     send_headers(isset($values['other_origins']) ? $values['other_origins'] : array());
     $content = render($template, $values);
     $values['content'] = $content; // rendered first: what it reports is shown above it
     echo render(isset($GLOBALS['session']) ? 'frame' : 'bare', $values);
     exit;
+}
+
+// The appliance's name around every page, from the kernel: no script of the device can hold up all pages, and nobody who is not
+// signed in makes the module write its trace.
+function name_in_frame()
+{
+    $lines = is_readable('/proc/sys/kernel/hostname') ? file('/proc/sys/kernel/hostname') : array('');
+    return trim($lines[0]);
 }
 
 function render($template, $values)
@@ -25,6 +37,7 @@ function render($template, $values)
 // Goes to a page after a change, which says the message once.
 function go_to($page, $message = '')
 {
+    end_asking();
     if ($message != '') {
         return_to_session();
         $_SESSION['message'] = $message;

@@ -9,7 +9,8 @@ $times_of_trial = array('60' => '60 seconds', '90' => '90 seconds', '180' => '3 
 // The choice beside the button, under an identifier of its own.
 function trial_field($id)
 {
-    $chosen = isset($GLOBALS['times_of_trial'][posted('trial')]) ? posted('trial') : (string) TRIAL_SECONDS;
+    $wanted = typed_again('trial', posted('trial'));
+    $chosen = isset($GLOBALS['times_of_trial'][$wanted]) ? $wanted : (string) TRIAL_SECONDS;
     $html = '<div class="field trial"><label for="' . $id . '">On trial for</label><select name="trial" id="' . $id
         . '" aria-describedby="' . $id . '-hint">';
     foreach ($GLOBALS['times_of_trial'] as $seconds => $label) {
@@ -37,8 +38,7 @@ function trial_in_the_way()
 // nothing was changed: array of what to say, empty when the module has reported it.
 function start_change($session, $trial, $wanted)
 {
-    $trial = give_key($trial);
-    leave_session();
+    $trial['wanted'] = $wanted;
     if (family_of_kind($trial['kind']) == 'ipv6' && ipv4_bytes(address_of_request()) === false) {
         $trial['later'] = $wanted; // the answer would not arrive
     }
@@ -63,11 +63,14 @@ function start_change($session, $trial, $wanted)
 // Writes the trial down and has it watched over, before anything is changed. Returns what was wrong.
 function start_trial($trial)
 {
+    leave_session();
     if (!begin_trial($trial)) {
         return array(trial_in_the_way() ? 'Another change is on trial: keep or undo it first. Yours was not applied.'
             : 'Nothing was changed: the trial cannot be written down in ' . PRIVATE_FOLDER . '.');
     }
-    if (($trial['seconds'] > 0 || $trial['later']) && !start_watching()) {
+    // Another attempt of the same browser must not take the key away from the change that is on trial.
+    give_key($trial);
+    if (($trial['seconds'] > 0 || $trial['later']) && !is_being_watched($trial)) {
         drop_trial($trial, 'the trial cannot be watched over');
         return array('Nothing was changed: the trial cannot be watched over on this appliance. Choose "without a trial" to change it'
             . ' all the same.');

@@ -2,21 +2,23 @@
 // The count of failed sign-ins, by which whoever guesses passwords has to wait longer and longer.
 
 define('ATTEMPTS_FILE', PRIVATE_FOLDER . '/attempts');
-define('LONGEST_WAIT', 60); // seconds
+define('LONGEST_WAIT', 60); // seconds, after wrong passwords of one's own
+define('LONGEST_WAIT_FOR_OTHERS', 5); // seconds, after those of anybody with the same address
 define('ATTEMPTS_KEPT', 3600); // seconds
+define('ATTEMPTS_AT_MOST', 2000); // counts
+define('GROUPS_OF_NAMES', 64);
 
-// The seconds that this client has to wait before it may try to sign in under this name; 0 when it may now. The
-// attempt counts as a failed one at once, so that many at a time gain nothing; attempt_succeeded() takes that back.
-function seconds_until_attempt($client, $name)
+// The seconds that must pass before the next attempt of this count; 0 when it may be made now. It counts as a failed one at
+// once, so that many at a time gain nothing; attempt_succeeded() takes that back.
+function seconds_until_attempt($key)
 {
     $file = open_attempts();
     $attempts = read_attempts($file);
-    $key = attempt_key($client, $name);
     $count = isset($attempts[$key]) ? $attempts[$key]['count'] : 0;
     $wait = 0;
     if ($count > 0) {
         $since = time() - $attempts[$key]['time'];
-        $pause = min(LONGEST_WAIT, $count > 2 ? 1 << min(10, $count - 2) : 1);
+        $pause = min(longest_wait($key), $count > 2 ? 1 << min(10, $count - 2) : 1);
         // A clock that was set back does not lock anybody out.
         $wait = $since < 0 ? 0 : max(0, $pause - $since);
     }
@@ -27,19 +29,48 @@ function seconds_until_attempt($client, $name)
     return $wait;
 }
 
-function attempt_succeeded($client, $name)
+// What others at the same address have tried stays counted; of one's own wrong ones nothing is left.
+function attempt_succeeded($key)
 {
     $file = open_attempts();
     $attempts = read_attempts($file);
-    unset($attempts[attempt_key($client, $name)]);
+    if (!isset($attempts[$key]) || is_own_count($key) || $attempts[$key]['count'] < 2) {
+        unset($attempts[$key]);
+    } else {
+        $attempts[$key] = array('count' => $attempts[$key]['count'] - 1, 'time' => time() - LONGEST_WAIT_FOR_OTHERS);
+    }
     write_attempts($file, $attempts);
 }
 
-// Each account by itself: who may sign in to one gains no attempts at another. All names that do not exist are one.
+// Which count a sign-in belongs to. A browser in which the account has signed in before has one of its own: no wrong password
+// of anybody else keeps it waiting. All others with the same address share one for each group of names. Names that exist and
+// names that do not are treated alike, and there are not more counts than groups.
 function attempt_key($client, $name)
 {
-    $accounts = read_accounts();
-    return network_of(plain_address($client)) . '/' . (isset($accounts[$name]) ? urlencode($name) : '');
+    $browser = known_browser($name);
+    return $browser != '' ? 'browser/' . $browser
+        : network_of(plain_address($client)) . '/' . hexdec(substr(sha1($name), 0, 4)) % GROUPS_OF_NAMES;
+}
+
+// Somebody who is signed in and is asked for the password again.
+function session_attempt_key()
+{
+    return 'session/' . sha1(session_id());
+}
+
+function is_own_count($key)
+{
+    return strpos($key, 'browser/') === 0 || strpos($key, 'session/') === 0;
+}
+
+function longest_wait($key)
+{
+    return is_own_count($key) ? LONGEST_WAIT : LONGEST_WAIT_FOR_OTHERS;
+}
+
+function wait_sentence($seconds)
+{
+    return 'Too many attempts. Please wait ' . $seconds . ($seconds == 1 ? ' second' : ' seconds') . ', then try again.';
 }
 
 // A client with IPv6 has a whole network of addresses to try from.
@@ -83,12 +114,36 @@ function read_attempts($file)
     return $attempts;
 }
 
-// Also closes the file, so that the next attempt can be counted.
+// Also closes the file, so that the next attempt can be counted. What is there is written over: a full disk has room for that.
 function write_attempts($file, $attempts)
 {
-    ftruncate($file, 0);
+    while (count($attempts) > ATTEMPTS_AT_MOST) {
+        unset($attempts[least_attempt($attempts)]);
+    }
+    $text = '';
     foreach ($attempts as $key => $attempt) {
-        fwrite($file, $key . ' ' . $attempt['count'] . ' ' . $attempt['time'] . "\n");
+        $text .= $key . ' ' . $attempt['count'] . ' ' . $attempt['time'] . "\n";
+    }
+    $over = @fopen(ATTEMPTS_FILE, 'r+b');
+    $written = $over && @fwrite($over, $text) === strlen($text) && @fflush($over) && ftruncate($over, strlen($text));
+    if ($over) {
+        fclose($over);
     }
     fclose($file);
+    if (!$written) {
+        give_up('The count of failed sign-ins cannot be kept in ' . ATTEMPTS_FILE . ': its disk is full or cannot be written.');
+    }
+}
+
+// The key of the lowest count, and of those the oldest: a flood of names does not wash away what was tried often.
+function least_attempt($attempts)
+{
+    $least = '';
+    foreach ($attempts as $key => $attempt) {
+        if ($least === '' || $attempt['count'] < $attempts[$least]['count']
+            || $attempt['count'] == $attempts[$least]['count'] && $attempt['time'] < $attempts[$least]['time']) {
+            $least = $key;
+        }
+    }
+    return $least;
 }

@@ -2,6 +2,8 @@
 // Who keeps a change that is on trial: its maker, back under the new settings, or somebody who signs in there and may change
 // settings. And the way there: where the appliance is then, and how the session moves along.
 
+define('UNENCRYPTED_COOKIE', 'settings'); // cookie_name() without encryption
+
 // Keeps the change on trial when this request proves that its maker, or somebody else with the role admin, is back.
 function keep_if_back($session)
 {
@@ -14,6 +16,32 @@ function keep_if_back($session)
     if ($is_maker || $signed_in_since) {
         keep_trial($trial, 'back under the new settings', $session->user, client_of_request());
     }
+}
+
+// What the sign-in says under the new settings, to whom it may concern. Nobody is signed in, so the module is not asked.
+function trial_at_sign_in()
+{
+    $trial = read_trial();
+    if (!$trial || $trial['seconds'] == 0 || !in_array($trial['state'], array('applying', 'trial'))
+        || !is_likely_by_change($trial)) {
+        return '';
+    }
+    return 'New settings are on trial: when you sign in here as ' . $trial['user'] . ', they are kept. ' . seconds_left($trial)
+        . ' seconds are left.';
+}
+
+function is_likely_by_change($trial)
+{
+    $at = address_of_request();
+    if ($trial['kind'] == 'ssl') {
+        return is_https() == ($trial['values']['https'] == 'On');
+    }
+    if ($trial['to'] != '') {
+        return same_value($at, $trial['to']);
+    }
+    $is_ipv4 = ipv4_bytes($at) !== false;
+    return $trial['kind'] == 'ipv4' ? $is_ipv4 && is_host_address($at) && !same_value($at, $trial['from'])
+        : $is_ipv4 == ipv6_is_off_after($trial);
 }
 
 function client_of_request()
@@ -44,9 +72,25 @@ function arrives_by_change($session, $trial)
         $now = get_network_configuration_ipv4($session);
         return $now->dhcpEnabled && same_value($at, $now->ip);
     }
-    // With IPv6 off the other family is the only way.
-    return ipv6_is_off_after($trial) ? ipv4_bytes($at) !== false
-        : ipv4_bytes($at) === false && is_among($at, get_all_ipv6_addresses());
+    // Without any address of IPv6 the other family is the only way.
+    if (ipv4_bytes($at) !== false) {
+        return ipv6_is_off_after($trial) || has_no_ipv6_after($trial);
+    }
+    return is_among($at, get_all_ipv6_addresses());
+}
+
+// Whether the change has left IPv6 without addresses: routers and servers have some seconds to give one.
+function has_no_ipv6_after($trial)
+{
+    if ($trial['state'] != 'trial' || time() - $trial['ended'] < 10) {
+        return false;
+    }
+    foreach (get_all_ipv6_addresses() as $address) {
+        if (is_host_address($address) && strpos(strtolower($address), 'fe80:') !== 0) {
+            return false;
+        }
+    }
+    return true;
 }
 
 function ipv6_is_off_after($trial)
@@ -64,16 +108,24 @@ function is_among($address, $others)
     return false;
 }
 
-// Makes the single-use key of a new change and gives it to the browser's session; the record has its hash.
+// Makes the single-use key of a change that has begun; the record has its hash. Of a change of addressing the key is in the
+// browser's session, and in no address. Of a change of the mode it is the cookie that the browser shows in the other mode: that of
+// the session without encryption, or one that stands for none. Under HTTPS it proves that its maker is back, and nothing else.
 function give_key($trial)
 {
-    $key = random_hex(16);
-    $trial['key'] = sha1($key);
     return_to_session();
-    $_SESSION['trial'] = $trial['id'];
-    $_SESSION['trial_key'] = $key;
-    $trial['session'] = $trial['kind'] == 'ssl' ? session_id() : '';
-    return $trial;
+    $key = random_hex(16);
+    if ($trial['kind'] != 'ssl') {
+        $_SESSION['trial'] = $trial['id'];
+        $_SESSION['trial_key'] = $key;
+    } elseif (is_https()) {
+        header('Set-Cookie: ' . UNENCRYPTED_COOKIE . '=' . $key . '; Path=/; HttpOnly; SameSite=Lax', false);
+    } else {
+        $key = session_id();
+    }
+    change_trial($trial['id'], array('applying'), array('key' => sha1($key),
+        'session' => $trial['kind'] == 'ssl' ? session_id() : ''));
+    leave_session();
 }
 
 // The key, while this session has one that was not used.
@@ -82,25 +134,42 @@ function key_of_session($trial)
     return $trial['key'] != '' && text_of($_SESSION, 'trial') == $trial['id'] ? text_of($_SESSION, 'trial_key') : '';
 }
 
-// What a request with the key comes to: false when the key is none or not for here; else the trial, and the key is used up.
-function use_key($key)
+// Whether a request may use this key here, for a change in one of these states.
+function is_key_for_here($trial, $key, $states)
 {
-    $trial = advance_trial();
-    if (!$trial || !is_followed($trial) || $trial['key'] == '' || !same_text(sha1($key), $trial['key'])) {
+    if (!$trial || !is_followed($trial) || !in_array($trial['state'], $states) || $trial['key'] == ''
+        || !same_text(sha1($key), $trial['key'])) {
         return false;
     }
     $accounts = read_accounts();
     if (!isset($accounts[$trial['user']]) || md5($accounts[$trial['user']]['hash']) != $trial['account']) {
         return false;
     }
-    // From the same device, as far as that can be told: its address of the other family is another one.
-    $client = client_of_request();
-    $same_family = (ipv4_bytes($client) === false) == (ipv4_bytes($trial['client']) === false);
-    if (!arrives_by_change(session_of_trial($trial), $trial) || $same_family && !same_value($client, $trial['client'])) {
-        return false;
+    return arrives_by_change(session_of_trial($trial), $trial)
+        && (is_from_other_family($trial) || same_value(client_of_request(), $trial['client']));
+}
+
+// Then nobody can tell whether it is the same computer.
+function is_from_other_family($trial)
+{
+    return (ipv4_bytes(client_of_request()) === false) != (ipv4_bytes($trial['client']) === false);
+}
+
+// Returns whether it was this request that used the key up.
+function use_key_up($trial, $states)
+{
+    return change_trial($trial['id'], $states, array('key' => ''), array('key' => $trial['key']));
+}
+
+// Of a change of the mode any page may be the one that its maker is back at.
+function keep_if_mode_is_reached()
+{
+    $trial = read_trial();
+    $key = text_of($_COOKIE, UNENCRYPTED_COOKIE);
+    if ($trial && $trial['kind'] == 'ssl' && $key != '' && is_key_for_here($trial, $key, array('trial'))
+        && use_key_up($trial, array('trial'))) {
+        keep_trial($trial, 'back under the new settings', $trial['user'], client_of_request());
     }
-    return change_trial($trial['id'], array('applying', 'trial', 'kept'), array('key' => ''),
-        array('key' => $trial['key']));
 }
 
 // Whether a browser may still be on its way to the new settings: a change without a trial is kept when it has been made.
@@ -115,10 +184,31 @@ function is_looked_for($trial)
     return is_followed($trial) || $trial['state'] == 'undone' && time() - $trial['settled'] < 120;
 }
 
-// What this appliance answers to a random number: nobody else knows the record's secret.
-function answer_to_probe($trial, $number)
+function is_looked_for_here($trial)
 {
-    return sha1($trial['secret'] . ':' . $number);
+    $goes_back = $trial['state'] == 'undoing' || $trial['state'] == 'undone';
+    return $goes_back && same_value(address_of_request(), $trial['from'])
+        || arrives_by_change(session_of_trial($trial), $trial);
+}
+
+// What this appliance answers to the page's random number at one of its addresses ('' stands for any): nobody else knows the
+// record's secret, and who passes the question on gets the answer of another address.
+function answer_to_probe($trial, $address)
+{
+    return sha1($trial['secret'] . ':' . $trial['probe'] . ':' . short_ipv6($address));
+}
+
+// What the page has to know of each origin: array of 'origin', 'answer' and 'key'. A name may be anybody's, so that it gets no
+// key. Who may only look learns nothing by which a stranger could pass for the appliance.
+function questions_of($session, $trial, $origins)
+{
+    $questions = array();
+    foreach (may_change($session) ? $origins : array() as $origin) {
+        $host = preg_replace('/^[a-z]+:\/\/|:[0-9]+$|[][]/', '', $origin);
+        $questions[] = array('origin' => $origin, 'answer' => answer_to_probe($trial, is_address($host) ? $host : ''),
+            'key' => is_address($host) ? key_of_session($trial) : '');
+    }
+    return $questions;
 }
 
 // Scheme and address under which the browser finds the appliance after the change, or when it is undone, when it is using
@@ -161,7 +251,7 @@ function origin_of($address, $port)
 }
 
 // Where else the appliance may be found: array of 'origins' to be asked, with a random number, whether they are this
-// appliance, and 'leaves': whether the address in use goes away.
+// appliance, 'leaves': whether the address in use goes away, and 'known': whether they are surely the appliance's.
 function ways_of($session, $trial)
 {
     $moved_to = moved_to($trial);
@@ -185,7 +275,7 @@ function ways_of($session, $trial)
         foreach ($trial['others'] as $host) {
             $origins[] = origin_of($host, port_of_request());
         }
-        return array('origins' => $origins, 'leaves' => true);
+        return array('origins' => $origins, 'leaves' => true, 'known' => true);
     }
     if (family_of_kind($trial['kind']) == 'ipv6' && $trial['state'] == 'trial' && !ipv6_is_off_after($trial)) {
         $origins = array();

@@ -5,6 +5,8 @@ define('INTERNAL_ADDRESS', '0x00050040'); // the module's code
 
 $failures = array(); // each an array of 'message', 'code', 'place', 'advice'
 $failures_before_change = 0; // how many there were when begin_change() was called
+$change_begun = false; // whether it was
+$failures_before_reading = 0; // the same for begin_reading()
 
 // The error handler: a failure of the module is a warning with a code; anything else is a fault of the pages.
 function note_failure($level, $message, $file, $line)
@@ -30,12 +32,40 @@ function failed()
     return count($GLOBALS['failures']) > 0;
 }
 
+// To be called just before the module is asked for settings; could_read() then says whether it had them all.
+function begin_reading()
+{
+    $GLOBALS['failures_before_reading'] = count($GLOBALS['failures']);
+}
+
+function could_read()
+{
+    return count($GLOBALS['failures']) == $GLOBALS['failures_before_reading'];
+}
+
+// What the pages say of it: each cause once. What could not be read is one message, whatever was asked for in vain.
+function failure_messages()
+{
+    $reading = array();
+    $others = '';
+    foreach ($GLOBALS['failures'] as $i => $failure) {
+        if ($failure['place'] == '' || $GLOBALS['change_begun'] && $i >= $GLOBALS['failures_before_change']) {
+            $others .= failure_message(array($failure));
+        } else {
+            $reading[] = $failure;
+        }
+    }
+    return ($reading ? failure_message($reading) : '') . $others;
+}
+
 // To be called just before the module is asked to change something: what could not be read until then is shown
 // as well, but is no failure of the change. The session's other requests need not wait for the appliance.
 function begin_change()
 {
+    end_asking();
     leave_session();
     $GLOBALS['failures_before_change'] = count($GLOBALS['failures']);
+    $GLOBALS['change_begun'] = true;
 }
 
 function change_failed()

@@ -21,16 +21,42 @@ function replace_file($path, $content, $durable = false)
     $new = $path . '.' . random_hex(4);
     $mask = umask(077);
     $file = @fopen($new, 'wb');
-    $written = $file && @fwrite($file, $content) == strlen($content) && @fflush($file)
-        && (!$durable || put_on_disk($file)) && fclose($file);
+    $written = $file && @fwrite($file, $content) === strlen($content) && @fflush($file)
+        && (!$durable || put_on_disk($file)) && fclose($file) && keep_owner($path, $new);
     umask($mask);
-    if ($written && rename($new, $path)) {
+    if ($written && @rename($new, $path)) {
+        if ($durable) {
+            exec("sync '" . dirname($path) . "' 2>/dev/null || sync"); // the name, too
+        }
         return true;
     }
+    error_log('The file ' . $path . ' cannot be written: its disk is full, or may not be written.');
     if ($file) {
-        unlink($new);
+        @unlink($new);
     }
     return false;
+}
+
+// Root, who writes a file of the web service's user, leaves it to that one. $old: the file that is replaced, which may be missing.
+function keep_owner($old, $new)
+{
+    clearstatcache();
+    $model = file_exists($old) && $old != $new ? $old : dirname($old);
+    return fileowner($model) == fileowner($new) || @chown($new, fileowner($model)) && @chgrp($new, filegroup($model));
+}
+
+// What a replace_file() that was killed has left. To be called by who holds the lock under which the file is replaced.
+function remove_unfinished($path)
+{
+    $folder = opendir(dirname($path));
+    while ($folder && ($name = readdir($folder)) !== false) {
+        if (preg_match('/^' . basename($path) . '\.[0-9a-f]{8}$/D', $name)) {
+            @unlink(dirname($path) . '/' . $name);
+        }
+    }
+    if ($folder) {
+        closedir($folder);
+    }
 }
 
 // 4.3 cannot say it of one file.
@@ -48,7 +74,11 @@ function put_on_disk($file)
 function open_locked($path)
 {
     $mask = umask(077);
+    $is_new = !file_exists($path);
     $file = @fopen($path, 'a+b');
     umask($mask);
+    if ($file && $is_new) {
+        keep_owner($path, $path);
+    }
     return $file && flock($file, LOCK_EX) ? $file : false;
 }

@@ -10,8 +10,9 @@ function token_field()
 function form_begin($page, $change)
 {
     $locked = may_change($GLOBALS['session']) ? '' : ' disabled';
-    return '<form method="post" action="' . h($page) . '"><fieldset class="form"' . $locked . '>' . token_field()
-        . '<input type="hidden" name="change" value="' . h($change) . '">';
+    $again = fill_again($page, $change);
+    return '<form method="post" action="' . h($page) . '"' . ($again ? ' data-unsaved' : '') . '><fieldset class="form"' . $locked
+        . '>' . token_field() . proof_field($page) . '<input type="hidden" name="change" value="' . h($change) . '">';
 }
 
 // Ends the form with its button; $beside: markup in front of that. Who may not change anything is told so in its place.
@@ -20,7 +21,26 @@ function form_end($label, $beside = '')
     $button = may_change($GLOBALS['session'])
         ? $beside . '<p class="actions"><button type="submit" class="primary">' . h($label) . '</button></p>'
         : '<p class="hint">You may look at these settings; changing them needs the role admin.</p>';
+    fill_no_more();
     return '</fieldset>' . $button . '</form>';
+}
+
+// Likewise for what everybody may change of their own.
+function own_form_begin($page, $change)
+{
+    return '<form method="post" action="' . h($page) . '"><fieldset class="form">' . token_field()
+        . '<input type="hidden" name="change" value="' . h($change) . '">';
+}
+
+function own_form_end($label, $kind = 'primary')
+{
+    return '</fieldset><p class="actions"><button type="submit" class="' . $kind . '">' . h($label) . '</button></p></form>';
+}
+
+// For the browser's store of passwords, which otherwise takes another field for the name.
+function user_name_field($name)
+{
+    return '<input type="text" name="user" value="' . h($name) . '" autocomplete="username" readonly hidden>';
 }
 
 // Attributes that tie a field to its hint and its error, for those who cannot see that they stand beside it.
@@ -41,6 +61,7 @@ function field_notes($name, $hint, $error)
 function text_field($name, $label, $value, $errors, $hint = '', $more = '')
 {
     $error = isset($errors[$name]) ? $errors[$name] : '';
+    $value = typed_again($name, $value);
     return '<div class="field' . ($error == '' ? '' : ' wrong') . '"><label for="' . $name . '">' . h($label) . '</label>'
         . '<input type="text" id="' . $name . '" name="' . $name . '" value="' . h($value) . '"'
         . described_by($name, $hint, $error)
@@ -55,7 +76,7 @@ function choice_field($name, $legend, $choices, $value, $errors = array())
     $html = '<fieldset class="field"' . described_by($name, '', $error) . '><legend>' . h($legend) . '</legend>';
     foreach ($choices as $choice => $texts) {
         $html .= mark_field('radio', $name, $name . '-' . $choice, $choice, $texts['label'], $texts['hint'],
-            (string) $choice == (string) $value);
+            (string) $choice == (string) typed_again($name, $value));
     }
     return $html . field_notes($name, '', $error) . '</fieldset>';
 }
@@ -63,7 +84,7 @@ function choice_field($name, $legend, $choices, $value, $errors = array())
 // Yes or no.
 function check_field($name, $label, $checked, $hint = '')
 {
-    return mark_field('checkbox', $name, $name, '1', $label, $hint, $checked);
+    return mark_field('checkbox', $name, $name, '1', $label, $hint, typed_again($name, $checked ? '1' : '', '') == '1');
 }
 
 // A radio button or a check box, with its label behind it.
@@ -72,4 +93,13 @@ function mark_field($type, $name, $id, $value, $label, $hint, $checked)
     return '<div class="mark"><input type="' . $type . '" id="' . $id . '" name="' . $name . '" value="' . h($value) . '"'
         . ($checked ? ' checked' : '') . described_by($id, $hint, '') . '><div><label for="' . $id . '">' . h($label)
         . '</label>' . field_notes($id, $hint, '') . '</div></div>';
+}
+
+// A password is never shown again, and never filled in by the server.
+function password_field($name, $label, $errors, $autocomplete, $hint = '', $more = '')
+{
+    $error = isset($errors[$name]) ? $errors[$name] : '';
+    return '<div class="field' . ($error == '' ? '' : ' wrong') . '"><label for="' . $name . '">' . h($label) . '</label>'
+        . '<input type="password" id="' . $name . '" name="' . $name . '" autocomplete="' . $autocomplete . '" required'
+        . described_by($name, $hint, $error) . ' ' . $more . '>' . field_notes($name, $hint, $error) . '</div>';
 }

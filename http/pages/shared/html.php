@@ -28,11 +28,13 @@ function icon($name)
         'snmp.php' => 'M3 12h4l3-8 4 16 3-8h4',
         'traps.php' => 'M6 17v-6a6 6 0 0 1 12 0v6l2 2H4zM10 21.5h4',
         'diagnostics.php' => 'M3 5h18v14H3zM7 9l3 3-3 3M12 15h5',
+        'account.php' => 'M12 4a4 4 0 1 0 0 8 4 4 0 1 0 0-8zM4 20.5c0-4 3.5-6 8-6s8 2 8 6',
         'good' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM8 12.5l3 3 5-6',
         'bad' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM12 7v6M12 16.2v.6',
         'caution' => 'M12 4l9 16H3zM12 10v4.5M12 17v.6',
         'note' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM12 11v6M12 7.2v.6',
         'off' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM8 12h8',
+        'set' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM12 9.5a2.5 2.5 0 1 0 0 5 2.5 2.5 0 1 0 0-5z',
         'wait' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM12 7v5l3 2',
         'menu' => 'M4 7h16M4 12h16M4 17h16',
         'sign-out' => 'M14 4H5v16h9M10 12h11M17 8l4 4-4 4',
@@ -42,7 +44,8 @@ function icon($name)
         . $drawings[$name] . '"/></svg>';
 }
 
-// A state in a word, a drawing and a colour. $kind is 'good', 'bad', 'caution', 'off' or 'wait'.
+// A state in a word, a drawing and a colour. $kind is 'good' for what works, 'set' for what is only set, 'bad', 'caution',
+// 'off' or 'wait'.
 function state($kind, $text)
 {
     return '<span class="state ' . $kind . '">' . icon($kind) . h($text) . '</span>';
@@ -50,7 +53,19 @@ function state($kind, $text)
 
 function on_off($on)
 {
-    return $on ? state('good', 'On') : state('off', 'Off');
+    return $on ? state('set', 'On') : state('off', 'Off');
+}
+
+// What could not be read.
+function unknown()
+{
+    return state('caution', 'Unknown');
+}
+
+// A text, or that it is not known.
+function text_or_unknown($text)
+{
+    return $text === '' || $text === false ? unknown() : h($text);
 }
 
 // A message of several sentences; $html is markup.
@@ -59,10 +74,23 @@ function message($kind, $html)
     return '<div class="message ' . $kind . '">' . icon($kind) . '<div>' . $html . '</div></div>';
 }
 
-// What the module reported, with its code.
-function failure_message($failure)
+// What the module reported, for one cause: in words, and folded what it said with its code.
+function failure_message($failures)
 {
-    return message('bad', '<p><strong>' . h($failure['message']) . '</strong></p><p>' . h($failure['advice']) . '</p>'
-        . ($failure['code'] == '' ? '' : '<p class="code">Code ' . h($failure['code']) . ', reported at '
-        . h($failure['place']) . '</p>'));
+    $messages = array();
+    $advice = array();
+    $details = array();
+    foreach ($failures as $failure) {
+        $messages[$failure['message']] = h($failure['message']);
+        $advice[$failure['advice']] = h($failure['advice']);
+        $detail = h($failure['message']) . ($failure['code'] == '' ? ': ' : '. Code ' . h($failure['code']) . ', reported at ')
+            . h($failure['place']);
+        $details[$detail] = $detail;
+    }
+    $title = count($messages) == 1 ? implode('', $messages) : 'Not everything could be read';
+    $said = count($messages) == 1 && count($advice) == 1 ? implode('', $advice)
+        : 'What is not known stands here as "Unknown". The trace log under Diagnostics shows what was tried.';
+    return message('bad', '<p><strong>' . $title . '</strong></p><p>' . $said . '</p>' . ($failures[0]['place'] == '' ? ''
+        : '<details class="details"><summary>Details</summary><p class="code">' . implode('</p><p class="code">', $details)
+        . '</p></details>'));
 }

@@ -9,7 +9,8 @@ function seen_field($values)
     foreach ($values as $name => $value) {
         $pairs[] = urlencode($name) . '=' . urlencode((string) $value);
     }
-    return '<input type="hidden" name="seen" value="' . h(implode('&', $pairs)) . '">';
+    // A form that is filled again says what it showed when it was opened.
+    return '<input type="hidden" name="seen" value="' . h(typed_again('seen', implode('&', $pairs))) . '">';
 }
 
 // The settings that the form showed: name => text; empty when it said nothing about that.

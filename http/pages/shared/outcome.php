@@ -102,7 +102,7 @@ function outcome_sentence($trial, $outcome, $rows, $stored_only)
         return 'The appliance is changing its settings.';
     }
     if ($outcome == 'trial') {
-        return 'The new settings are in force and on trial: they are kept when you are back under them.';
+        return 'The new settings are in force and on trial.';
     }
     if ($outcome == 'missing' || $outcome == 'late') {
         $missing = isset($trial['values']['mode']) && $trial['values']['mode'] == 'DHCP' && $rows['mode']['same']
@@ -131,7 +131,8 @@ function undo_sentence($trial, $outcome)
         return 'The settings of before are being put back, because ' . reason_of_undo($trial) . '.';
     }
     if ($trial['undo_failed']) {
-        return 'The settings of before could not be put back: look at the values below, and at the trace log under Diagnostics.';
+        return 'The settings of before could not be put back' . ($trial['left'] == '' ? '' : '; that is tried again every minute')
+            . ': look at the values below, and at the trace log under Diagnostics.';
     }
     return $trial['why'] == 'start' ? 'Undone after a start' . $when . ': ' . reason_of_undo($trial) . '.'
         : 'Undone' . $when . ', because ' . reason_of_undo($trial) . '.';
@@ -152,6 +153,9 @@ function row_state($row, $outcome, $undo_failed)
         return !$undo_failed ? state('off', 'As before') : ($row['same'] ? state('caution', 'As wanted')
             : state('off', 'Not as wanted'));
     }
+    if ($outcome == 'undoing') {
+        return state('off', 'Going back');
+    }
     if ($row['same']) {
         return state('good', 'As wanted');
     }
@@ -161,21 +165,78 @@ function row_state($row, $outcome, $undo_failed)
     if ($outcome == 'kept') {
         return state('caution', 'Changed since');
     }
-    if ($outcome == 'undoing') {
-        return state('off', 'Going back');
-    }
     $has_old_value = $outcome == 'refused' && $row['now'] != 'None' && $row['now'] != 'No';
     return state('bad', $has_old_value ? 'Old value' : 'Not as wanted');
 }
 
-// How far the change is: each of the steps with the kind of its state.
+// How far the change is: each of the steps with the kind of its state. Without a trial nobody waits for who reaches it.
 function steps_of($trial, $outcome)
 {
-    $set = $outcome == 'applying' ? 'wait' : ($outcome == 'refused' ? 'bad' : 'good');
-    $reached = $trial['state'] == 'kept' ? 'good' : ($trial['state'] == 'trial' ? 'wait' : 'off');
-    $steps = array('Asked' => 'good', 'Set' => $set, 'Reached' => $reached, 'Kept' => $reached == 'wait' ? 'off' : $reached);
-    return $trial['state'] == 'undoing' || $trial['state'] == 'undone'
-        ? array('Asked' => 'good', 'Set' => 'good', 'Undone' => $trial['state'] == 'undone' ? 'caution' : 'wait') : $steps;
+    if ($trial['state'] == 'undoing' || $trial['state'] == 'undone') {
+        $undone = $trial['state'] == 'undoing' ? 'wait' : ($trial['undo_failed'] ? 'bad' : 'caution');
+        return array('Asked' => 'good', 'Set' => $trial['in_force'] ? 'good' : 'off', 'Undone' => $undone);
+    }
+    $kinds = array('applying' => 'wait', 'refused' => 'bad', 'late' => 'caution');
+    $steps = array('Asked' => 'good', 'Set' => isset($kinds[$outcome]) ? $kinds[$outcome] : 'good');
+    if ($trial['seconds'] > 0) {
+        $steps['Reached'] = $trial['state'] == 'kept' ? 'good' : ($trial['state'] == 'trial' ? 'wait' : 'off');
+        $steps['Kept'] = $trial['state'] == 'kept' ? 'good' : 'off';
+    }
+    return $steps;
+}
+
+// What the settings of before do not come back for: "... unless".
+function unless_what($session, $trial, $needs_wish)
+{
+    if (!may_change($session)) {
+        return $trial['user'] . ' is back';
+    }
+    return !$needs_wish ? 'you are back' : 'you press Keep or sign in '
+        . ($trial['to'] == '' ? 'under the new settings' : 'at ' . origin_of($trial['to'], '') . '/');
+}
+
+// The network that the visitor's computer has to be in to reach a static address, when it is in another one; else ''.
+function network_to_be_in($trial)
+{
+    $client = ipv4_bytes(client_of_request());
+    $ip = ipv4_bytes($trial['to']);
+    $mask = $ip && isset($trial['values']['netmask']) ? ipv4_bytes($trial['values']['netmask']) : false;
+    if (!$client || !$mask || same_network($client, $ip, netmask_length($mask))) {
+        return '';
+    }
+    $network = array();
+    foreach ($ip as $i => $byte) {
+        $network[] = $byte & $mask[$i];
+    }
+    return implode('.', $network) . '/' . netmask_length($mask);
+}
+
+// Whether the name servers of before came from a DHCP server, and nobody has set any since.
+function lost_name_servers($session, $trial)
+{
+    if ($trial['kind'] != 'ipv4' || empty($trial['before']['dhcp']) || $trial['values']['mode'] == 'DHCP') {
+        return false;
+    }
+    $servers = get_network_dns($session);
+    return $servers->dnsPrimary == '' && $servers->dnsSecondary == '';
+}
+
+// Where to go on from the end of a change, as markup.
+function links_back($trial, $kind, $outcome)
+{
+    $is_over = $outcome == 'refused' || $outcome == 'late';
+    $again = may_change($GLOBALS['session']) && ($outcome == 'undone' || $is_over)
+        && ($trial['kind'] == 'ipv4' || $trial['kind'] == 'ipv6') ? $kind['page'] . '?again=' . $trial['id'] : '';
+    $html = $is_over && $again != '' ? '' : '<a class="button" href="' . h($kind['page']) . '">Back to the settings</a>';
+    return $again == '' ? $html : $html . ' <a class="button" href="' . h($again) . '">Back, to try again</a>';
+}
+
+// The values of an undone or refused change that the visitor wants to correct: as in its record; or false.
+function values_again($kind)
+{
+    $trial = text_of($_GET, 'again') == '' ? false : read_trial();
+    return $trial && $trial['id'] == text_of($_GET, 'again') && $trial['kind'] == $kind && is_settled($trial)
+        ? $trial['values'] : false;
 }
 
 // What the next page says once to everybody who may change settings: array of the kind of message and its sentence; or false.

@@ -2,7 +2,10 @@
 // What every page begins with: require this file first. It loads what all pages share; a page that needs more of
 // this folder requires that itself.
 
-define('APPLIANCE_FOLDER', '/home/embedded/library'); // the appliance's programs and what they store
+// The appliance's programs and what they store. On a desk its accounts are reached from outside, too.
+if (!defined('APPLIANCE_FOLDER')) {
+    define('APPLIANCE_FOLDER', '/home/embedded/library');
+}
 
 $shared = dirname(__FILE__);
 require $shared . '/failures.php';
@@ -12,8 +15,10 @@ require $shared . '/request.php';
 require $shared . '/answer.php';
 require $shared . '/addresses.php';
 require $shared . '/accounts.php';
+require $shared . '/browsers.php';
 require $shared . '/session.php';
 require $shared . '/permission.php';
+require $shared . '/typed.php';
 require $shared . '/html.php';
 require $shared . '/forms.php';
 require $shared . '/trace_log.php';
@@ -21,6 +26,8 @@ require $shared . '/traced_changes.php';
 require $shared . '/audit_trail.php';
 require $shared . '/audit.php';
 require $shared . '/put_back.php';
+require $shared . '/asking.php';
+require $shared . '/facts.php';
 require $shared . '/trial.php';
 require $shared . '/coming_back.php';
 require $shared . '/outcome.php';
@@ -41,5 +48,6 @@ $pages = array(
     'security.php' => 'Web security',
     'snmp.php' => 'SNMP agent',
     'traps.php' => 'Trap receivers',
-    'diagnostics.php' => 'Diagnostics'
+    'diagnostics.php' => 'Diagnostics',
+    'account.php' => 'Account'
 );

@@ -44,6 +44,20 @@ function settings_of($session, $kind)
         'static' => $now->staticEnabled, 'ip' => $now->ipStatic, 'prefix' => $now->prefix, 'gateway' => $now->gateway);
 }
 
+// The settings in one line, to compare them: nobody's setting is what a DHCP server gives.
+function settings_text($kind, $settings)
+{
+    $family = family_of_kind($kind);
+    if ($family == 'ipv4') {
+        return $settings['dhcp'] ? 'dhcp' : $settings['ip'] . '/' . $settings['netmask'] . '?' . $settings['gateway'];
+    }
+    if ($family == 'ssl') {
+        return $settings['https'] ? 'https' : 'http';
+    }
+    return ($settings['enabled'] ? 'on' : 'off') . ' ' . ($settings['stateless'] ? 'stateless' : '') . ' '
+        . ($settings['dhcp'] ? 'dhcp' : '') . ' ' . static_ipv6_text($settings);
+}
+
 // Asks the module for the settings, in the name of the user. Returns whether they come into force later, in a thread that
 // writes its end into the trace log; else they are in force when this returns.
 function put_back($session, $kind, $settings)

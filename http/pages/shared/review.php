@@ -45,6 +45,17 @@ function address_warnings($from, $address, $gateway, $gateway_of_now)
     return $warnings;
 }
 
+// What goes with the lease: sentences.
+function name_server_warnings($session, $now)
+{
+    $set = get_network_dns($session);
+    if (!$now->dhcpEnabled || $set->dnsPrimary != '' || $set->dnsSecondary != '') {
+        return array();
+    }
+    return array('The name servers come from the DHCP server and go with its address: names are no longer resolved then. Set name'
+        . ' servers under DNS, before or after this.');
+}
+
 // Whether the visitor, who is in the appliance's network of now, is outside of the wanted one: sentences.
 function network_warnings($ip, $netmask, $now)
 {

@@ -16,17 +16,34 @@ define('TRIAL_LOCK', PRIVATE_FOLDER . '/trial.lock');
 define('TRIAL_ROOM', PRIVATE_FOLDER . '/trial.room'); // room on the disk for the way back
 define('TRIAL_SECONDS', 90); // unless another time is chosen
 define('UNDO_SECONDS', 60); // in which undoing comes to its end; then somebody else tries
-define('UNDO_TRIES', 3);
+define('UNDO_TRIES', 3); // at once; then one more every now and then
+if (!defined('START_SECONDS')) {
+    define('START_SECONDS', 30); // that the device's start waits for it
+}
+define('UNDO_PAUSE', 60); // seconds between those
+define('UNDO_PAUSE_OF_REQUESTS', 300); // which only take the place of a watcher that is gone
 define('EARLIER_LEASE', PRIVATE_FOLDER . '/lease'); // the address before the last change from DHCP
+
+$undoes_unwritten = false; // whether this process undoes also what it cannot write down: the watcher, and the start
+$unwritten_trial = false; // the record that it could not write yet
 
 // The last change of addressing or of the SSL mode, or false.
 function read_trial()
 {
+    $stored = stored_trial();
+    $unwritten = $GLOBALS['unwritten_trial'];
+    return $unwritten && (!$stored || $stored['id'] == $unwritten['id']) ? $unwritten : $stored;
+}
+
+function stored_trial()
+{
     clearstatcache();
     $text = is_readable(TRIAL_FILE) ? implode('', file(TRIAL_FILE)) : '';
     $trial = $text == '' ? false : @unserialize($text); // one that is damaged is none
-    return is_array($trial) && isset($trial['id'], $trial['state'], $trial['kind'], $trial['lines'], $trial['undo_failed'])
-        && isset($GLOBALS['kinds_of_change'][$trial['kind']]) ? $trial : false;
+    $is_whole = is_array($trial) && isset($trial['id'], $trial['state'], $trial['kind'], $trial['values'], $trial['before'])
+        && is_array($trial['values']) && is_array($trial['before']) && isset($GLOBALS['kinds_of_change'][$trial['kind']]);
+    // What the record of an older program lacks.
+    return $is_whole ? $trial + blank_trial() : false;
 }
 
 // Makes $trial the change that is on trial, unless there is one already. Returns whether that worked.
@@ -57,20 +74,30 @@ function new_trial($session, $kind, $values, $before, $from, $to, $seconds)
     return array('id' => random_hex(8), 'state' => 'applying', 'kind' => $kind, 'values' => $values, 'before' => $before,
         'from' => $from, 'to' => $to, 'trace' => $trace, 'began' => time(), 'seconds' => $seconds,
         'boot' => boot_id(), 'uptime' => uptime(), // the same beginning, whatever becomes of the clock
-        // who asked for it
         'user' => $session->user, 'account' => md5($accounts[$session->user]['hash']),
-        'client' => plain_address(text_of($_SERVER, 'REMOTE_ADDR')),
+        'client' => plain_address(text_of($_SERVER, 'REMOTE_ADDR')), 'secret' => random_hex(16), 'probe' => random_hex(16))
+        + blank_trial();
+}
+
+function blank_trial()
+{
+    return array('from' => '', 'to' => '', 'trace' => 0, 'began' => 0, 'boot' => '', 'uptime' => 0, 'seconds' => 0,
+        // all that it takes to have it again, and whether it has been in force
+        'wanted' => array(), 'in_force' => false,
+        // who asked for it
+        'user' => '', 'account' => '', 'client' => '',
         // hash of the single-use key, what the answer to a random number is made of, that number, and the session that ends
         // with the keeping; where else the appliance may be found, whether a browser without scripts is sent there, and what the
-        // watcher has to ask for
-        'key' => '', 'secret' => random_hex(16), 'probe' => random_hex(16), 'session' => '', 'others' => array(),
-        'goes_alone' => false, 'later' => array(),
+        // watcher has to ask for; whether there is one
+        'key' => '', 'secret' => '', 'probe' => '', 'session' => '', 'others' => array(), 'goes_alone' => false,
+        'later' => array(), 'watched' => false,
         // when it came to its end and was settled; why, by whom, from where; what the trace log said; who has been told
         'ended' => 0, 'settled' => 0, 'why' => '', 'by' => '', 'from_client' => '', 'lines' => array(), 'told' => array(),
         'as_wanted' => false,
-        // the undoing: when it was handed to the watcher and begun, where in the trace log, how often, with what end
+        // the undoing: when it was handed to the watcher and begun, where in the trace log, how often, with what end; what the
+        // settings were when it had failed
         'undo_handed' => 0, 'undo_began' => 0, 'undo_trace' => 0, 'undo_tries' => 0, 'undo_asked' => false,
-        'undo_failed' => false);
+        'undo_failed' => false, 'left' => '');
 }
 
 // Whether another change has to wait for this one.
@@ -120,7 +147,7 @@ function change_trial($id, $states, $changes, $expected = array())
 {
     $lock = open_locked(TRIAL_LOCK);
     $trial = read_trial();
-    $right = $lock && $trial && $trial['id'] == $id && in_array($trial['state'], $states);
+    $right = ($lock || $GLOBALS['undoes_unwritten']) && $trial && $trial['id'] == $id && in_array($trial['state'], $states);
     foreach ($expected as $name => $value) {
         $right = $right && $trial[$name] === $value;
     }
@@ -128,7 +155,7 @@ function change_trial($id, $states, $changes, $expected = array())
         foreach ($changes as $name => $value) {
             $trial[$name] = $value;
         }
-        $right = store_trial($trial);
+        $right = $lock && store_trial($trial) || hold_unwritten($trial);
         if ($right && is_settled($trial)) {
             free_room();
         }
@@ -143,7 +170,37 @@ function change_trial($id, $states, $changes, $expected = array())
 function store_trial($trial)
 {
     $text = serialize($trial);
-    return replace_file(TRIAL_FILE, $text, true) || free_room() && replace_file(TRIAL_FILE, $text, true);
+    if (!replace_file(TRIAL_FILE, $text, true) && !(free_room() && replace_file(TRIAL_FILE, $text, true))) {
+        return false;
+    }
+    $GLOBALS['unwritten_trial'] = false;
+    return true;
+}
+
+// The settings of before come back also when that cannot be written down: nobody can keep the change then. Whether this
+// process does that.
+function hold_unwritten($trial)
+{
+    if (!$GLOBALS['undoes_unwritten'] || ($trial['state'] != 'undoing' && $trial['state'] != 'undone')) {
+        return false;
+    }
+    $GLOBALS['unwritten_trial'] = $trial;
+    return true;
+}
+
+function write_unwritten()
+{
+    $lock = open_locked(TRIAL_LOCK);
+    $trial = $GLOBALS['unwritten_trial'];
+    $stored = stored_trial();
+    if ($lock && $stored && $stored['id'] != $trial['id']) {
+        $GLOBALS['unwritten_trial'] = false; // another change has begun meanwhile
+    } elseif ($lock) {
+        store_trial($trial);
+    }
+    if ($lock) {
+        fclose($lock);
+    }
 }
 
 // A disk that is full when the settings of before are to be stored again would leave the device where nobody finds it.
@@ -179,6 +236,9 @@ function advance_trial($overdue = false)
         && ($overdue || seconds_left($trial) == 0)) {
         $trial = undo_trial($trial, 'time', '', '');
     }
+    if ($trial && $trial['state'] == 'undone' && $trial['undo_failed']) {
+        $trial = retry_undo($trial);
+    }
     if ($trial && $trial['state'] == 'undoing') {
         $trial = follow_undo($trial);
     }
@@ -196,9 +256,10 @@ function follow_trace($trial)
     if ($end == 'failed') {
         $changes = array('state' => 'refused', 'settled' => time(), 'ended' => time(), 'lines' => $lines);
     } elseif ($trial['seconds'] == 0) {
-        $changes = array('state' => 'kept', 'settled' => time(), 'ended' => time(), 'lines' => $lines, 'why' => 'no trial');
+        $changes = array('state' => 'kept', 'settled' => time(), 'ended' => time(), 'lines' => $lines, 'why' => 'no trial',
+            'in_force' => true);
     } else {
-        $changes = array('state' => 'trial', 'ended' => time(), 'lines' => $lines);
+        $changes = array('state' => 'trial', 'ended' => time(), 'lines' => $lines, 'in_force' => true);
     }
     if (change_trial($trial['id'], array('applying'), $changes) && $end == 'failed') {
         audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], '');
@@ -209,14 +270,19 @@ function follow_trace($trial)
 // A change that is in force when the module's function returns.
 function ended_at_once($trial)
 {
-    return change_trial($trial['id'], array('applying'), array('state' => 'trial', 'ended' => time()));
+    $changes = array('state' => 'trial', 'ended' => time(), 'in_force' => true);
+    if ($trial['seconds'] == 0) {
+        $changes = array('state' => 'kept', 'settled' => time(), 'ended' => time(), 'why' => 'no trial', 'in_force' => true);
+    }
+    return change_trial($trial['id'], array('applying'), $changes);
 }
 
-// Keeps the change for good. $why: how it was proved, or asked for. Returns whether it was this call that did it.
+// Keeps the change for good. $why: how it was proved, or asked for. Returns whether it was this call that did it. When the time
+// is over it is too late, also while the undoing has not begun.
 function keep_trial($trial, $why, $by, $client)
 {
-    $kept = change_trial($trial['id'], array('trial'), array('state' => 'kept', 'settled' => time(), 'why' => $why, 'by' => $by,
-        'from_client' => $client, 'told' => array()));
+    $kept = seconds_left($trial) == 0 ? false : change_trial($trial['id'], array('trial'), array('state' => 'kept',
+        'settled' => time(), 'why' => $why, 'by' => $by, 'from_client' => $client, 'told' => array()));
     if (!$kept) {
         return false;
     }
@@ -225,6 +291,9 @@ function keep_trial($trial, $why, $by, $client)
     if ($kept['session'] != '' && is_file(SESSIONS_FOLDER . '/sess_' . $kept['session'])) {
         unlink(SESSIONS_FOLDER . '/sess_' . $kept['session']);
     }
+    if ($kept['kind'] == 'ssl') {
+        end_sessions_of_mode($kept['values']['https'] != 'On');
+    }
     return true;
 }
 
@@ -232,7 +301,7 @@ function keep_trial($trial, $why, $by, $client)
 // be undone, too. Returns the record.
 function undo_trial($trial, $why, $by, $client, $also_kept = false)
 {
-    $states = $also_kept ? array('applying', 'trial', 'kept') : array('applying', 'trial');
+    $states = $also_kept && can_undo_kept($trial) ? array('applying', 'trial', 'kept') : array('applying', 'trial');
     $undoing = change_trial($trial['id'], $states, array('state' => 'undoing', 'why' => $why, 'by' => $by,
         'from_client' => $client, 'undo_began' => 0, 'undo_tries' => 0, 'undo_handed' => 0,
         'told' => array()));
@@ -294,6 +363,19 @@ function is_undo_late($trial)
     return $trial['undo_tries'] < UNDO_TRIES && ($since < 0 || $since > UNDO_SECONDS);
 }
 
+// Whether what was kept may be undone: as long as nobody has changed these settings since, and for a day.
+function can_undo_kept($trial)
+{
+    $since = time() - $trial['settled'];
+    return $trial['state'] == 'kept' && $trial['seconds'] > 0 && $since >= 0 && $since < 86400 && $trial['wanted']
+        && settings_text($trial['kind'], $trial['wanted']) == text_of_settings_now($trial);
+}
+
+function text_of_settings_now($trial)
+{
+    return settings_text($trial['kind'], settings_of(session_of_trial($trial), $trial['kind']));
+}
+
 function follow_end_of_undo($trial)
 {
     $lines = traced_since($trial['undo_trace']);
@@ -301,7 +383,32 @@ function follow_end_of_undo($trial)
     if ($end != '') {
         end_undo($trial, $end == 'failed', $lines);
     } elseif ($trial['undo_tries'] >= UNDO_TRIES && time() - $trial['undo_began'] > UNDO_SECONDS) {
-        end_undo($trial, true, array());
+        // The trace log may be what could not be written.
+        end_undo($trial, text_of_settings_now($trial) != settings_text($trial['kind'], $trial['before']), array());
+    }
+    return read_trial();
+}
+
+// Undoing that has failed is tried again every now and then, as long as nobody has changed these settings since.
+function retry_undo($trial, $at_once = false)
+{
+    $since = time() - $trial['settled'];
+    $pause = php_sapi_name() == 'cli' ? UNDO_PAUSE : UNDO_PAUSE_OF_REQUESTS;
+    if ($trial['left'] == '' || !$at_once && $since >= 0 && $since < $pause) {
+        return $trial;
+    }
+    $settings = settings_of(session_of_trial($trial), $trial['kind']);
+    $now = settings_text($trial['kind'], $settings);
+    // At a start no address is in force yet.
+    $is_unknown = $trial['kind'] == 'ipv4' && !$settings['dhcp'] && !is_host_address($settings['ip']);
+    $same = array($trial['left'], $trial['wanted'] ? settings_text($trial['kind'], $trial['wanted']) : '');
+    if ($now == settings_text($trial['kind'], $trial['before'])) {
+        change_trial($trial['id'], array('undone'), array('undo_failed' => false, 'settled' => time(), 'told' => array()));
+    } elseif (!$is_unknown && !in_array($now, $same)) {
+        change_trial($trial['id'], array('undone'), array('left' => ''));
+    } else {
+        change_trial($trial['id'], array('undone'), array('state' => 'undoing', 'undo_began' => 0, 'undo_handed' => 0,
+            'undo_tries' => UNDO_TRIES - 1), array('undo_failed' => true));
     }
     return read_trial();
 }
@@ -312,8 +419,10 @@ function end_undo($trial, $failed, $lines)
         change_trial($trial['id'], array('undoing'), array('undo_began' => 0));
         return;
     }
+    $again = $failed && $trial['undo_failed']; // which has been said
     if (change_trial($trial['id'], array('undoing'), array('state' => 'undone', 'settled' => time(), 'undo_failed' => $failed,
-        'lines' => $lines))) {
+        'lines' => $lines, 'left' => $failed ? text_of_settings_now($trial) : '',
+        'told' => $again ? $trial['told'] : array())) && !$again) {
         audit_trial($trial, $failed ? 'could not be undone' : 'undone', $trial['by'] == '' ? $trial['user'] : $trial['by'],
             $trial['from_client'], why_undone($trial));
     }
@@ -330,6 +439,7 @@ function why_undone($trial)
 // The undo of a power cut, before the stored settings are put into force.
 function undo_at_start()
 {
+    $GLOBALS['undoes_unwritten'] = true;
     $trial = read_trial();
     if (!$trial) {
         error_log('The record of the last change cannot be read; if it was on trial, its settings stay.');
@@ -342,46 +452,78 @@ function undo_at_start()
     } elseif ($trial && $trial['state'] == 'applying') {
         change_trial($trial['id'], array('applying'), array('state' => 'kept', 'settled' => time(), 'why' => 'no trial'));
         return;
+    } elseif ($trial && $trial['state'] == 'undone' && $trial['undo_failed']) {
+        $trial = retry_undo($trial, true);
+        if (is_settled($trial)) {
+            return;
+        }
     } else {
         return;
     }
     // Nothing else goes on at a start.
     change_trial($trial['id'], array('undoing'), array('ended' => 1));
-    watch_undo(UNDO_SECONDS * UNDO_TRIES);
+    if (!watch_undo(START_SECONDS)) {
+        start_watching(); // which goes on with it
+        $trial = read_trial();
+        if ($trial && !is_settled($trial)) {
+            exec('kill -KILL ' . getmypid()); // the end of this process would wait for the module's thread
+        }
+    }
 }
 
-// The process stays until the module's thread has come to its end.
+// The process stays until the module's thread has come to its end. Returns whether the settings of before are back, and that
+// is written down.
 function watch_undo($seconds)
 {
     for ($i = 0; $i < 2 * $seconds; $i++) {
         $trial = advance_trial();
         if (!$trial || is_settled($trial)) {
-            return;
+            return !$trial || !$trial['undo_failed'] && !$GLOBALS['unwritten_trial'];
         }
         pause(0.5);
     }
+    return false;
 }
 
 // Waits for the end of the trial, whatever becomes of the web server and of who asked: the watcher's work.
 function watch_trial()
 {
-    $trial = read_trial();
-    $id = $trial ? $trial['id'] : '';
-    carry_out_later($trial);
+    $known = read_trial();
+    if (!$known || !function_exists('set_network_configuration_ipv4')) {
+        return; // without the module nothing can be put back: whoever waits for 'watched' begins no trial
+    }
+    $GLOBALS['undoes_unwritten'] = true;
+    change_trial($known['id'], array('applying', 'trial', 'undoing'), array('watched' => true));
+    carry_out_later($known);
     // The steps are counted too: a clock that is set back must not lengthen the trial.
-    $limit = $trial ? $trial['seconds'] + 5 : 0;
-    for ($step = 0; $trial && $trial['id'] == $id && !is_settled($trial) && $step < 2 * ($limit + UNDO_SECONDS * UNDO_TRIES);
-        $step++) {
-        pause(0.5);
-        $known = $trial;
+    $limit = $known['seconds'] + 5;
+    for ($step = 0; is_watched($known, $step); $step++) {
+        pause(is_settled($known) ? 5 : 0.5);
         $trial = advance_trial($step > 2 * $limit);
         if (!$trial) {
             $trial = restore_trial($known);
         }
+        if ($trial['id'] != $known['id']) {
+            return;
+        }
+        if ($GLOBALS['unwritten_trial'] && is_settled($trial)) {
+            write_unwritten();
+        }
+        $known = $trial;
     }
 }
 
-// A record that has become unreadable during the trial must not end it. Returns the one that is there.
+// Whether the watcher has to stay: also until an undoing that failed has worked, and until its end could be written down.
+function is_watched($trial, $step)
+{
+    if (is_settled($trial)) {
+        return $trial['undo_failed'] && $trial['left'] != '' || $GLOBALS['unwritten_trial'];
+    }
+    return $trial['seconds'] > 0 || $trial['state'] == 'undoing' || $step < 2 * UNDO_SECONDS;
+}
+
+// A record that has become unreadable during the trial must not end it. Returns the record, which is the known one also when that
+// cannot be written.
 function restore_trial($known)
 {
     $lock = open_locked(TRIAL_LOCK);
@@ -392,7 +534,8 @@ function restore_trial($known)
     if ($lock) {
         fclose($lock);
     }
-    return read_trial();
+    $trial = read_trial();
+    return $trial ? $trial : $known;
 }
 
 // A change that would cut the connection before the answer is out is asked for here: 'later' holds the settings.
@@ -431,7 +574,23 @@ function pause($seconds)
     usleep((int) (1000000 * $seconds));
 }
 
-// Starts the process that watches; returns whether that worked.
+// Starts the process that watches, and waits until that says so in the record. Returns whether it did.
+function is_being_watched($trial)
+{
+    if (!start_watching()) {
+        return false;
+    }
+    for ($i = 0; $i < 50; $i++) {
+        $now = read_trial();
+        if (!$now || $now['id'] != $trial['id'] || $now['watched']) {
+            break;
+        }
+        pause(0.1);
+    }
+    return $now && $now['id'] == $trial['id'] && $now['watched'];
+}
+
+// Returns whether it could be asked for: it may still fail to begin.
 function start_watching()
 {
     $lines = array();

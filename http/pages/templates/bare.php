@@ -1,6 +1,6 @@
 <?php
 // The frame around what is seen before signing in.
-$name = get_network_hostname();
+$name = name_in_frame();
 ?>
 <!DOCTYPE html>
 <html lang="en">
@@ -11,7 +11,7 @@ $name = get_network_hostname();
 <main id="content">
   <p class="brand"><?php echo icon('appliance'); ?><span>Network settings</span></p>
   <h1><?php echo h($name); ?></h1>
-<?php foreach ($GLOBALS['failures'] as $failure) echo failure_message($failure); ?>
+<?php echo failure_messages(); ?>
 <?php echo $content; ?>
 </main>
 </body>

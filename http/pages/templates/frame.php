@@ -1,11 +1,7 @@
 <?php
 // The frame around every page of a signed-in user.
 $page = basename(text_of($_SERVER, 'SCRIPT_NAME'));
-// A page that fetches itself to follow the trace log is not to fill it.
-if (!is_background() || !isset($_SESSION['name'])) {
-    $_SESSION['name'] = get_network_hostname();
-}
-$name = $_SESSION['name'];
+$name = name_in_frame();
 $message = '';
 if (!is_background()) {
     $message = text_of($_SESSION, 'message');
@@ -17,6 +13,7 @@ $trial = read_trial();
 $on_trial = $trial && $trial['seconds'] > 0 && is_active($trial) && $page != 'applying.php' && !isset($restarts) ? $trial : false;
 $wrong = failed() || !empty($errors);
 $current = isset($part_of) ? $part_of : $page;
+$left = seconds_of_session();
 ?>
 <!DOCTYPE html>
 <html lang="en">
@@ -27,7 +24,7 @@ $current = isset($part_of) ? $part_of : $page;
   echo h($refresh['address']); ?>"></noscript>
 <?php } ?>
 </head>
-<body>
+<body data-session="<?php echo $left['idle'], ' ', $left['at_most']; ?>" data-session-warning="<?php echo WARNING_SECONDS; ?>">
 <a class="skip" href="#content">Skip to the content</a>
 <div class="layout">
 <header class="bar">
@@ -60,10 +57,11 @@ $current = isset($part_of) ? $part_of : $page;
     <?php if (!empty($errors)) { ?>
       <?php echo message('bad', '<p><strong>Nothing was changed.</strong> Correct what is marked and save again.</p>'); ?>
     <?php } ?>
-    <?php foreach ($GLOBALS['failures'] as $failure) echo failure_message($failure); ?>
+    <?php echo failure_messages(); ?>
   </div>
 <?php echo $content; ?>
 </main>
 </div>
+<div id="session" role="status"></div>
 </body>
 </html>

@@ -1,14 +1,16 @@
-<section class="card" aria-labelledby="now">
+<section class="card" aria-labelledby="now"<?php if ($enabled && shows_interfaces()) echo ' data-poll="3000" data-parts="addresses"'; ?>>
   <h2 id="now">Now</h2>
   <dl class="states">
     <dt>IPv6</dt><dd><?php echo on_off($enabled); ?></dd>
-    <dt>Router advertisements</dt><dd><?php echo on_off($modes['stateless']); ?></dd>
+    <dt>Router advertisements</dt><dd><?php echo $unknown['stateless'] ? unknown() : on_off($modes['stateless']); ?></dd>
     <dt>DHCP</dt><dd><?php echo on_off($modes['dhcp']); ?></dd>
-    <dt>Static address</dt><dd><?php echo on_off($in_use); ?></dd>
+    <dt>Static address</dt><dd><?php echo $unknown['static'] ? unknown() : on_off($in_use); ?></dd>
   </dl>
   <h3>Addresses</h3>
-<?php if (!$addresses) { ?>
-  <p class="empty"><?php echo $enabled ? 'None yet.' : 'None, because IPv6 is off.'; ?></p>
+<?php if (shows_interfaces()) { ?>
+<?php echo render('ipv6_now', array('enabled' => $enabled)); ?>
+<?php } elseif (!$addresses) { ?>
+  <p class="empty"><?php echo $unknown['addresses'] ? unknown() : ($enabled ? 'None yet.' : 'None, because IPv6 is off.'); ?></p>
 <?php } else { ?>
   <ul class="addresses">
 <?php foreach ($addresses as $address) { ?>
@@ -17,6 +19,9 @@
   </ul>
 <?php } ?>
 </section>
+
+<?php if ($other_way != '') echo message('note', '<p>You are using these pages over IPv6. A change below may end that: they are at <a href="'
+    . h($other_way) . 'ipv6.php">' . h($other_way) . '</a>, too, which no change on this page touches.</p>'); ?>
 
 <section class="card" aria-labelledby="switch">
   <h2 id="switch">IPv6 altogether</h2>

@@ -1,8 +1,13 @@
 <section class="card"<?php if ($seconds > 0) echo ' data-return="applying.php"'; ?>>
-  <p><?php echo state('wait', 'The web server restarts with HTTPS ' . ($on ? 'on' : 'off')); ?></p>
-  <progress aria-label="The web server restarts"></progress>
+  <div data-until-there>
+    <p><?php echo state('wait', 'The web server restarts with HTTPS ' . ($on ? 'on' : 'off')); ?></p>
+    <progress aria-label="The web server restarts"></progress>
+  </div>
+  <p data-when-there hidden><?php echo state('good', 'HTTPS is there: continue below'); ?></p>
 <?php if ($seconds > 0) { ?>
-  <p>On trial: the mode of before comes back in <strong role="timer" aria-live="off" data-countdown="<?php echo (int) $seconds; ?>"><?php
+  <p data-when-over hidden>The time is over: either somebody has kept the new mode, or the mode of before answers again in some
+    seconds and this page goes there.</p>
+  <p data-until-over>On trial: the mode of before comes back in <strong role="timer" aria-live="off" data-countdown="<?php echo (int) $seconds; ?>"><?php
     echo (int) $seconds; ?></strong> seconds unless somebody reaches the pages in the new one.</p>
 <?php } ?>
 <?php if ($on) { ?>
@@ -21,6 +26,6 @@
   <p class="hint">It takes a few seconds until the pages are there. Then sign in again.</p>
 <?php } else { ?>
   <p>This takes a few seconds. Then sign in again at
-    <a href="<?php echo h($address); ?>" data-go-after-restart><?php echo h(preg_replace('/\?.*/', '', $address)); ?></a>.</p>
+    <a href="<?php echo h($address); ?>" data-go-after-restart><?php echo h(preg_replace('/[a-z]+\.php$/', '', $address)); ?></a>.</p>
 <?php } ?>
 </section>

@@ -12,6 +12,10 @@
 <?php } ?>
   </tbody>
 </table>
+<p><?php $seconds = chosen_seconds();
+  echo $seconds == 0 ? 'Apply puts the new settings into force at once, without a trial: nothing brings those of before back.'
+    : 'Apply puts the new settings on trial for ' . h($GLOBALS['times_of_trial'][(string) $seconds]) . ': you see how it goes, and'
+    . ' unless you are back under them in this time, those of before come back by themselves.'; ?></p>
 <form method="post" action="<?php echo h($page); ?>"><?php echo token_field(); ?>
 <?php foreach ($typed as $name => $value) { ?>
   <input type="hidden" name="<?php echo h($name); ?>" value="<?php echo h($value); ?>">

@@ -6,8 +6,12 @@
     . ' passwords, when it starts.</p>'); ?>
 </div>
 <form method="post" action="signin.php">
-  <?php echo token_field(); ?>
+  <input type="hidden" name="token" value="<?php echo h($token); ?>">
   <input type="hidden" name="next" value="<?php echo h($next); ?>">
+<?php if ($typed != '') { ?>
+  <input type="hidden" name="typed" value="<?php echo h($typed); ?>">
+  <input type="hidden" name="proof" value="<?php echo h($proof); ?>">
+<?php } ?>
   <div class="field">
     <label for="user">Name</label>
     <input type="text" id="user" name="user" value="<?php echo h($user); ?>" autocomplete="username"

@@ -1,19 +1,39 @@
 <?php
 $traps_error = isset($errors['traps']) ? $errors['traps'] : '';
 ?>
-<section class="card" aria-label="SNMP agent">
+<section class="card" aria-labelledby="now">
+  <h2 id="now">Now</h2>
+<?php if (has_facts()) { ?>
+  <p><?php echo agent_state(); ?></p>
+<?php foreach (service_alarms() as $alarm) if ($alarm[3] == 'snmp.php') echo alarm_message($alarm); ?>
+<?php } ?>
+  <dl>
+    <dt>Versions set</dt><dd><?php echo $is_known ? ($agent->version1 ? '1, 2c and 3' : '3 only') : unknown(); ?></dd>
+    <dt>Port</dt><dd><?php echo (int) $agent->port; ?></dd>
+  </dl>
+</section>
+
+<section class="card" aria-labelledby="setting">
+  <h2 id="setting">Setting</h2>
 <?php if ($meanwhile) echo meanwhile_message($meanwhile);
 echo form_begin('snmp.php', 'agent'), seen_field($seen);
-if (change_failed()) echo '<input type="hidden" name="again" value="1">'; ?>
+if (change_failed() || fact('snmp.answers') == 'no') echo '<input type="hidden" name="again" value="1">'; ?>
 <fieldset class="field"><legend>Answers requests of</legend>
   <?php echo check_field('version1', 'Versions 1 and 2c', $settings->version1,
       'Not encrypted: who knows the community can read everything.'); ?>
-  <p class="fixed"><?php echo $facts->version3 ? state('good', 'Version 3') : state('off', 'Version 3'); ?>
-    <span class="hint">Always on. Authentication <?php echo h($facts->algorithm); ?>, encryption
-    <?php echo $facts->encryption ? 'on' : 'off'; ?>, port <?php echo (int) $facts->port; ?>.</span></p>
+  <p class="fixed"><?php echo $agent->version3 ? state('set', 'Version 3') : state('off', 'Version 3'); ?>
+    <span class="hint">Always on. Authentication <?php echo h($agent->algorithm); ?>, encryption
+    <?php echo $agent->encryption ? 'on' : 'off'; ?>, port <?php echo (int) $agent->port; ?>.</span></p>
 </fieldset>
+<?php if ($shows_community) { ?>
+<details class="secret"<?php if (isset($errors['community_name'])) echo ' open'; ?>><summary>Read community: show or change it</summary>
 <?php echo text_field('community_name', 'Read community', $settings->community_name, $errors,
-    'The word that requests of versions 1 and 2c must carry.', 'maxlength="32"'); ?>
+    'The word that requests of versions 1 and 2c must carry.'); ?>
+</details>
+<?php } else { ?>
+<p class="fixed"><strong>Read community</strong> <span class="hint">Not shown: who knows it can read everything. It is for the role
+  admin.</span></p>
+<?php } ?>
 <fieldset class="field"<?php echo described_by('traps', '', $traps_error); ?>><legend>Sends traps of</legend>
   <?php echo check_field('trap1', 'Version 1', $settings->trap1); ?>
   <?php echo check_field('trap2', 'Version 2c', $settings->trap2); ?>

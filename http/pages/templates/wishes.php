@@ -6,7 +6,7 @@ if (may_change($GLOBALS['session']) && $trial['seconds'] > 0) {
     if ($trial['state'] == 'trial') {
         $wishes['keep'] = 'Keep';
     }
-    if ($trial['state'] == 'applying' || $trial['state'] == 'trial' || $trial['state'] == 'kept') {
+    if ($trial['state'] == 'applying' || $trial['state'] == 'trial' || can_undo_kept($trial)) {
         $wishes['undo'] = 'Undo now';
     }
 }
