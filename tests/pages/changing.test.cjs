@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {addresses, ask, datagramsTo, fromLan, inAppliance, ipv4Address, php, traceLog, until, web, withScript} = require('./appliance.cjs');
-const {beside, errorOf, messages, open, press, showCommunity, signIn, test} = require('./browser.cjs');
+const {beside, errorOf, messages, open, press, showCommunity, test} = require('./browser.cjs');
 
 // The pages as on a device that has no list of the networks within it: there the appliance alone knows what it refuses.
 async function withoutList(work) {
@@ -444,36 +444,6 @@ test('A receiver that cannot be sent to is reported', {user: 'admin'}, async (pa
   await press(page, 'Send a test trap');
   assert.match(await messages(page), /Failed to restart\/test trap registration\n+At least one receiver/);
   php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
-});
-
-test('The audit trail names user, operation, values and result', {user: 'admin'}, async (page) => {
-  php('create_snmp_trap_reg($session, 1, "10.20.0.77", "162"); create_snmp_trap_reg($session, 7, "10.20.0.78", "162");'
-    + 'foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
-  await open(page, 'diagnostics.php?live=0');
-  const rows = await page.locator('tbody tr').evaluateAll((all) => all.map((row) =>
-    [...row.cells].slice(1).map((cell) => cell.innerText.trim()).join('|')));
-  assert.match(rows[0], /^tests\|delete/);
-  assert.match(rows[1], /^tests\|createTrapRegistration\s+.*10\.20\.0\.78.*\|Refused\s+transport 7 is neither 1 \(UDP\) nor 2 \(TCP\)$/);
-  assert.match(rows[2], /^tests\|createTrapRegistration\s+.*10\.20\.0\.77.*\|Stored$/);
-});
-
-test('The audit trail names who changed the agent, whoever was served before', {user: 'admin'}, async (page, context) => {
-  const other = await context.browser().newContext();
-  const monitor = await other.newPage();
-  await signIn(monitor, 'monitor');
-  await open(page, 'snmp.php');
-  // More often than the interpreter has processes.
-  for (let i = 0; i < 12; i += 1) await open(monitor, 'traps.php');
-  await other.close();
-  await page.setChecked('#trap2', !await page.isChecked('#trap2'));
-  await press(page, 'Save');
-  await open(page, 'diagnostics.php?live=0');
-  const users = await page.locator('tbody tr').evaluateAll((all) => all.slice(0, 3).map((row) =>
-    row.cells[1].innerText.trim()));
-  assert.deepEqual(users, ['admin', 'admin', 'admin']);
-  await open(page, 'snmp.php');
-  await page.uncheck('#trap2');
-  await press(page, 'Save');
 });
 
 // trial.test.cjs has what happens with one.

@@ -10,7 +10,7 @@ const screens = {wide: {width: 1280, height: 900}, narrow: {width: 360, height: 
 
 async function judge(page, name) {
   assert.deepEqual(await accessibilityFaults(page), [], name);
-  const bare = await page.locator('.state').evaluateAll((all) => all.filter((state) => !state.querySelector('svg') || !state.innerText.trim()).length);
+  const bare = await page.locator('.state').evaluateAll((all) => all.filter((state) => !state.querySelector('svg') || !state.textContent.trim()).length);
   assert.equal(bare, 0, `${name} tells a state by its colour alone`);
   const over = await page.evaluate(() => document.documentElement.scrollWidth - innerWidth);
   assert.ok(over <= 0, `${name} is ${over} pixels too wide`);
@@ -213,6 +213,7 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
   await press(page, 'Delete 10.20.0.9');
   assert.equal(await messages(page), 'The receiver 10.20.0.9 is deleted.');
   await open(page, 'diagnostics.php');
+  await page.click('summary:has-text("Trace log")');
   await page.fill('#filter', 'entering get_fw');
   await press(page, 'Filter');
   assert.match(await page.innerText('#log'), /^(TRACE.*Entering get_fw_settings:<>\s*)+$/);

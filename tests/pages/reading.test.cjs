@@ -2,8 +2,7 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const fs = require('node:fs');
-const {ask, inAppliance, ipv4Address, php, traceLog, web, withScript} = require('./appliance.cjs');
+const {ask, inAppliance, ipv4Address, php, withScript} = require('./appliance.cjs');
 const {beside, errorOf, messages, open, pages, press, test} = require('./browser.cjs');
 
 test('The overview', {user: 'admin'}, async (page) => {
@@ -45,43 +44,6 @@ test('The SNMP agent', {user: 'admin'}, async (page) => {
   assert.equal(await page.isChecked('#auth_traps_enabled'), settings.auth_traps_enabled);
   assert.equal(await page.inputValue('#community_name'), settings.community_name);
   assert.match(await page.innerText('.fixed'), /Version 3\s+Always on\. Authentication MD5, encryption off, port 161\./);
-});
-
-test('The trace log is followed, and stops when asked to', {user: 'admin'}, async (page) => {
-  await open(page, 'diagnostics.php');
-  const [last] = (await page.innerText('#log .log')).trim().split('\n').slice(-1);
-  assert.ok(traceLog().includes(`${last}\n`), last);
-  php('set_eth2_port_settings($session, 1, 4242, 1);');
-  await page.waitForSelector('#log .log:has-text("INVALID ETH2 SPEED PARAMETER")');
-  await page.click('text=Stop following');
-  await page.waitForSelector('text=Follow');
-  assert.equal(await page.locator('[data-poll]').count(), 0);
-  php('set_eth2_port_settings($session, 1, 100, 1);');
-});
-
-test('The trace log is filtered as one types, and whatever is typed is only text', {user: 'admin'}, async (page) => {
-  await open(page, 'diagnostics.php');
-  await page.fill('#filter', 'eNTering GET_FW');
-  await page.waitForFunction(() => {
-    const lines = document.querySelector('#log .log')?.innerText.trim().split('\n') ?? [];
-    return lines.length > 0 && lines.every((line) => line.includes('Entering get_fw'));
-  });
-  assert.match(page.url(), /filter=eNTering\+GET_FW/);
-  await page.fill('#filter', '.*[');
-  await page.waitForSelector('#log >> text=No line has this text.');
-});
-
-test('A trace log that cannot be read is said, and is no fault', {user: 'admin'}, async (page) => {
-  fs.renameSync(`${web}/logs/php_extension.log`, `${web}/logs/away.log`);
-  fs.mkdirSync(`${web}/logs/php_extension.log`);
-  try {
-    await open(page, 'diagnostics.php?live=0');
-    assert.match(await page.innerText('#log'), /trace log cannot be read/);
-    assert.equal(await messages(page), '');
-  } finally {
-    fs.rmdirSync(`${web}/logs/php_extension.log`);
-    fs.renameSync(`${web}/logs/away.log`, `${web}/logs/php_extension.log`);
-  }
 });
 
 test('With no device script working every page still says what is wrong, with message and code', {user: 'admin'}, async (page) => {

@@ -22,6 +22,7 @@ DHCPV4_LEASE=$RUN/dhcpv4.lease
 USERS=$RUN/users # who runs what talks to strangers, where there are users for that: lines "NAME USER GROUP", in numbers
 DOOR=$RUN/door   # through which they have the device's own scripts run by root; is there only where it is needed
 DHCPV4_LEASE_FACTS=$RUN/dhcpv4.lease.facts # its server, and its end in seconds since the start, or "never"
+TEST_RESULTS=$RUN/test-traps # what became of the last test traps
 
 complain() {
   printf '%s: %s\n' "${0##*/}" "$1" >&2

@@ -14,20 +14,22 @@ $settings = get_network_dns($session);
 $is_known = could_read();
 $errors = array();
 $meanwhile = array();
+$labels = array('dnsPrimary' => 'Primary server', 'dnsSecondary' => 'Secondary server');
 $seen = array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary);
 if (is_post()) {
     $settings = new DnsSettings();
     $settings->dnsPrimary = posted('dnsPrimary');
     $settings->dnsSecondary = posted('dnsSecondary');
     $errors = dns_errors($settings);
-    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, array('dnsPrimary' => 'Primary server',
-        'dnsSecondary' => 'Secondary server'));
+    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, $labels);
     if (!$errors && !$meanwhile) {
         if (is_unchanged(array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary), $seen)) {
             go_to('dns.php', UNCHANGED);
         }
         begin_change();
         set_network_dns($session, $settings);
+        audit_change($session, 'dns', 'Set', 'the DNS servers', $labels, $is_known ? $seen : array(),
+            array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary));
         if (!change_failed()) {
             go_to('dns.php', $settings->dnsPrimary == '' ? 'The DNS servers are removed.' : 'The DNS servers are set.');
         }

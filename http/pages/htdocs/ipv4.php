@@ -52,6 +52,7 @@ function change_name($session, $old, $new)
     }
     begin_change();
     set_network_hostname($session, $new);
+    audit_change($session, 'name', 'Set', 'the host name', array('name' => 'Name'), array('name' => $old), array('name' => $new));
     if (!change_failed()) {
         go_to('ipv4.php', 'The host name is now ' . $new . '.');
     }

@@ -154,7 +154,10 @@ function switch_at_once($session, $change, $before)
         return array('static' => 'Another change of addressing is on trial: keep or undo it first. Yours was not applied.');
     }
     begin_change();
-    put_back($session, 'ipv6', wanted_ipv6($change == 'enabled' ? 'ipv6-switch' : 'ipv6-modes', $before));
+    $kind = $change == 'enabled' ? 'ipv6-switch' : 'ipv6-modes';
+    put_back($session, 'ipv6', wanted_ipv6($kind, $before));
+    audit_change($session, 'ipv6', 'Set', $change == 'enabled' ? 'the IPv6 switch' : 'the sources of IPv6 addresses',
+        $GLOBALS['kinds_of_change'][$kind]['labels'], values_before($kind, $before), values_typed($change));
     if (!change_failed()) {
         go_to('ipv6.php', $change == 'modes' ? ($before['enabled']
             ? 'The sources of addresses are set. Addresses appear or go within some seconds.'

@@ -190,6 +190,8 @@ function heading(page) {
 async function fetchPage() {
   const address = new URL(location);
   address.searchParams.set('background', '1');
+  // A page may leave out what is not asked for.
+  if (polled) address.searchParams.set('parts', polled.dataset.parts);
   try {
     const answer = await fetch(address, {signal: AbortSignal.timeout(3000)});
     const page = answer.ok ? new DOMParser().parseFromString(await answer.text(), 'text/html') : null;
@@ -202,15 +204,22 @@ async function fetchPage() {
 // Only what has changed is replaced, so that a screen reader says it once and a selection stays.
 function replace(old, fresh) {
   if (old.innerHTML === fresh.innerHTML) return;
-  const log = old.querySelector('.log');
+  const log = old.querySelector('.log.long, .calls');
   const focused = log && document.activeElement === log;
+  const unfolded = [...old.querySelectorAll('details[data-call][open]')].map((call) => call.dataset.call);
+  const chosen = document.activeElement.closest('[data-call]');
   const atEnd = !log || log.scrollTop + log.clientHeight >= log.scrollHeight - 8;
   const place = log ? log.scrollTop : 0;
   old.innerHTML = fresh.innerHTML;
-  const now = old.querySelector('.log');
+  for (const call of old.querySelectorAll('[data-call]')) {
+    call.open = unfolded.includes(call.dataset.call);
+    if (chosen && chosen.dataset.call === call.dataset.call) call.querySelector('summary').focus();
+  }
+  const now = old.querySelector('.log.long, .calls');
   if (!now) return;
   if (focused) now.focus();
-  now.scrollTop = atEnd ? now.scrollHeight : place;
+  // The calls have the newest first.
+  now.scrollTop = atEnd && now.matches('.log') ? now.scrollHeight : place;
 }
 
 function showEnd() {
@@ -226,6 +235,7 @@ if (filter) {
     event.preventDefault();
     apply();
   });
+  filter.form.errors.addEventListener('change', () => apply());
   filter.addEventListener('input', () => {
     clearTimeout(typed);
     typed = setTimeout(apply, 250);
@@ -233,8 +243,10 @@ if (filter) {
   const apply = async () => {
     const address = new URL(location);
     address.searchParams.set('filter', filter.value);
+    if (filter.form.errors.checked) address.searchParams.set('errors', '1');
+    else address.searchParams.delete('errors');
     history.replaceState(null, '', address);
-    for (const link of filter.form.querySelectorAll('a')) link.search = withFilter(link.search);
+    for (const link of filter.form.querySelectorAll('a.button')) link.search = withFilter(link.search);
     const asked = location.href;
     const page = await fetchPage();
     if (!page || location.href !== asked) return undefined;
@@ -248,6 +260,8 @@ if (filter) {
 function withFilter(search) {
   const query = new URLSearchParams(search);
   query.set('filter', filter.value);
+  if (filter.form.errors.checked) query.set('errors', '1');
+  else query.delete('errors');
   return `?${query}`;
 }
 

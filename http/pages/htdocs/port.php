@@ -20,6 +20,7 @@ if (!$is_known) {
 }
 $errors = array();
 $meanwhile = array();
+$labels = array('auto' => 'Autonegotiation', 'speed' => 'Speed', 'duplex' => 'Duplex');
 $seen = values_shown($settings);
 if (is_post()) {
     $settings = new PortSettings();
@@ -28,14 +29,15 @@ if (is_post()) {
     $settings->Speed = $settings->AutoNegotiate ? 100 : (int) posted('speed');
     $settings->Duplex = $settings->AutoNegotiate ? 1 : (posted('duplex') == '' ? -1 : (int) posted('duplex'));
     $errors = port_errors($settings);
-    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, array('auto' => 'Autonegotiation', 'speed' => 'Speed',
-        'duplex' => 'Duplex'));
+    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, $labels);
     if (!$errors && !$meanwhile) {
         if (is_unchanged(values_shown($settings), $seen)) {
             go_to('port.php', UNCHANGED);
         }
         begin_change();
         set_eth2_port_settings($session, $settings->AutoNegotiate, $settings->Speed, $settings->Duplex);
+        audit_change($session, 'port', 'Set', 'the Ethernet port', $labels, $is_known ? $seen : array(),
+            values_shown($settings));
         if (!change_failed()) {
             go_to('port.php', 'The Ethernet port is set.');
         }

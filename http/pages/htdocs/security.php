@@ -46,6 +46,10 @@ function switch_mode($session, $on)
         }
     }
     set_ssl_settings($session, $on);
+    if ($seconds == 0) {
+        audit_change($session, 'ssl', 'Switch', $on ? 'HTTPS on' : 'HTTPS off', $GLOBALS['kinds_of_change']['ssl']['labels'],
+            array('https' => $on ? 'Off' : 'On'), $trial['values']);
+    }
     if (change_failed()) {
         $failure = $GLOBALS['failures'][count($GLOBALS['failures']) - 1];
         drop_trial($trial, $failure['message']);

@@ -44,6 +44,7 @@ if (is_post()) {
         name_user_to_services($session);
         begin_change();
         set_snmp_settings($session, $settings);
+        audit_change($session, 'snmp', 'Set', 'the SNMP agent', $labels, $seen, values_shown($settings));
         if (!change_failed()) {
             go_to('snmp.php', 'The SNMP agent is set and has restarted.');
         }

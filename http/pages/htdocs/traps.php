@@ -1,6 +1,7 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
+require dirname(dirname(__FILE__)) . '/shared/trap_results.php';
 
 define('TRAP_PORT', '162');
 
@@ -23,17 +24,42 @@ if (is_post()) {
         }
     }
 }
+$results = isset($_SESSION['test_results']) ? $_SESSION['test_results'] : array();
+if (!is_background()) {
+    unset($_SESSION['test_results']); // they are of the moment
+}
 $receivers = get_snmp_trap_regs($session);
 show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
-    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'lead' => 'The systems to which the SNMP agent reports events.'));
+    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'results' => $results,
+    'lead' => 'The systems to which the SNMP agent reports events.'));
 
+// What became of it is shown beside each receiver.
 function test_receivers($session)
 {
+    $began = time();
     begin_change();
     restart_snmp($session);
-    if (!change_failed()) {
-        go_to('traps.php', 'A test trap was sent to every receiver. Look there whether it has arrived.');
+    $results = results_of_test($began);
+    $texts = array();
+    foreach ($results as $receiver => $result) {
+        $texts[$receiver] = outcome_of_trap($result);
     }
+    audit_change($session, 'traps', 'Send', 'a test trap to every receiver', labels_of($texts), array(), $texts);
+    return_to_session();
+    $_SESSION['test_results'] = $results;
+    if (!change_failed()) {
+        go_to('traps.php', $results ? 'A test trap was sent to every receiver: what became of it stands beside each.'
+            : 'A test trap was sent to every receiver. Look there whether it has arrived.');
+    }
+}
+
+function labels_of($values)
+{
+    $labels = array();
+    foreach ($values as $name => $value) {
+        $labels[$name] = $name;
+    }
+    return $labels;
 }
 
 // What the list shows of each: its number => text.
@@ -75,8 +101,13 @@ function delete_receiver($session, $id)
     if ($meanwhile) {
         return $meanwhile;
     }
+    begin_change();
     delete_snmp_trap_reg($session, $id);
-    if (find_receiver(get_snmp_trap_regs($session), $id)) {
+    $is_there = find_receiver(get_snmp_trap_regs($session), $id);
+    audit_change($session, 'traps', 'Delete', 'the trap receiver '
+        . receiver_text($receiver->ip, $receiver->port, $receiver->transport), array(), array(), array(),
+        $is_there ? 'the appliance did not delete it' : '');
+    if ($is_there) {
         refuse('500 Internal Server Error', 'Nothing was changed', 'The appliance did not delete the receiver '
             . $receiver->ip . '.');
     }
@@ -92,6 +123,8 @@ function add_receiver($session, $typed)
     }
     begin_change();
     create_snmp_trap_reg($session, (int) $typed['transport'], $typed['ip'], $typed['port']);
+    audit_change($session, 'traps', 'Add', 'the trap receiver '
+        . receiver_text($typed['ip'], $typed['port'], $typed['transport']));
     if (!change_failed()) {
         go_to('traps.php', 'The receiver ' . $typed['ip'] . ' is added.');
     }

@@ -38,12 +38,23 @@ function render($template, $values)
 function go_to($page, $message = '')
 {
     end_asking();
-    if ($message != '') {
+    if ($message != '' || $GLOBALS['audit_failed']) {
         return_to_session();
         $_SESSION['message'] = $message;
+        $_SESSION['audit_failed'] = $GLOBALS['audit_failed'];
     }
     send_headers();
     header('Location: ' . $page, true, 303);
+    exit;
+}
+
+// Answers with a file to be kept, never to be shown by the browser.
+function send_file($name, $type, $content)
+{
+    send_headers();
+    header('Content-Type: ' . $type . '; charset=utf-8');
+    header('Content-Disposition: attachment; filename="' . $name . '"');
+    echo $content;
     exit;
 }
 

@@ -4,6 +4,13 @@
 define('TRACE_LOG', APPLIANCE_FOLDER . '/HTTPService/lighttpd/logs/php_extension.log');
 define('TRACE_BYTES', 262144); // of the log's end that are looked at
 define('TRACE_LINES', 300); // that are shown at most
+define('TRACE_CALLS', 100); // that are shown at most
+define('TRACE_DOWNLOAD_BYTES', 4194304); // of the log's end, as a file
+
+// What the module says when a step has failed.
+define('TRACED_FAILURE', '/\]:(could not|failed|invalid)/i');
+// The values that not everybody may see.
+define('TRACED_SECRET', '/(\]:(?:setting community name|SNMP community):+)<.*>/');
 
 function trace_size()
 {
@@ -16,26 +23,90 @@ function open_trace_log()
     return is_file(TRACE_LOG) && is_readable(TRACE_LOG) ? fopen(TRACE_LOG, 'rb') : false;
 }
 
-// The last lines of the trace log in which the text occurs, oldest first; false when it cannot be read.
-function trace_lines($text)
+// The lines at the end of the trace log, oldest first; false when it cannot be read. $session: who is to see them.
+function end_of_trace($session, $bytes = TRACE_BYTES)
 {
     $file = open_trace_log();
     if (!$file) {
         return false;
     }
-    $start = max(0, trace_size() - TRACE_BYTES);
+    $start = max(0, trace_size() - $bytes);
     fseek($file, $start);
     if ($start > 0) {
         fgets($file, TRACE_BYTES); // the rest of a line
     }
-    $found = array();
+    $lines = array();
     while (($line = fgets($file, TRACE_BYTES)) !== false) {
-        if ($text == '' || strpos(strtolower($line), strtolower($text)) !== false) {
-            $found[] = rtrim($line, "\n");
-        }
+        $line = rtrim($line, "\n");
+        $lines[] = may_change($session) ? $line : preg_replace(TRACED_SECRET, '$1<not shown>', $line);
     }
     fclose($file);
+    return $lines;
+}
+
+// The last of the lines in which the text occurs.
+function lines_with($text, $lines)
+{
+    $found = array();
+    foreach ($lines as $line) {
+        if (strpos(strtolower($line), strtolower($text)) !== false) {
+            $found[] = $line;
+        }
+    }
     return array_slice($found, -TRACE_LINES);
+}
+
+// The calls of the module's functions, oldest first: each an array of 'name', 'time', 'lines', 'failed', 'left' (whether it has
+// come to its end) and 'key', by which it is known again. Lines do not say whose they are: where calls of several requests mix, one
+// belongs to the call that began last.
+function calls_of($lines)
+{
+    $calls = array();
+    $open = array(); // name => where in $calls, of those that have not come to their end
+    $current = -1;
+    $same = array(); // first line => how often
+    foreach ($lines as $line) {
+        $is_edge = preg_match('/^\w+\[([^\]]*)\]:(entering|exiting|leaving) ([a-z0-9_]+):/i', $line, $edge);
+        $begins = $is_edge && strtolower($edge[2]) == 'entering';
+        if ($begins || $current < 0) {
+            $name = $begins ? $edge[3] : 'The rest of an earlier call';
+            $same[$line] = isset($same[$line]) ? $same[$line] + 1 : 1;
+            $calls[] = array('key' => md5($line . $same[$line]), 'name' => $name, 'time' => $begins ? $edge[1] : '',
+                'lines' => array(), 'failed' => false, 'left' => !$begins);
+            $current = count($calls) - 1;
+            $open[$name] = $current;
+        } elseif ($is_edge && isset($open[$edge[3]])) {
+            $current = $open[$edge[3]];
+            $calls[$current]['left'] = true;
+            unset($open[$edge[3]]);
+        }
+        $calls[$current]['lines'][] = $line;
+        $calls[$current]['failed'] = $calls[$current]['failed'] || preg_match(TRACED_FAILURE, $line);
+        if ($is_edge && !$begins) {
+            $current = $open ? end($open) : $current;
+        }
+    }
+    return $calls;
+}
+
+function failed_calls($calls)
+{
+    $failed = array();
+    foreach ($calls as $call) {
+        if ($call['failed']) {
+            $failed[] = $call;
+        }
+    }
+    return $failed;
+}
+
+function lines_of_calls($calls)
+{
+    $lines = array();
+    foreach ($calls as $call) {
+        $lines = array_merge($lines, $call['lines']);
+    }
+    return $lines;
 }
 
 // The first lines behind the byte $from that match, oldest first; false when the trace log cannot be read.

@@ -261,8 +261,10 @@ function follow_trace($trial)
     } else {
         $changes = array('state' => 'trial', 'ended' => time(), 'lines' => $lines, 'in_force' => true);
     }
-    if (change_trial($trial['id'], array('applying'), $changes) && $end == 'failed') {
-        audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], '');
+    $is_mine = change_trial($trial['id'], array('applying'), $changes);
+    if ($is_mine && $changes['state'] != 'trial') {
+        audit_trial($trial, $end == 'failed' ? 'refused by the appliance' : 'kept', $trial['user'], $trial['client'],
+            $end == 'failed' ? '' : 'without a trial');
     }
     return read_trial();
 }
@@ -601,10 +603,5 @@ function start_watching()
 
 function audit_trial($trial, $operation, $user, $client, $details)
 {
-    $values = array();
-    foreach ($trial['values'] as $name => $value) {
-        $values[] = $GLOBALS['kinds_of_change'][$trial['kind']]['labels'][$name] . ' ' . $value;
-    }
-    write_audit($user, $client, $GLOBALS['kinds_of_change'][$trial['kind']]['name'] . ' ' . $operation,
-        implode(', ', $values) . ($details == '' ? '' : '; ' . $details));
+    write_audit_of_trial($trial, $operation, $user, $client, $details);
 }

@@ -3,9 +3,11 @@
 $page = basename(text_of($_SERVER, 'SCRIPT_NAME'));
 $name = name_in_frame();
 $message = '';
+$audit_failed = false;
 if (!is_background()) {
     $message = text_of($_SESSION, 'message');
-    unset($_SESSION['message']);
+    $audit_failed = $GLOBALS['audit_failed'] || !empty($_SESSION['audit_failed']);
+    unset($_SESSION['message'], $_SESSION['audit_failed']);
 }
 $news = is_background() || !isset($GLOBALS['session']) || $page == 'applying.php' ? false : news_of_trial($GLOBALS['session']);
 $trial = read_trial();
@@ -45,6 +47,7 @@ $left = seconds_of_session();
   </div>
   <div id="messages" role="status"<?php if ($wrong || $message != '') echo ' tabindex="-1" data-focus'; ?>>
     <?php if ($message != '') echo message('good', '<p>' . h($message) . '</p>'); ?>
+    <?php if ($audit_failed) echo message('caution', '<p>What was done could not be written into the audit.</p>'); ?>
     <?php if ($news) echo message($news['kind'] == 'good' ? 'good' : 'caution', '<p>' . h($news['sentence'])
         . ' <a href="applying.php">Show the change</a></p>'); ?>
     <?php if ($on_trial) { ?>

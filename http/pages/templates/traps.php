@@ -10,6 +10,7 @@ if ($meanwhile) echo meanwhile_message($meanwhile);
 <?php } else { ?>
   <table class="stacks">
     <thead><tr><th scope="col">Address</th><th scope="col">Port</th><th scope="col">Transport</th>
+      <?php if ($results) { ?><th scope="col">Test</th><?php } ?>
       <?php if ($may_change) { ?><th scope="col"><span class="unseen">Delete</span></th><?php } ?></tr></thead>
     <tbody>
 <?php foreach ($receivers as $receiver) { ?>
@@ -18,6 +19,10 @@ if ($meanwhile) echo meanwhile_message($meanwhile);
       <td data-label="Port"><?php echo (int) $receiver->port; ?></td>
       <td data-label="Transport"><?php echo h(isset($transports[$receiver->transport]) ? $transports[$receiver->transport]
           : 'Number ' . $receiver->transport); ?></td>
+<?php if ($results) { ?>
+      <td data-label="Test"><div><?php $notation = receiver_in_notation($receiver);
+        echo outcome_of_trap_in_words(isset($results[$notation]) ? $results[$notation] : ''); ?></div></td>
+<?php } ?>
 <?php if ($may_change) { ?>
       <td><details class="confirm"><summary>Delete<span class="unseen"> <?php echo h($receiver->ip); ?></span></summary>
         <form method="post" action="traps.php"><?php echo token_field();

@@ -1,0 +1,9 @@
+<?php
+// The audit as a file for other programs, filtered as under Diagnostics.
+require dirname(dirname(__FILE__)) . '/shared/page.php';
+require dirname(dirname(__FILE__)) . '/shared/audit_list.php';
+
+signed_in();
+list($entries) = whole_audit(audit_entries());
+send_file('audit.csv', 'text/csv', audit_as_csv(filtered_audit($entries, array('user' => text_of($_GET, 'user'),
+    'subject' => text_of($_GET, 'subject'), 'outcome' => text_of($_GET, 'outcome')))));
