@@ -2,8 +2,7 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const fs = require('node:fs');
-const {applianceFolder, ipv4Address, php, withScript} = require('./appliance.cjs');
+const {applianceFolder, ipv4Address, php, withScript, writeAsPages} = require('./appliance.cjs');
 const {accessibilityFaults, asksToSignIn, base, enterPassword, messages, open, pages, press, served, showCommunity, signIn, test} = require('./browser.cjs');
 
 const screens = {wide: {width: 1280, height: 900}, narrow: {width: 360, height: 740}};
@@ -81,7 +80,7 @@ test('States that are seldom seen are accessible and fit', {viewport: screens.na
   await page.fill('#password', 'wrong');
   await press(page, 'Sign in');
   await judge(page, 'signin.php with an error');
-  fs.writeFileSync(`${applianceFolder}/HTTPService/dat/attempts`, '');
+  writeAsPages(`${applianceFolder}/HTTPService/dat/attempts`, '');
 
   await enterPassword(page);
   await open(page, 'dns.php');

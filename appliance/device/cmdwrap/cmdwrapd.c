@@ -5,7 +5,8 @@
      cmdwrapd USER GROUP    numbers; besides root only this user may ask, and the socket is open to this group
 
    Each request has a process of its own from the start, which becomes the script: a client that asks for
-   nothing, or sends what is no request, holds up nobody but itself. */
+   nothing, or sends what is no request, holds up nobody but itself. A script whose client is ended, is ended
+   with it: to whoever asked, the client is the command. */
 #define _GNU_SOURCE
 #include <errno.h>
 #include <fcntl.h>
@@ -45,6 +46,8 @@ static const struct Script Scripts[] = {
     {SCRIPTS "ipv4Manager.sh", MayTakeAnything},
     {SCRIPTS "ipv6Manager.sh", MayTakeAnything},
     {SCRIPTS "probeAddress.sh", 1},
+    {SCRIPTS "pingAddress.sh", 1},
+    {SCRIPTS "lookUpName.sh", 1},
     {SCRIPTS "applyWebMode.sh", 0},
     {SCRIPTS "restartSNMP.sh", 0},
     {LIBRARY "/testTrapRegistration.sh", 0},
@@ -53,6 +56,7 @@ static const struct Script Scripts[] = {
 struct Request {
   int connection; /* -1: free */
   pid_t process;
+  int isEnding; /* it was told to */
 };
 
 static struct Request requests[AtOnce];
@@ -190,7 +194,6 @@ static void answerEnded(void) {
   while ((process = waitpid(-1, &waitStatus, WNOHANG)) > 0) {
     struct Request* const request = requestOf(process);
     if (request == NULL) continue;
-    /* Whoever asked may be gone: the command was run to its end all the same. */
     send(request->connection, &waitStatus, sizeof(waitStatus), MSG_NOSIGNAL | MSG_DONTWAIT);
     close(request->connection);
     request->connection = -1;
@@ -215,6 +218,29 @@ static void take(int door, struct Request* request, uid_t user) {
   }
   request->connection = connection;
   request->process = process;
+  request->isEnding = 0;
+}
+
+/* With all that it has started, but for what has a life of its own by design: that is in no group of it. */
+static void endAbandoned(struct Request* request) {
+  request->isEnding = 1;
+  kill(-request->process, SIGKILL);
+  kill(request->process, SIGKILL); /* before it has a group */
+}
+
+/* Waits for a request, or the end of a script or of a client. Whether there is a request. */
+static int waitForNews(int door, const sigset_t* signals) {
+  struct pollfd news[1 + AtOnce];
+  for (int i = 0; i < AtOnce; ++i) {
+    news[i] =
+        (struct pollfd){.fd = requests[i].isEnding ? -1 : requests[i].connection}; /* tells its end anyway */
+  }
+  news[AtOnce] = (struct pollfd){.fd = freeRequest() == NULL ? -1 : door, .events = POLLIN};
+  const int ready = ppoll(news, 1 + AtOnce, NULL, signals);
+  for (int i = 0; ready > 0 && i < AtOnce; ++i) {
+    if ((news[i].revents & POLLHUP) != 0) endAbandoned(&requests[i]);
+  }
+  return ready > 0 && news[AtOnce].revents != 0;
 }
 
 /* Nobody else is let in before it is the group's: its folder is root's alone. */
@@ -265,10 +291,8 @@ int main(int count, char** arguments) {
   sayReady();
 
   for (;;) {
-    struct Request* const request = freeRequest();
-    struct pollfd asked = {.fd = request == NULL ? -1 : door, .events = POLLIN};
-    const int ready = ppoll(&asked, 1, NULL, &before);
+    const int isAsked = waitForNews(door, &before);
     if (childEnded) answerEnded();
-    if (ready > 0 && request != NULL) take(door, request, user);
+    if (isAsked) take(door, freeRequest(), user);
   }
 }

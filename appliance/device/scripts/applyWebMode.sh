@@ -14,11 +14,12 @@ behind_the_door "$@"
 . "$BIN/management.sh"
 # shellcheck source=SCRIPTDIR/web_server.sh
 . "$BIN/web_server.sh"
+# shellcheck source=SCRIPTDIR/certificate.sh
+. "$BIN/certificate.sh"
 
 SOCKETS=$CONFIGURATION/sockets # "http ADDRESS:PORT" and "https ...", and "published HTTP:HTTPS", the ports outside
 MODE=$CONFIGURATION/mode.conf
 KEY=$CONFIGURATION/key.pem
-CERTIFICATE=$CONFIGURATION/certificate.pem
 CERTIFICATE_NAMES=$CONFIGURATION/certificate.names
 DAYS_VALID=825
 RENEWED_BEFORE=2592000 # seconds before its end
@@ -159,6 +160,7 @@ apply_mode() {
   enabled=$(query 'SELECT ssl_enabled FROM settings') || fail 'the SSL mode cannot be read'
   case $enabled in 0 | 1) ;; *) fail 'the SSL mode is missing in the management database' ;; esac
   [ "$enabled" = 0 ] || require_certificate
+  print_certificate >/dev/null
   store_names
   rm -f "$MODE.before"
   ln "$MODE" "$MODE.before" 2>/dev/null
