@@ -15,9 +15,12 @@ function fromLan(...command) {
   return execFileSync(command[0], command.slice(1), {encoding: 'utf8', stdio: ['ignore', 'pipe', 'pipe']}).trim();
 }
 
+// Runs a program as the interpreter of the pages does: with its user, and no rights.
+const asPages = ['sh', `${applianceFolder}/AppManager/bin/asUser.sh`, 'pages'];
+
 // In the appliance's network; this process is on the LAN.
 function inAppliance(...command) {
-  return fromLan('nsenter', '--net=/run/appliance/appliance.net', '--', ...command);
+  return fromLan('nsenter', '--net=/run/appliance/appliance.net', '--', ...command[0] === 'php' ? asPages : [], ...command);
 }
 
 function addresses(family) {
@@ -104,5 +107,5 @@ async function datagramsTo(port, work) {
   }
 }
 
-module.exports = {accounts, addresses, applianceFolder, ask, datagramsTo, errorLog, fromLan, inAppliance, ipv4Address,
+module.exports = {accounts, addresses, applianceFolder, asPages, ask, datagramsTo, errorLog, fromLan, inAppliance, ipv4Address,
   ipv4ChangesOver, php, traceLog, until, web, withScript, writeAsPages};

@@ -4,7 +4,8 @@
 const fs = require('node:fs');
 const nodeTest = require('node:test');
 const tls = require('node:tls');
-const {chromium} = require('playwright-core');
+const {HtmlValidate} = require('html-validate');
+const {chromium, firefox} = require('playwright-core');
 const appliance = require('./appliance.cjs');
 
 const failures = `${process.env.PAGES_TEST_FOLDER}/failures`;
@@ -12,13 +13,23 @@ const flags = ['--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', 
   '--disable-background-networking', '--disable-component-update', '--disable-sync'];
 const axe = fs.readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 const pages = ['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php', 'traps.php',
-  'diagnostics.php', 'account.php'];
+  'backup.php', 'diagnostics.php', 'account.php'];
 
-let browser;
-nodeTest.before(async () => {
-  browser = await chromium.launch({executablePath: '/usr/bin/chromium', args: flags});
-});
-nodeTest.after(() => browser.close());
+const browsers = {
+  chromium: () => chromium.launch({executablePath: '/usr/bin/chromium', args: flags}),
+  // Debian's, told what to do by the protocol that browsers have in common: that is what the channel stands for.
+  firefox: () => firefox.launch({channel: 'moz-firefox', executablePath: '/usr/bin/firefox-esr', timeout: 120000}),
+};
+const validator = new HtmlValidate(require('./htmlvalidate.json'));
+const delivered = new WeakMap(); // page => the answer that it shows
+let kind = 'chromium';
+let browser; // from the first test on
+nodeTest.after(() => browser?.close());
+
+// For all tests of a file.
+function useFirefox() {
+  kind = 'firefox';
+}
 
 function base(scheme = 'http') {
   return `${scheme}://${appliance.ipv4Address()}/`;
@@ -30,6 +41,7 @@ function base(scheme = 'http') {
 function test(name, options, work) {
   nodeTest.test(name, async () => {
     const {user, expected, ...contextOptions} = options;
+    browser ??= await browsers[kind]();
     const context = await browser.newContext({reducedMotion: 'reduce', ignoreHTTPSErrors: true, ...contextOptions});
     context.setDefaultTimeout(10000);
     // A form with changes asks before it is left.
@@ -37,7 +49,13 @@ function test(name, options, work) {
     const page = await context.newPage();
     const faults = [];
     const logged = appliance.errorLog().length;
-    page.on('pageerror', (error) => faults.push(error.message));
+    page.on('response', (answer) => {
+      if (answer.request().isNavigationRequest() && answer.frame() === page.mainFrame()) delivered.set(page, answer);
+    });
+    page.on('pageerror', (error) => {
+      // Firefox says so of an address at which nobody answers.
+      if (!error.message.endsWith('(Reason: CORS request did not succeed). Status code: (null).')) faults.push(error.message);
+    });
     page.on('console', (message) => {
       if (/Content Security Policy/.test(message.text())) faults.push(message.text());
     });
@@ -172,11 +190,19 @@ function served(scheme) {
 
 // What axe finds wrong, each as a sentence.
 async function accessibilityFaults(page) {
-  await page.evaluate(axe);
-  const {violations} = await page.evaluate(() => window.axe.run(document));
+  if (!await page.evaluate(() => 'axe' in window)) await page.evaluate(axe);
+  const {violations} = await page.evaluate(() => window.axe.run(document, {resultTypes: ['violations']}));
   return violations.map((violation) =>
     `${violation.id}: ${violation.help} (${violation.nodes.map((node) => node.target.join(' ')).join(', ')})`);
 }
 
-module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, enterPassword, errorOf, messages, open, pages, press, served,
-  sessionCookie, showCommunity, signIn, test};
+// What is no valid HTML in the page as the appliance has sent it, each as a sentence with its line.
+async function markupFaults(page) {
+  const text = await delivered.get(page).text();
+  const {results} = await validator.validateString(text, page.url());
+  return results.flatMap(({messages: all}) => all.map(({line, message, ruleId}) =>
+    `${ruleId}: ${message} (${text.split('\n')[line - 1].trim()})`));
+}
+
+module.exports = {accessibilityFaults, asksToSignIn, base, beside, certificate, enterPassword, errorOf, markupFaults, messages, open, pages,
+  press, served, sessionCookie, showCommunity, signIn, test, useFirefox};

@@ -144,20 +144,20 @@ async function withDhcpServer(order, work) {
 class Client {
   constructor(localAddress) {
     this.localAddress = localAddress;
-    this.cookie = '';
+    this.cookies = new Map();
     this.headers = {};
   }
 
   // Fields: what is posted; without them the address is fetched. Redirects are not followed.
   ask(address, fields) {
-    const headers = {...this.headers, cookie: this.cookie};
+    const headers = {...this.headers, cookie: [...this.cookies].map((pair) => pair.join('=')).join('; ')};
     if (fields) headers['content-type'] = 'application/x-www-form-urlencoded';
     return new Promise((resolve, reject) => {
       const request = http.request(address, {method: fields ? 'POST' : 'GET', headers, localAddress: this.localAddress, timeout: 15000,
         agent: false}, (answer) => {
         let text = '';
         answer.setEncoding('utf8').on('data', (data) => { text += data; }).on('error', reject).on('end', () => {
-          for (const cookie of answer.headers['set-cookie'] ?? []) [this.cookie] = cookie.split(';');
+          for (const cookie of answer.headers['set-cookie'] ?? []) this.cookies.set(...cookie.split(';')[0].split('='));
           resolve({status: answer.statusCode, location: answer.headers.location ?? '', text});
         });
       });

@@ -26,6 +26,8 @@ const changes = [
   ['traps.php', {change: 'add', transport: '1', ip: '10.20.0.66', port: '162'}],
   ['traps.php', {change: 'delete', id: '00000000-00000000-00000000'}],
   ['traps.php', {change: 'test'}],
+  ['backup.php', {change: 'download'}],
+  ['backup.php', {change: 'upload'}],
   ['diagnostics.php', {change: 'ping', value: '10.20.0.1'}],
   ['diagnostics.php', {change: 'lookup', value: 'lan.test'}],
   ['applying.php', {change: 'keep', id: '0'}],

@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {execFile} = require('node:child_process');
 const {promisify} = require('node:util');
-const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, web,
+const {addresses, applianceFolder, asPages, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, web,
   writeAsPages} = require('./appliance.cjs');
 const {errorOf, messages, open, press, signIn, test} = require('./browser.cjs');
 const {answersAt, apply, audit, Client, fillStatic, isUndone, isUndoneWithTabClosed, keepWhatIs, passes, reaches, record, setStatic, shift,
@@ -279,7 +279,7 @@ test('Keep of a person, and the end of the time, at the same instant: exactly on
     const before = audit().length;
     passes(299);
     // The time is over within the next second; the watcher looks twice in each.
-    const watcher = watched('nsenter', ['--net=/run/appliance/appliance.net', '--', 'php', '-r',
+    const watcher = watched('nsenter', ['--net=/run/appliance/appliance.net', '--', ...asPages, 'php', '-r',
       `require "${web}/shared/page.php"; watch_trial();`]);
     await new Promise((resolve) => setTimeout(resolve, 60 * round));
     await client.ask('http://10.20.0.7/applying.php', {token, id, seen: 'trial', change: 'keep'});

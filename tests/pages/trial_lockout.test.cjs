@@ -3,7 +3,7 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
-const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, until, web, withScript} = require('./appliance.cjs');
+const {addresses, applianceFolder, asPages, ask, fromLan, inAppliance, ipv4Address, php, until, web, withScript} = require('./appliance.cjs');
 const {enterPassword, press, served, signIn, test} = require('./browser.cjs');
 const {answersAt, apply, audit, Client, fillStatic, isUndone, keepWhatIs, passes, reaches, record, setStatic, shift, trial,
   withOtherDevice} = require('./on_trial.cjs');
@@ -160,7 +160,7 @@ test('A start goes on when undoing hangs, and the record of an older program is 
         "values" => array("mode" => "Static", "ip" => "10.99.0.7", "netmask" => "255.255.255.0", "gateway" => "10.99.0.1")));`);
     const start = Date.now();
     // Without the pipes, which the device script would hold open.
-    inAppliance('sh', '-c', `php -r 'define("START_SECONDS", 3); require "${web}/shared/page.php"; undo_at_start();' >/dev/null 2>&1 || true`);
+    inAppliance(...asPages, 'sh', '-c', `php -r 'define("START_SECONDS", 3); require "${web}/shared/page.php"; undo_at_start();' >/dev/null 2>&1 || true`);
     assert.ok(Date.now() - start < 14000, 'it goes on');
     assert.equal(trial('state'), 'undoing');
     shift('undo_began', 61);
@@ -241,7 +241,7 @@ test('A key in the background before the change has come to its end is not lost'
   const hash = inRecord();
   assert.match(hash, /^[0-9a-f]{40}$/);
   // The key itself is in the session's file.
-  const key = fs.readFileSync(`${dat}/sessions/sess_${client.cookie.split('=')[1]}`, 'utf8').match(/trial_key\|s:32:"([0-9a-f]{32})"/)[1];
+  const key = fs.readFileSync(`${dat}/sessions/sess_${client.cookies.get('settings')}`, 'utf8').match(/trial_key\|s:32:"([0-9a-f]{32})"/)[1];
   assert.equal(trial('state'), 'applying');
   await new Client().ask('http://10.20.0.7/trial.php?background=1', {key});
   assert.equal(trial('state'), 'applying');

@@ -8,6 +8,7 @@
    nothing, or sends what is no request, holds up nobody but itself. A script whose client is ended, is ended
    with it: to whoever asked, the client is the command. */
 #define _GNU_SOURCE
+#include <dirent.h>
 #include <errno.h>
 #include <fcntl.h>
 #include <poll.h>
@@ -30,9 +31,10 @@
 #define READY "/run/appmanager/door.pid"
 
 enum {
-  AtOnce = 64,      /* requests under way; the others wait in the queue of the socket */
-  SecondsToAsk = 5, /* from the connection to the request */
-  MostWords = 1024, /* of a command */
+  AtOnce = 64,        /* requests under way; the others wait in the queue of the socket */
+  SecondsToAsk = 5,   /* from the connection to the request */
+  MostWords = 1024,   /* of a command */
+  MostTriesToEnd = 5, /* all processes of a script */
   FlagMode = 0644,
   MayTakeAnything = -1, /* the script itself judges its arguments */
 };
@@ -221,11 +223,42 @@ static void take(int door, struct Request* request, uid_t user) {
   request->isEnding = 0;
 }
 
-/* With all that it has started, but for what has a life of its own by design: that is in no group of it. */
+/* The session of a process, or 0. */
+static pid_t sessionOf(const char* process) {
+  char path[64];
+  char text[512];
+  int session = 0;
+  snprintf(path, sizeof(path), "/proc/%.20s/stat", process);
+  const int file = open(path, O_RDONLY | O_CLOEXEC);
+  const ssize_t length = file < 0 ? 0 : read(file, text, sizeof(text) - 1);
+  if (file >= 0) close(file);
+  text[length > 0 ? length : 0] = '\0';
+  /* The name, in brackets, may hold anything. */
+  const char* const behindName = strrchr(text, ')');
+  return behindName != NULL && sscanf(behindName, ") %*c %*d %*d %d", &session) == 1 ? session : 0;
+}
+
+/* How many there were: one that is just being made is not among them. */
+static int endProcessesOf(pid_t session) {
+  int found = 0;
+  DIR* const processes = opendir("/proc");
+  if (processes == NULL) return 0;
+  for (const struct dirent* entry = readdir(processes); entry != NULL; entry = readdir(processes)) {
+    const pid_t process = (pid_t)strtol(entry->d_name, NULL, 10); /* 0: no process's */
+    /* The script itself stays, so that its number stays its own, until it is waited for. */
+    if (process <= 0 || process == session || sessionOf(entry->d_name) != session) continue;
+    kill(process, SIGKILL);
+    ++found;
+  }
+  closedir(processes);
+  return found;
+}
+
+/* With all that it has started, but for what was given a session of its own to outlive it. */
 static void endAbandoned(struct Request* request) {
   request->isEnding = 1;
-  kill(-request->process, SIGKILL);
-  kill(request->process, SIGKILL); /* before it has a group */
+  kill(request->process, SIGKILL);
+  for (int tries = 0; tries < MostTriesToEnd && endProcessesOf(request->process) > 0; ++tries) continue;
 }
 
 /* Waits for a request, or the end of a script or of a client. Whether there is a request. */

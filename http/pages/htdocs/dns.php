@@ -1,12 +1,7 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
-
-class DnsSettings
-{
-    var $dnsPrimary;
-    var $dnsSecondary;
-}
+require dirname(dirname(__FILE__)) . '/shared/settings_rules.php';
 
 $session = signed_in();
 ask_device();
@@ -38,21 +33,6 @@ if (is_post()) {
 }
 show('dns', array('title' => 'DNS', 'lead' => 'The servers that the appliance asks for the addresses of names.',
     'settings' => $settings, 'is_known' => $is_known, 'errors' => $errors, 'meanwhile' => $meanwhile, 'seen' => $seen));
-
-function dns_errors($settings)
-{
-    $errors = array();
-    foreach (array('dnsPrimary', 'dnsSecondary') as $field) {
-        $error = $settings->$field == '' ? '' : host_error($settings->$field);
-        if ($error != '') {
-            $errors[$field] = $error;
-        }
-    }
-    if ($settings->dnsPrimary == '' && $settings->dnsSecondary != '') {
-        $errors['dnsPrimary'] = 'Enter the only server here and leave the second one empty.';
-    }
-    return $errors;
-}
 
 // The appliance does not say which of them it refuses.
 function internal_address_errors($settings)

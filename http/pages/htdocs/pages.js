@@ -36,7 +36,7 @@ function isIpv4(text) {
 // A change is sent once. The page may come back from the browser's memory, with the button as it was.
 addEventListener('submit', (event) => {
   const button = event.submitter;
-  if (event.target.method !== 'post' || !button) return;
+  if (event.target.method !== 'post' || !button || 'stays' in event.target.dataset) return;
   const label = button.innerHTML;
   setTimeout(() => {
     button.disabled = true;

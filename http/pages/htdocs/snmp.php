@@ -1,16 +1,7 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
-
-// What the module reads of the settings; it takes the flags as truth values.
-class AgentSettings
-{
-    var $version1;
-    var $trap1;
-    var $trap2;
-    var $auth_traps_enabled;
-    var $community_name;
-}
+require dirname(dirname(__FILE__)) . '/shared/settings_rules.php';
 
 // What a form shows => its label.
 $labels = array('version1' => 'Versions 1 and 2c', 'community' => 'Read community', 'trap1' => 'Traps of version 1',
@@ -61,20 +52,4 @@ function values_shown($settings)
     return array('version1' => $settings->version1 ? 'On' : 'Off', 'trap1' => $settings->trap1 ? 'On' : 'Off',
         'trap2' => $settings->trap2 ? 'On' : 'Off', 'auth' => $settings->auth_traps_enabled ? 'On' : 'Off',
         'community' => $settings->community_name);
-}
-
-function agent_errors($settings)
-{
-    $errors = array();
-    if (strlen($settings->community_name) > 32) {
-        $errors['community_name'] = 'Too long by ' . (strlen($settings->community_name) - 32) . ': enter 1 to 32 letters, digits or'
-            . ' signs.';
-    } elseif (!preg_match('/^[!#-&(-~]{1,32}$/D', $settings->community_name)) {
-        $errors['community_name'] = 'Enter 1 to 32 letters, digits or signs, without blanks, quotes and accents.';
-    }
-    // With none the agent would still be shown with version 1.
-    if (!$settings->trap1 && !$settings->trap2) {
-        $errors['traps'] = 'Choose at least one.';
-    }
-    return $errors;
 }

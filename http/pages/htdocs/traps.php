@@ -1,9 +1,8 @@
 <?php
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 require dirname(dirname(__FILE__)) . '/shared/meanwhile.php';
+require dirname(dirname(__FILE__)) . '/shared/receivers.php';
 require dirname(dirname(__FILE__)) . '/shared/trap_results.php';
-
-define('TRAP_PORT', '162');
 
 $session = signed_in();
 $typed = array('transport' => '1', 'ip' => '', 'port' => TRAP_PORT);
@@ -72,12 +71,6 @@ function receivers_shown($receivers)
     return $shown;
 }
 
-function receiver_text($ip, $port, $transport)
-{
-    return short_ipv6($ip) . ', port ' . (int) $port . ', ' . ($transport == 1 ? 'UDP' : ($transport == 2 ? 'TCP'
-        : 'transport ' . $transport));
-}
-
 // What is no longer as the form's list was: rows for meanwhile_message(). A number may be another receiver's by now.
 function receivers_changed($receivers)
 {
@@ -133,40 +126,4 @@ function add_receiver($session, $typed)
     }
     take_back_additions($session, $before, $typed['ip']);
     return array('ip' => 'This address is used inside the appliance. Choose one of your own network.');
-}
-
-// The module adds a receiver even after it has reported a conflict.
-function take_back_additions($session, $before, $ip)
-{
-    foreach (get_snmp_trap_regs($session) as $receiver) {
-        if (same_value($receiver->ip, $ip) && !find_receiver($before, $receiver->id)) {
-            delete_snmp_trap_reg($session, $receiver->id);
-        }
-    }
-}
-
-function find_receiver($receivers, $id)
-{
-    foreach ($receivers as $receiver) {
-        if ($receiver->id == $id) {
-            return $receiver;
-        }
-    }
-    return false;
-}
-
-function receiver_errors($typed)
-{
-    $errors = array();
-    if ($typed['transport'] != '1' && $typed['transport'] != '2') {
-        $errors['transport'] = 'Choose UDP or TCP.';
-    }
-    $error = host_error($typed['ip']);
-    if ($error != '') {
-        $errors['ip'] = $error;
-    }
-    if (!preg_match('/^[0-9]{1,5}$/D', $typed['port']) || $typed['port'] < 1 || $typed['port'] > 65535) {
-        $errors['port'] = 'Enter a number from 1 to 65535; usual is ' . TRAP_PORT . '.';
-    }
-    return $errors;
 }

@@ -27,6 +27,7 @@ function icon($name)
         'security.php' => 'M6 11h12v10H6zM8.5 11V7.5a3.5 3.5 0 0 1 7 0V11M12 15v2',
         'snmp.php' => 'M3 12h4l3-8 4 16 3-8h4',
         'traps.php' => 'M6 17v-6a6 6 0 0 1 12 0v6l2 2H4zM10 21.5h4',
+        'backup.php' => 'M12 3v11M8 10l4 4 4-4M4 15v5h16v-5',
         'diagnostics.php' => 'M3 5h18v14H3zM7 9l3 3-3 3M12 15h5',
         'account.php' => 'M12 4a4 4 0 1 0 0 8 4 4 0 1 0 0-8zM4 20.5c0-4 3.5-6 8-6s8 2 8 6',
         'good' => 'M12 3a9 9 0 1 0 0 18 9 9 0 1 0 0-18zM8 12.5l3 3 5-6',

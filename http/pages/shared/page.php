@@ -48,6 +48,7 @@ $pages = array(
     'security.php' => 'Web security',
     'snmp.php' => 'SNMP agent',
     'traps.php' => 'Trap receivers',
+    'backup.php' => 'Backup',
     'diagnostics.php' => 'Diagnostics',
     'account.php' => 'Account'
 );

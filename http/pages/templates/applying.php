@@ -16,7 +16,7 @@ $signs_in_again = $trial['kind'] != 'ipv4' || !$questions || $questions[0]['key'
 <?php if ($is_over) { ?>
 <?php if ($trial['lines']) { ?>
   <h2>What the trace log says about it</h2>
-  <pre class="log" tabindex="0" aria-label="Lines of the trace log"><?php echo h(implode("\n", $trial['lines'])); ?></pre>
+  <pre class="log" tabindex="0" role="region" aria-label="Lines of the trace log"><?php echo h(implode("\n", $trial['lines'])); ?></pre>
 <?php } else { ?>
   <p>The trace log does not say why. <a href="diagnostics.php">See all of it under Diagnostics</a>.</p>
 <?php } ?>

@@ -4,7 +4,8 @@ $reason = reason_of($entry);
 $values = differences($entry);
 ?>
     <tr>
-      <th scope="row" class="time"><?php echo gmdate('Y-m-d H:i:s', (int) $entry['time']); ?></th>
+      <th scope="row" class="time"><span><?php echo gmdate('Y-m-d', (int) $entry['time']); ?></span>
+        <span><?php echo gmdate('H:i:s', (int) $entry['time']); ?></span></th>
       <td class="user" data-label="Who"><div><p><?php echo h($entry['user'] == '' ? ($entry['client'] == '' ? 'The appliance' : 'Not known')
         : $entry['user']); ?></p><?php if ($entry['client'] != '') { ?><p class="hint"><?php echo h($entry['client']); ?></p><?php } ?></div></td>
       <td data-label="What"><div><p><?php echo h($entry['what']); ?><?php if ($entry['count'] > 1) { ?> <strong><?php

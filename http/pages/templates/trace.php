@@ -32,7 +32,7 @@ $is_open = $filter != '' || $only_errors || $live != 'scripts';
 <?php } elseif (!$lines) { ?>
   <p class="empty"><?php echo $filter == '' ? 'The trace log is empty.' : 'No line has this text.'; ?></p>
 <?php } elseif ($filter != '') { ?>
-  <pre class="log long" tabindex="0" aria-label="End of the trace log"><?php echo h(implode("\n", $lines)); ?></pre>
+  <pre class="log long" tabindex="0" role="region" aria-label="End of the trace log"><?php echo h(implode("\n", $lines)); ?></pre>
 <?php } elseif (!$calls) { ?>
   <p class="empty">No call has failed.</p>
 <?php } else { ?>
