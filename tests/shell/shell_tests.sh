@@ -93,8 +93,8 @@ fail() {
 }
 
 expect_equal() { [[ $2 == "$1" ]] || fail "expected: $1" "but was:  $2"; }
-expect_at_most() { [[ $2 =~ ^-?[0-9]+$ ]] && (($2 <= $1)) || fail "expected: at most $1" "but was:  $2"; }
-expect_at_least() { [[ $2 =~ ^-?[0-9]+$ ]] && (($2 >= $1)) || fail "expected: at least $1" "but was:  $2"; }
+expect_at_most() { if [[ ! $2 =~ ^-?[0-9]+$ ]] || (($2 > $1)); then fail "expected: at most $1" "but was:  $2"; fi; }
+expect_at_least() { if [[ ! $2 =~ ^-?[0-9]+$ ]] || (($2 < $1)); then fail "expected: at least $1" "but was:  $2"; fi; }
 expect_match() { [[ $2 =~ $1 ]] || fail "expected: $1" "but was:  $2"; }
 
 expect_status() {

@@ -64,9 +64,9 @@ in_place() {
 }
 
 # behind_the_door ARGUMENT...: for a script that needs root's rights and that the web service calls: becomes the same script,
-# run by who has them.
+# run by who has them. Who may not knock goes on without the rights.
 behind_the_door() {
-  [ -n "${BEHIND_THE_DOOR-}" ] || [ ! -S "$DOOR" ] || exec /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh "$0" "$@"
+  [ -n "${BEHIND_THE_DOOR-}" ] || [ ! -S "$DOOR" ] || [ ! -w "$DOOR" ] || exec /usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh "$0" "$@"
 }
 
 # find_user NAME: sets user and group to the numbers of the line. Fails when there is none.
@@ -81,6 +81,7 @@ find_user() {
 # as_user NAME COMMAND...: becomes the command, run by that user and without any right of root's. Where there is no such
 # user it stays the one it is, but without the rights.
 as_user() {
+  unset BEHIND_THE_DOOR # what it starts has no more rights than it has
   if find_user "$1"; then
     shift
     with_rights '' --reuid="$user" --regid="$group" --clear-groups "$@"
