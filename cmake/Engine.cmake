@@ -9,12 +9,23 @@ endif()
 set(PHP_CONFIG "${default_php_config}" CACHE STRING "php-config of the engine to build for; empty for the \
 appliance's engine as it is declared under engine/")
 
+# The cache would keep a php-config that is of no use, also for those who name none the next time: it gets back the last one
+# that was of use.
+function(refuse_php_config)
+  if(DEFINED CACHE{LAST_GOOD_PHP_CONFIG})
+    set(PHP_CONFIG "${LAST_GOOD_PHP_CONFIG}" CACHE STRING "" FORCE)
+  else()
+    unset(PHP_CONFIG CACHE)
+  endif()
+  message(FATAL_ERROR ${ARGN})
+endfunction()
+
 function(ask_php_config option variable)
   execute_process(COMMAND ${PHP_CONFIG} ${option} OUTPUT_VARIABLE answer OUTPUT_STRIP_TRAILING_WHITESPACE
                   RESULT_VARIABLE status)
   if(NOT status EQUAL 0)
-    message(FATAL_ERROR "'${PHP_CONFIG} ${option}' failed (${status}). Install the engine's development "
-                        "package (php-dev) or name its php-config with -DPHP_CONFIG=/path/to/php-config.")
+    refuse_php_config("'${PHP_CONFIG} ${option}' failed (${status}). Install the engine's development "
+                      "package (php-dev) or name its php-config with -DPHP_CONFIG=/path/to/php-config.")
   endif()
   set(${variable} "${answer}" PARENT_SCOPE)
 endfunction()
@@ -42,10 +53,10 @@ function(require_engine_without macro what remedy)
     return()
   endif()
   if(messages MATCHES "error refused")
-    message(FATAL_ERROR "The engine of '${PHP_CONFIG}' is ${what}, and this module is for engines that are "
-                        "not: ${remedy}")
+    refuse_php_config("The engine of '${PHP_CONFIG}' is ${what}, and this module is for engines that are "
+                      "not: ${remedy}")
   endif()
-  message(FATAL_ERROR "The headers of the engine of '${PHP_CONFIG}' do not compile:\n${messages}")
+  refuse_php_config("The headers of the engine of '${PHP_CONFIG}' do not compile:\n${messages}")
 endfunction()
 
 require_engine_without(
@@ -54,6 +65,8 @@ engine context. Name the php-config of a build without thread safety.")
 require_engine_without(
   "ZEND_DEBUG" "a debug build" "its module record carries the debug flag 0 and it calls the engine's \
 non-debug memory functions. Name the php-config of a build without --enable-debug.")
+
+set(LAST_GOOD_PHP_CONFIG "${PHP_CONFIG}" CACHE INTERNAL "")
 
 # Empty for an engine that does not say its number.
 function(find_engine_number variable)

@@ -55,6 +55,9 @@ function verdict_of_pages($kind, $fields)
                 $errors[$field] = true;
             }
         }
+        if (!$errors && isset($fields['secondary']) && second_server_error($fields['primary'], $fields['secondary']) != '') {
+            $errors['secondary'] = true;
+        }
     }
     $names = str_replace(array('ipStatic', 'ip'), 'address', array_keys($errors));
     return $names ? implode(',', $names) : 'accepted';

@@ -82,9 +82,9 @@ auditTest('Every change by a page is there: who, from where, old and new value, 
   await open(page, 'ipv6.php');
   for (const [checked, text] of [[true, 'IPv6 Off → On'], [false, 'IPv6 On → Off']]) {
     await page.setChecked('#enabled', checked);
-    await page.selectOption('#trial-switch', '0');
-    await press(page, 'Save', '[aria-labelledby=switch]');
-    assert.deepEqual((await rows(page))[0], ['admin | 10.20.0.1', `Set the IPv6 switch. | ${text}`, 'Done']);
+    await page.selectOption('#trial', '0');
+    await press(page, 'Apply');
+    assert.deepEqual((await rows(page))[0], ['admin | 10.20.0.1', `Set the IPv6 settings. | ${text}`, 'Done']);
     await open(page, 'ipv6.php');
   }
 

@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {addresses, ask, datagramsTo, fromLan, inAppliance, ipv4Address, php, traceLog, until, web, withScript} = require('./appliance.cjs');
-const {beside, errorOf, messages, open, press, showCommunity, test} = require('./browser.cjs');
+const {accessibilityFaults, beside, errorOf, messages, open, press, showCommunity, signIn, test} = require('./browser.cjs');
 
 // The pages as on a device that has no list of the networks within it: there the appliance alone knows what it refuses.
 async function withoutList(work) {
@@ -72,7 +72,7 @@ test('A host name that the appliance refuses is reported with the code', {user: 
     await open(page, 'ipv4.php');
     await page.fill('#hostname', 'other');
     await press(page, 'Save name');
-    assert.match(await messages(page), /Could not set library hostname\n+The appliance refused the name[^]*Code 0x00000001/);
+    assert.match(await messages(page), /^Nothing was changed\. Correct what is marked and save again\.\n+Details\n+Could not set library hostname\. Code 0x00000001, reported at \S+:\d+$/);
     assert.match(await errorOf(page, 'hostname'), /did not take this name/);
     assert.equal(await page.inputValue('#hostname'), 'other');
     assert.ok(await page.isChecked('#mode-dhcp'), 'the other form shows what is');
@@ -127,6 +127,8 @@ test('DNS servers that cannot be', {user: 'admin'}, async (page) => {
     [{dnsPrimary: '10.20.0.1', dnsSecondary: '1::2::3'}, {dnsSecondary: /IPv4 or IPv6 address/}],
     [{dnsPrimary: '', dnsSecondary: '10.20.0.1'}, {dnsPrimary: /only server here/}],
     [{dnsPrimary: '10.20.0.1" x', dnsSecondary: ''}, {dnsPrimary: /IPv4 or IPv6 address/}],
+    [{dnsPrimary: '10.20.0.1', dnsSecondary: '10.20.0.1'}, {dnsSecondary: /^This is the primary server\./}],
+    [{dnsPrimary: '2001:db8:20::1', dnsSecondary: '2001:DB8:20:0::1'}, {dnsSecondary: /^This is the primary server\./}],
     [{dnsPrimary: '127.0.0.1', dnsSecondary: '::1'}, {dnsPrimary: /No other device/, dnsSecondary: /No other device/}],
   ]);
   await refused(page, 'Save', 'main', [
@@ -137,7 +139,7 @@ test('DNS servers that cannot be', {user: 'admin'}, async (page) => {
     await page.fill('#dnsPrimary', '192.168.250.5');
     await page.fill('#dnsSecondary', '');
     await press(page, 'Save');
-    assert.match(await messages(page), /Failed to set DNS addresses\.\n+The address belongs to the network inside the appliance[^]*Code 0x00050040/);
+    assert.match(await messages(page), /^Nothing was changed\. Correct what is marked and save again\.\n+Details\n+Failed to set DNS addresses\. Code 0x00050040, reported at \S+:\d+$/);
     assert.equal(await page.inputValue('#dnsPrimary'), '192.168.250.5');
     assert.equal(await errorOf(page, 'dnsPrimary'), 'This address is used inside the appliance. Enter a server of your own network.');
     await page.fill('#dnsPrimary', '10.20.0.1');
@@ -334,7 +336,7 @@ test('A trap receiver is added, tested and deleted', {user: 'admin'}, async (pag
   await page.fill('#ip', '2001:db8:20::1');
   await page.check('#transport-2');
   await press(page, 'Add');
-  const rows = await page.locator('tbody tr').evaluateAll((all) => all.map((row) =>
+  const rows = await page.locator('tbody tr:not(.question)').evaluateAll((all) => all.map((row) =>
     [...row.cells].slice(0, 3).map((cell) => cell.innerText.trim())));
   assert.deepEqual(rows, [['10.20.0.1', '16200', 'UDP'], ['2001:db8:20::1', '162', 'TCP']]);
 
@@ -350,6 +352,39 @@ test('A trap receiver is added, tested and deleted', {user: 'admin'}, async (pag
   await press(page, 'Delete 10.20.0.1');
   assert.deepEqual(receivers(), []);
 });
+
+for (const javaScriptEnabled of [true, false]) {
+  test(`Deleting asks below the receiver, and nothing shifts, with${javaScriptEnabled ? '' : 'out'} scripts`, {javaScriptEnabled}, async (page) => {
+    php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);'
+      + 'create_snmp_trap_reg($session, 1, "10.20.0.9", "16200"); create_snmp_trap_reg($session, 1, "10.20.0.8", "162");');
+    await signIn(page, 'admin', 'traps.php');
+    const places = () => page.locator('thead th, tbody tr:not(.question) > * ').evaluateAll((all) => all.map((cell) => {
+      const {left, width} = cell.getBoundingClientRect();
+      return [Math.round(left), Math.round(width)];
+    }));
+    const before = await places();
+    assert.equal(await page.locator('tr.question:visible').count(), 0, 'nothing is asked yet');
+    await page.click('summary:has-text("10.20.0.9")');
+    assert.deepEqual(await places(), before, 'no column shifts');
+    const [question, receiver] = [await page.locator('tr.question:visible').boundingBox(),
+      await page.locator('tbody tr:has(th:text-is("10.20.0.9"))').boundingBox()];
+    assert.ok(Math.abs(question.y - receiver.y - receiver.height) < 2, 'right below');
+    assert.ok(Math.abs(question.width - receiver.width) < 2, 'as wide as the list');
+    // It asks with a script.
+    if (javaScriptEnabled) assert.deepEqual(await accessibilityFaults(page), []);
+    await page.click('summary:has-text("10.20.0.9")');
+    assert.equal(await page.locator('tr.question:visible').count(), 0, 'folded again, nothing is asked');
+    await page.click('summary:has-text("10.20.0.9")');
+    await page.keyboard.press('Tab');
+    assert.equal(await page.evaluate(() => document.activeElement.innerText), 'Delete 10.20.0.9', 'the keyboard comes to it next');
+    const navigated = page.waitForNavigation();
+    await page.keyboard.press('Enter');
+    await navigated;
+    assert.equal(await messages(page), 'The receiver 10.20.0.9 is deleted.');
+    assert.deepEqual(receivers().map(({ip}) => ip), ['10.20.0.8']);
+    php('delete_snmp_trap_reg($session, get_snmp_trap_regs($session)[0]->id);');
+  });
+}
 
 test('A receiver that somebody else has deleted meanwhile', {user: 'admin'}, async (page) => {
   php('create_snmp_trap_reg($session, 1, "10.20.0.9", "162");');
@@ -380,7 +415,7 @@ test('A list of receivers that somebody else has changed meanwhile is shown befo
   assert.deepEqual(receivers().map(({ip}) => ip), ['10.20.0.8']);
 
   // Under the number that the form has there is another receiver.
-  await page.evaluate(() => { document.querySelector('details [name=seen]').value = document.querySelector('details [name=id]').value
+  await page.evaluate(() => { document.querySelector('.question [name=seen]').value = document.querySelector('.question [name=id]').value
     + '=10.20.0.7%2C+port+162%2C+UDP'; });
   await page.click('summary:has-text("10.20.0.8")');
   await press(page, 'Delete 10.20.0.8');
@@ -404,7 +439,7 @@ test('Trap receivers that cannot be', {user: 'admin'}, async (page) => {
     {ip: /^The network 192\.168\.250\.0\/24 is used inside the appliance/}]]);
   await withoutList(async () => {
     await press(page, 'Add');
-    assert.match(await messages(page), /Internal Address Conflict\n[^]*Code 0x00050040/);
+    assert.match(await messages(page), /^Nothing was changed\. Correct what is marked and save again\.\n+Details\n+Internal Address Conflict\. Code 0x00050040, reported at \S+:\d+$/);
     assert.match(await errorOf(page, 'ip'), /used inside the appliance/);
   });
   assert.deepEqual(receivers(), [], 'what the module adds after its report is taken back');
@@ -447,9 +482,9 @@ test('A receiver that cannot be sent to is reported', {user: 'admin'}, async (pa
 });
 
 // trial.test.cjs has what happens with one.
-async function saveWithoutTrial(page, section, field) {
-  await page.selectOption(field, '0');
-  await press(page, 'Save', `[aria-labelledby=${section}]`);
+async function applyWithoutTrial(page) {
+  await page.selectOption('#trial', '0');
+  await press(page, 'Apply');
 }
 
 test('IPv6 is switched on and off, and shows the addresses in use', {user: 'admin'}, async (page) => {
@@ -457,7 +492,7 @@ test('IPv6 is switched on and off, and shows the addresses in use', {user: 'admi
   assert.equal(await beside(page, 'IPv6'), 'Off');
   assert.match(await page.innerText('section >> nth=0'), /None, because IPv6 is off\./);
   await page.check('#enabled');
-  await saveWithoutTrial(page, 'switch', '#trial-switch');
+  await applyWithoutTrial(page);
   assert.match(await messages(page), /^IPv6 is on/);
   await until(() => addresses('inet6').length > 0, 'an address from router advertisements');
   await open(page, 'ipv6.php');
@@ -466,7 +501,7 @@ test('IPv6 is switched on and off, and shows the addresses in use', {user: 'admi
     addresses('inet6').map((text) => `${text.split('/')[0]} from router advertisements`));
 
   await page.uncheck('#enabled');
-  await saveWithoutTrial(page, 'switch', '#trial-switch');
+  await applyWithoutTrial(page);
   assert.equal(await messages(page), 'IPv6 is off.');
   await until(() => addresses('inet6').length === 0, 'the addresses to go');
 });
@@ -476,7 +511,7 @@ test('The sources of IPv6 addresses', {user: 'admin'}, async (page) => {
   await open(page, 'ipv6.php');
   await page.uncheck('#stateless');
   await page.check('#dhcp');
-  await saveWithoutTrial(page, 'sources', '#trial-modes');
+  await applyWithoutTrial(page);
   assert.match(await messages(page), /^The sources of addresses are set/);
   assert.ok(fs.existsSync('/etc/ipv6dhcp'));
   assert.equal(ask('ipv6Manager.sh', '-l'), '0');
@@ -486,27 +521,29 @@ test('The sources of IPv6 addresses', {user: 'admin'}, async (page) => {
   assert.equal(await beside(page, 'DHCP'), 'On');
   await page.check('#stateless');
   await page.uncheck('#dhcp');
-  await saveWithoutTrial(page, 'sources', '#trial-modes');
+  await applyWithoutTrial(page);
   assert.ok(!fs.existsSync('/etc/ipv6dhcp'));
   assert.equal(ask('ipv6Manager.sh', '-l'), '1');
   php('set_ipv6_enabled($session, false);');
 });
 
 test('A source that cannot be switched is reported, and the other is switched all the same', {user: 'admin'}, async (page) => {
+  php('set_ipv6_enabled($session, true);');
   await withScript('ipv6Manager.sh', 'case "$*" in "-c -d on") exit 1 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
     await open(page, 'ipv6.php');
     await page.uncheck('#stateless');
     await page.check('#dhcp');
-    await saveWithoutTrial(page, 'sources', '#trial-modes');
+    await applyWithoutTrial(page);
     assert.match(await messages(page), /^Failed to configure DHCP settings - Make sure[^]*Code 0x00050030/);
     assert.equal(await beside(page, 'DHCP'), 'Off');
     assert.equal(await beside(page, 'Router advertisements'), 'Off');
   });
-  php('set_stateless_enabled($session, true);');
+  php('set_stateless_enabled($session, true); set_ipv6_enabled($session, false);');
 });
 
 test('Static IPv6 settings that cannot be', {user: 'admin'}, async (page) => {
   await open(page, 'ipv6.php');
+  await page.check('#enabled');
   await page.check('#static');
   const good = {ipStatic: '2001:db8:20::7', prefix: '64', gateway: 'fe80::1'};
   await refused(page, 'Apply', 'main', [
@@ -525,4 +562,5 @@ test('Static IPv6 settings that cannot be', {user: 'admin'}, async (page) => {
     [{...good, gateway: '2001:DB8:20:0::7'}, {gateway: /itself/}],
   ]);
   assert.equal(ask('ipv6Manager.sh', '-g', 'static'), '');
+  assert.equal(php('echo is_ipv6_enabled() ? "on" : "off";'), 'off');
 });

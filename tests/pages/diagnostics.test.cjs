@@ -266,7 +266,7 @@ test('A device without a script lacks its question alone', {user: 'admin'}, asyn
 
 // What stands beside each receiver, by its address and port.
 async function testResults(page) {
-  const rows = await page.locator('[aria-labelledby=list] tbody tr').evaluateAll((all) => all.map((row) =>
+  const rows = await page.locator('[aria-labelledby=list] tbody tr:not(.question)').evaluateAll((all) => all.map((row) =>
     [...row.cells].map((cell) => cell.innerText.trim())));
   return Object.fromEntries(rows.map((cells) => [`${cells[2]} ${cells[0]}:${cells[1]}`, cells[3].split('\n')[0]]));
 }

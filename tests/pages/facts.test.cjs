@@ -296,6 +296,24 @@ test('A page whose script hangs is there after three seconds, too', {user: 'admi
   });
 });
 
+test('What the management services do not say is unknown, never 0 or none', {user: 'admin'}, async (page) => {
+  fs.renameSync(database, `${database}.away`);
+  fs.mkdirSync(database);
+  try {
+    await open(page, 'snmp.php');
+    for (const term of ['Versions set', 'Port']) assert.equal(await beside(page, term), 'Unknown', term);
+    assert.doesNotMatch(await page.innerText('main'), /port 0|Always on/);
+    await open(page, 'security.php');
+    for (const term of ['Set', 'HTTPS port', 'Certificate\'s key']) assert.equal(await beside(page, term), 'Unknown', term);
+    await open(page, 'traps.php');
+    assert.match(await page.innerText('[aria-labelledby=list]'), /Unknown/);
+    assert.doesNotMatch(await page.innerText('[aria-labelledby=list]'), /There are none/);
+  } finally {
+    fs.rmdirSync(database);
+    fs.renameSync(`${database}.away`, database);
+  }
+});
+
 test('What could not be read is unknown, in one message with the codes folded', {user: 'admin'}, async (page) => {
   await withScript('ipv4Manager.sh', 'exit 1', async () => {
     await open(page, 'index.php');

@@ -16,9 +16,9 @@ function settings() {
 const changes = [
   ['ipv4.php', {change: 'name', hostname: 'changed'}],
   ['ipv4.php', {change: 'addressing', mode: 'static', ip: '10.20.0.66', netmask: '255.255.255.0', gateway: '10.20.0.1'}],
-  ['ipv6.php', {change: 'enabled', enabled: '1'}],
-  ['ipv6.php', {change: 'modes', stateless: '', dhcp: '1'}],
-  ['ipv6.php', {change: 'static', static: '1', ipStatic: '2001:db8:20::66', prefix: '64', gateway: 'fe80::1'}],
+  ['ipv6.php', {change: 'ipv6', enabled: '1'}],
+  ['ipv6.php', {change: 'ipv6', stateless: '', dhcp: '1'}],
+  ['ipv6.php', {change: 'ipv6', static: '1', ipStatic: '2001:db8:20::66', prefix: '64', gateway: 'fe80::1'}],
   ['dns.php', {change: 'dns', dnsPrimary: '10.20.0.66', dnsSecondary: ''}],
   ['port.php', {change: 'port', auto: '', speed: '10', duplex: '0'}],
   ['security.php', {change: 'https', https: '1'}],
@@ -91,8 +91,20 @@ test('The role monitor sees everything, and no button to change it', {user: 'mon
     assert.ok((await page.innerText('main')).length > 60, name);
     const buttons = await page.locator('main form[method=post] button, main details:not(.fold) > summary').count();
     assert.equal(buttons, 0, name);
-    assert.equal(await page.locator('main form[method=post] input:not([type=hidden]):enabled').count(), 0, name);
+    assert.equal(await page.locator('main form[method=post], main fieldset :is(input, select, textarea), main input[type=hidden]').count(), 0, `${name} has no form`);
+    assert.doesNotMatch(await page.innerText('main'), /\bChange\b/, name);
+    const reasons = (await page.innerText('main')).match(/needs the role admin/g) ?? [];
+    assert.equal(reasons.length, ['index.php', 'diagnostics.php'].includes(name) ? 0 : 1, `${name} says once why`);
   }
+  await page.click('nav a:text-is("SNMP agent"):visible');
+  assert.deepEqual(await page.locator('.shown').evaluateAll((all) => all.map((one) => [...one.children].slice(0, 2)
+    .map((part) => part.innerText).join(': '))), [['Versions 1 and 2c', 'version1'], ['Version 1', 'trap1'], ['Version 2c', 'trap2'],
+    ['Send a trap when a request carries a wrong community', 'auth_traps_enabled']].map(([label, name]) =>
+    `${label}: ${JSON.parse(php('echo json_encode(get_snmp_settings($session));'))[name] ? 'On' : 'Off'}`));
+  await open(page, 'ipv4.php');
+  assert.match(await page.innerText('[aria-labelledby=name]'), /Name\s+library\s/);
+  await open(page, 'index.php');
+  assert.equal(await page.locator('.more a:text-is("Show DNS")').count(), 1);
 });
 
 test('Who is signed out changes nothing, and learns that it was not saved', {}, async (page, context) => {
@@ -150,7 +162,7 @@ test('A script in any field is shown as text', {}, async (page) => {
     ['snmp.php', 'Save', ['community_name']], ['traps.php', 'Add', ['ip', 'port']]];
   for (const [name, button, fields] of forms) {
     await open(page, name);
-    for (const mark of ['#mode-static', '#static']) if (await page.locator(mark).count()) await page.check(mark);
+    for (const mark of ['#mode-static', '#enabled', '#static']) if (await page.locator(mark).count()) await page.check(mark);
     if (name === 'snmp.php') await showCommunity(page);
     await page.evaluate(() => document.querySelectorAll('[maxlength]').forEach((field) => field.removeAttribute('maxlength')));
     for (const field of fields) await page.fill(`#${field}`, script);

@@ -5,21 +5,23 @@
 //   php subset.php FOLDER STUB     STUB declares the functions of the module
 
 // Functions that were there before 4.4 and are there still.
-$old = array('abs', 'array_fill', 'array_keys', 'array_merge', 'array_reverse', 'array_shift', 'array_slice', 'array_splice',
-    'arsort', 'basename', 'bin2hex', 'ceil', 'chgrp', 'chmod', 'chown', 'clearstatcache', 'closedir', 'count',
-    'crc32', 'crypt', 'dechex', 'define', 'defined', 'dirname', 'end', 'error_log', 'error_reporting', 'exec',
-    'explode', 'extract', 'fclose', 'feof', 'fflush', 'fgetc', 'fgets', 'file', 'file_exists', 'filegroup',
-    'filemtime', 'fileowner', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftruncate', 'function_exists',
-    'fwrite', 'getmypid', 'gmdate', 'gmmktime', 'header', 'hexdec', 'htmlspecialchars', 'implode', 'in_array',
-    'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable', 'is_string', 'is_uploaded_file', 'ksort', 'ltrim', 'max',
-    'md5', 'microtime', 'min', 'mkdir', 'ob_get_clean', 'ob_start', 'opendir', 'ord', 'php_sapi_name', 'php_uname',
-    'preg_match', 'preg_replace', 'proc_close', 'proc_open', 'readdir', 'rename', 'reset', 'rewind', 'rtrim',
-    'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path', 'session_start',
-    'session_write_close', 'set_error_handler', 'sha1', 'sprintf', 'str_repeat', 'str_replace', 'stream_select',
-    'stream_set_blocking', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtoupper', 'strtr', 'substr',
-    'time', 'trim', 'ucfirst', 'umask', 'unlink', 'unserialize', 'urldecode', 'urlencode', 'usleep', 'usort');
+$old = array('abs', 'array_fill', 'array_intersect', 'array_keys', 'array_merge', 'array_reverse', 'array_shift',
+    'array_slice', 'array_splice', 'arsort', 'basename', 'bin2hex', 'ceil', 'chgrp', 'chmod', 'chown',
+    'clearstatcache', 'closedir', 'count', 'crc32', 'crypt', 'dechex', 'define', 'defined', 'dirname', 'end',
+    'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof', 'fflush', 'fgetc', 'fgets',
+    'file', 'file_exists', 'filegroup', 'filemtime', 'fileowner', 'filesize', 'flock', 'fopen', 'fread', 'fseek',
+    'ftruncate', 'function_exists', 'fwrite', 'getmypid', 'gmdate', 'gmmktime', 'header', 'headers_sent', 'hexdec',
+    'htmlspecialchars', 'implode', 'in_array', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable',
+    'is_string', 'is_uploaded_file', 'ksort', 'ltrim', 'max', 'md5', 'microtime', 'min', 'mkdir', 'ob_get_clean',
+    'ob_get_level', 'ob_start', 'opendir', 'ord', 'php_sapi_name', 'php_uname', 'preg_match', 'preg_replace',
+    'proc_close', 'proc_open', 'readdir', 'readfile', 'register_shutdown_function', 'rename', 'reset', 'rewind',
+    'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path',
+    'session_start', 'session_write_close', 'set_error_handler', 'sha1', 'sprintf', 'str_repeat', 'str_replace',
+    'stream_select', 'stream_set_blocking', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtoupper', 'strtr',
+    'substr', 'time', 'trim', 'ucfirst', 'umask', 'unlink', 'unserialize', 'urldecode', 'urlencode', 'usleep',
+    'usort');
 // Only behind function_exists() of the same name, in the same function.
-$guarded = array('fsync', 'get_magic_quotes_gpc', 'password_hash');
+$guarded = array('error_get_last', 'fsync', 'get_magic_quotes_gpc', 'password_hash');
 
 // Words and signs of the language that came later.
 $late = array(T_ABSTRACT, T_ATTRIBUTE, T_CATCH, T_CLASS_C, T_CLONE, T_COALESCE, T_COALESCE_EQUAL, T_CONST, T_DIR, T_ELLIPSIS,

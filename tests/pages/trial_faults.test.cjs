@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {execFile} = require('node:child_process');
 const {promisify} = require('node:util');
-const {addresses, applianceFolder, asPages, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, web,
+const {accounts, addresses, applianceFolder, asPages, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, web,
   writeAsPages} = require('./appliance.cjs');
 const {errorOf, messages, open, press, signIn, test} = require('./browser.cjs');
 const {answersAt, apply, audit, Client, fillStatic, isUndone, isUndoneWithTabClosed, keepWhatIs, passes, reaches, record, setStatic, shift,
@@ -185,6 +185,68 @@ test('Two windows that apply at the same instant: one change is on trial, the ot
   }
 });
 
+test('Two administrators, each with an account, apply at once: one change is on trial, and the other one may undo it, not keep it unawares', {},
+  async () => {
+    await keepWhatIs();
+    await setStatic('10.20.0.7');
+    const users = fs.readFileSync(`${dat}/users`, 'utf8');
+    accounts.set('night shift', 'owls know seven roofs');
+    const hash = inAppliance('php', '-r', `require "${web}/shared/page.php"; echo hash_password("${accounts.get('night shift')}");`);
+    fs.writeFileSync(`${dat}/users`, `${users}night shift:admin:${hash}\n`);
+    try {
+      const people = new Map();
+      for (const [user, ip] of [['admin', '10.20.0.8'], ['night shift', '10.20.0.9']]) {
+        const client = new Client();
+        await client.signIn('10.20.0.7', user);
+        people.set(user, {client, ip, token: await client.hidden('http://10.20.0.7/ipv4.php', 'token')});
+      }
+      const answers = await Promise.all([...people.values()].map(({client, ip, token}) => client.ask('http://10.20.0.7/ipv4.php',
+        {...wrongNetwork, token, ip, gateway: '10.20.0.1', trial: '300'})));
+      assert.equal(answers.filter(({text}) => /Another change is on trial: keep or undo it first/.test(text)).length, 1);
+      await reaches('trial');
+      const maker = trial('user');
+      const other = maker === 'admin' ? 'night shift' : 'admin';
+      const {ip} = people.get(maker);
+      const {client, token} = people.get(other);
+      await answersAt(ip);
+      const told = (await client.ask(`http://${ip}/dns.php`)).text;
+      assert.match(told, new RegExp(`a change by ${maker} is\\s+on\\s+trial`));
+      assert.equal(trial('state'), 'trial', 'who was signed in before it, and did not make it, keeps nothing by being there');
+      await client.ask(`http://${ip}/applying.php`, {token, change: 'undo', seen: 'trial', id: trial('id')});
+      await reaches('undone', 40);
+      await answersAt('10.20.0.7');
+      assert.match((await client.ask('http://10.20.0.7/applying.php')).text, new RegExp(`because ${other} asked for it`));
+      const [begun, undone] = audit().slice(-2);
+      assert.deepEqual([begun[0], begun[2]], [maker, 'IPv4 settings begun']);
+      assert.equal(undone[2], 'IPv4 settings undone');
+    } finally {
+      fs.writeFileSync(`${dat}/users`, users);
+      accounts.delete('night shift');
+    }
+  });
+
+test('A tab over IPv6 that goes on fetching itself keeps no change of IPv4, nor does its maker who looks there', {}, async () => {
+  await keepWhatIs();
+  await setStatic('10.20.0.7');
+  php('set_ipv6_enabled($session, true);');
+  try {
+    const [address] = await until(() => addresses('inet6').length > 0 && addresses('inet6'), 'an address');
+    const there = `[${address.split('/')[0]}]`;
+    const client = new Client();
+    await client.signIn(there);
+    const token = await client.hidden(`http://${there}/ipv4.php`, 'token');
+    await client.ask(`http://${there}/ipv4.php`, {...wrongNetwork, token});
+    await reaches('trial');
+    for (const name of ['applying.php?background=1', 'diagnostics.php?background=1', 'applying.php', 'index.php']) {
+      assert.equal((await client.ask(`http://${there}/${name}`)).status, 200, name);
+      assert.equal(trial('state'), 'trial', name);
+    }
+    await isUndone();
+  } finally {
+    php('set_ipv6_enabled($session, false);');
+  }
+});
+
 test('At the new address neither the role monitor nor the key of another computer keeps the change', {}, async (page) => {
   await signIn(page);
   await fillStatic(page, '10.20.0.8');
@@ -224,10 +286,10 @@ test('At the new address neither the role monitor nor the key of another compute
 // Begins a trial of a setting that nothing waits for: router advertisements, off. Returns its id.
 function beginModes() {
   return inAppliance('php', '-r', `require "${web}/shared/page.php"; $session = new Session(); $session->user = "admin"; $session->role = "admin";
-    $before = settings_of($session, "ipv6-modes"); $wanted = $before; $wanted["stateless"] = false;
-    $record = new_trial($session, "ipv6-modes", array("stateless" => "Off", "dhcp" => "Off"), $before, "", "", 300);
+    $before = settings_of($session, "ipv6"); $wanted = $before; $wanted["stateless"] = false;
+    $record = new_trial($session, "ipv6", array("stateless" => "Off"), $before, "", "", 300);
     if (!$before["stateless"] || !begin_trial($record)) { echo "no trial"; exit; }
-    put_back($session, "ipv6-modes", $wanted); ended_at_once($record); echo $record["id"];`);
+    put_back($session, "ipv6", $wanted); ended_at_once($record); echo $record["id"];`);
 }
 
 // The record says who has won, and the device is as the record says.
@@ -240,7 +302,7 @@ async function agrees(round, winner) {
 
 // Of keeping and undoing the one that the audit has since so many lines.
 function winnerSince(lines, round) {
-  const did = audit().slice(lines).map(([,, what]) => what.replace('Automatic IPv6 addresses ', ''))
+  const did = audit().slice(lines).map(([,, what]) => what.replace('IPv6 settings ', ''))
     .filter((what) => what === 'kept' || what === 'undoing');
   assert.equal(did.length, 1, `round ${round}: ${did}`);
   return did[0] === 'kept' ? 'keep' : 'undo';

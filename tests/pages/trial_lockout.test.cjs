@@ -16,11 +16,11 @@ const static4 = {change: 'addressing', mode: 'static', ip: '10.20.0.8', netmask:
 // Begins a trial of a setting that nothing waits for: router advertisements, off. With a watcher.
 function beginModes(seconds = 300) {
   const said = inAppliance('php', '-r', `${pages} require "${web}/shared/applying.php";
-    $before = settings_of($session, "ipv6-modes"); $wanted = $before; $wanted["stateless"] = false;
-    $record = new_trial($session, "ipv6-modes", array("stateless" => "Off", "dhcp" => "Off"), $before, "", "", ${seconds});
+    $before = settings_of($session, "ipv6"); $wanted = $before; $wanted["stateless"] = false;
+    $record = new_trial($session, "ipv6", array("stateless" => "Off"), $before, "", "", ${seconds});
     $record["wanted"] = $wanted;
     if (!$before["stateless"] || !begin_trial($record) || !is_being_watched($record)) { echo "no trial"; exit; }
-    put_back($session, "ipv6-modes", $wanted); ended_at_once($record); echo $record["id"];`);
+    put_back($session, "ipv6", $wanted); ended_at_once($record); echo $record["id"];`);
   assert.match(said, /^[0-9a-f]{16}$/);
   return said;
 }
@@ -282,7 +282,7 @@ test('What was kept can be undone while nobody has changed it since, and for a d
 test('Modes are only stored while IPv6 is off; without any address of IPv6 they are kept over IPv4', {}, async () => {
   const client = await admin();
   const before = trial('id');
-  const modes = {change: 'modes', trial: '60', seen: 'stateless=On&dhcp=Off'};
+  const modes = {change: 'ipv6', stateless: '', dhcp: '', trial: '60'};
   const {location} = await post(client, 'ipv6.php', modes);
   assert.equal(location, 'ipv6.php');
   assert.match((await client.ask('http://10.20.0.7/ipv6.php')).text, /They come into force when IPv6 is switched on/);
@@ -307,7 +307,7 @@ test('Without a trial, over IPv6: the answer arrives before the connection goes'
   const [ipv6] = await until(() => addresses('inet6').length > 0 && addresses('inet6'), 'an address');
   const host = `[${ipv6.split('/')[0]}]`;
   const client = await admin(host);
-  const {status, location} = await post(client, 'ipv6.php', {change: 'enabled', trial: '0', seen: 'enabled=On'}, host);
+  const {status, location} = await post(client, 'ipv6.php', {change: 'ipv6', enabled: '', trial: '0', seen: 'enabled=On&stateless=On&dhcp=Off&mode=Off'}, host);
   assert.deepEqual([status, location], [303, 'applying.php']);
   await until(() => addresses('inet6').length === 0, 'no address');
   await reaches('kept');

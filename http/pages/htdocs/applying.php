@@ -19,7 +19,7 @@ if ($trial['why'] == 'no trial' && all_as_wanted($rows) && !$trial['as_wanted'])
 }
 $outcome = outcome_of($trial, $rows);
 $ways = is_followed($trial) ? ways_of($session, $trial) : array('origins' => array(), 'leaves' => false);
-$stored_only = isset($now['enabled']) && isset($now['ip']) && !$now['enabled'];
+$stored_only = $trial['kind'] == 'ipv6' && $now['enabled'] == 'Off' && !isset($trial['values']['enabled']);
 $values = array('title' => title_of_outcome($trial, $outcome), 'part_of' => $kind['page'], 'kind' => $kind, 'rows' => $rows,
     'stored_only' => $stored_only, 'outcome' => $outcome, 'trial' => $trial, 'ways' => $ways, 'questions' => questions_of($session, $trial, $ways['origins']),
     'sentence' => outcome_sentence($trial, $outcome, $rows, $stored_only), 'other_origins' => $ways['origins'],
@@ -30,7 +30,7 @@ $values = array('title' => title_of_outcome($trial, $outcome), 'part_of' => $kin
 $values['unless'] = unless_what($session, $trial, $values['needs_wish']);
 $values['network'] = network_to_be_in($trial);
 $values['no_name_servers'] = $outcome == 'kept' && may_change($session) && lost_name_servers($session, $trial);
-if ($values['polls'] && family_of_kind($trial['kind']) == 'ipv6') {
+if ($values['polls'] && $trial['kind'] == 'ipv6') {
     $values['other_origins'][] = origin_of('::', ''); // addresses of IPv6 come while the page is open
 }
 if ($values['polls']) {

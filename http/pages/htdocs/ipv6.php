@@ -17,79 +17,99 @@ $unknown['static'] = !could_read();
 begin_reading();
 $modes = read_modes();
 $unknown['stateless'] = !could_read();
-$typed = array('static' => $settings->staticEnabled, 'prefix' => $settings->prefix,
-    'ipStatic' => $settings->staticEnabled ? short_ipv6($settings->ipStatic) : '',
-    'gateway' => $settings->staticEnabled ? short_ipv6($settings->gateway) : '');
-$errors = array();
-$change = is_post() ? posted('change') : '';
 $seen = values_shown($settings, $modes);
+$is_sent = is_post() && posted('change') == 'ipv6';
+$errors = array();
 $meanwhile = array();
-if ($change != '') {
+if ($is_sent) {
     end_asking(); // what is asked of the network before a change may take longer than a page waits
-    list($errors, $meanwhile) = change_ipv6($session, $change, $seen, $settings);
-    $modes = read_modes();
+    list($errors, $meanwhile) = change_ipv6($session, $seen);
+    $modes = read_modes(); // some may be set, and others not
     $seen = values_shown($settings, $modes);
 }
 $again = is_post() ? false : values_again('ipv6');
-if ($again) {
-    $typed = array('static' => $again['mode'] == 'On', 'ipStatic' => isset($again['ip']) ? $again['ip'] : '',
-        'prefix' => isset($again['prefix']) ? $again['prefix'] : $typed['prefix'],
-        'gateway' => isset($again['gateway']) ? $again['gateway'] : '');
-}
-if ($change == 'static') {
-    $typed = array('static' => posted('static') == '1', 'ipStatic' => posted('ipStatic'), 'prefix' => posted('prefix'),
-        'gateway' => posted('gateway'));
-}
+$typed = ($is_sent ? values_wanted($seen) : ($again ? $again : array())) + $seen
+    + array('ip' => '', 'prefix' => $settings->prefix, 'gateway' => '');
 $in_use = $unknown['static'] ? '' : is_ipv6_static_enabled();
 begin_reading();
 $addresses = get_all_ipv6_addresses();
 $unknown['addresses'] = !could_read();
-show('ipv6', array('title' => 'IPv6', 'enabled' => is_ipv6_enabled(), 'modes' => $modes, 'typed' => $typed,
+show('ipv6', array('title' => 'IPv6', 'enabled' => $seen['enabled'] == 'On', 'modes' => $modes, 'typed' => $typed,
     'in_use' => $in_use, 'addresses' => $addresses, 'unknown' => $unknown, 'errors' => $errors,
-    'meanwhile' => $meanwhile, 'change' => $change, 'seen' => $seen, 'other_way' => other_way($session),
+    'meanwhile' => $meanwhile, 'seen' => $seen, 'other_way' => other_way($session),
     'lead' => 'Whether the appliance uses IPv6, and where its addresses come from.'));
 
-// What each form shows: the form's change => its values, under the names that its kind of change has.
+// What the form shows, under the names that the change has.
 function values_shown($settings, $modes)
 {
-    return array('enabled' => array('enabled' => is_ipv6_enabled() ? 'On' : 'Off'),
-        'modes' => array('stateless' => $modes['stateless'] ? 'On' : 'Off', 'dhcp' => $modes['dhcp'] ? 'On' : 'Off'),
-        'static' => $settings->staticEnabled ? array('mode' => 'On', 'ip' => short_ipv6($settings->ipStatic),
-            'prefix' => (string) $settings->prefix, 'gateway' => short_ipv6($settings->gateway)) : array('mode' => 'Off'));
+    $values = array('enabled' => is_ipv6_enabled() ? 'On' : 'Off', 'stateless' => $modes['stateless'] ? 'On' : 'Off',
+        'dhcp' => $modes['dhcp'] ? 'On' : 'Off', 'mode' => $settings->staticEnabled ? 'On' : 'Off');
+    return !$settings->staticEnabled ? $values : $values + array('ip' => short_ipv6($settings->ipStatic),
+        'prefix' => (string) $settings->prefix, 'gateway' => short_ipv6($settings->gateway));
 }
 
-// Makes a change, unless something is wrong with it: array of errors and of what has changed meanwhile.
-function change_ipv6($session, $change, $seen, $settings)
+// What is wanted, as it is shown. What the form has not sent is inactive there, and stays as it is.
+function values_wanted($seen)
 {
-    $kinds = array('enabled' => 'ipv6-switch', 'modes' => 'ipv6-modes', 'static' => 'ipv6');
-    if (!isset($kinds[$change])) {
-        return array(array(), array());
+    $wanted = $seen;
+    $names = array('enabled' => 'enabled', 'stateless' => 'stateless', 'dhcp' => 'dhcp', 'static' => 'mode');
+    foreach ($names as $field => $name) {
+        if (isset($_POST[$field])) {
+            $wanted[$name] = posted($field) == '1' ? 'On' : 'Off';
+        }
     }
-    $kind = $kinds[$change];
-    $errors = $change == 'static' && posted('static') == '1'
-        ? ipv6_errors(posted('ipStatic'), posted('prefix'), posted('gateway')) : array();
-    $meanwhile = $errors ? array() : changed_meanwhile($seen[$change], $GLOBALS['kinds_of_change'][$kind]['labels']);
+    if (isset($_POST['static']) && $wanted['mode'] == 'On') {
+        $wanted['ip'] = posted('ipStatic');
+        $wanted['prefix'] = posted('prefix');
+        $wanted['gateway'] = posted('gateway');
+    }
+    return $wanted;
+}
+
+// Makes the change, unless something is wrong with it: array of errors and of what has changed meanwhile.
+function change_ipv6($session, $seen)
+{
+    $wanted = values_wanted($seen);
+    $values = values_that_differ($wanted, $seen);
+    $changes_static = has_one_of($values, array('mode', 'ip', 'prefix', 'gateway'));
+    $errors = $changes_static && $wanted['mode'] == 'On'
+        ? ipv6_errors($wanted['ip'], $wanted['prefix'], $wanted['gateway']) : array();
+    $meanwhile = $errors ? array() : changed_meanwhile($seen, $GLOBALS['kinds_of_change']['ipv6']['labels']);
     if ($errors || $meanwhile || posted('reviewed') == 'back') {
         return array($errors, $meanwhile);
     }
-    $values = values_typed($change);
-    if (is_unchanged($values, $seen[$change])) {
+    if (!$values) {
         go_to('ipv6.php', UNCHANGED);
     }
-    $before = settings_of($session, $kind);
-    if ($change == 'static' && posted('static') == '1' && $before['enabled'] && posted('reviewed') != 'yes') {
-        $warnings = address_warnings($before['static'] ? $before['ip'] : '', posted('ipStatic'), posted('gateway'),
+    begin_reading();
+    $before = settings_of($session, 'ipv6');
+    if (!could_read()) {
+        return array(array('enabled' => 'What is set now cannot be read, so that it could not be put back. Try again.'), array());
+    }
+    $new_address = $changes_static && $wanted['mode'] == 'On' && $wanted['enabled'] == 'On' ? $wanted['ip'] : '';
+    if ($new_address != '' && $before['enabled'] && posted('reviewed') != 'yes') {
+        $warnings = address_warnings($before['static'] ? $before['ip'] : '', $new_address, $wanted['gateway'],
             $before['static'] ? $before['gateway'] : '');
         if ($warnings) {
-            show_review($warnings, $values, $seen['static']);
+            show_review($warnings, $values, $seen);
         }
     }
-    // Modes that are only stored are set at once. Over IPv6 the answer might not arrive: the watcher does it then.
-    $only_stored = $change == 'modes' && !$before['enabled'];
-    if ($change != 'static' && ($only_stored || chosen_seconds() == 0 && ipv4_bytes(address_of_request()) !== false)) {
-        return array(switch_at_once($session, $change, $before), array());
+    // What is only stored locks nobody out.
+    $seconds = !$before['enabled'] && $wanted['enabled'] == 'Off' ? 0 : chosen_seconds();
+    // Over IPv6 the answer might not arrive: the watcher does it then.
+    return array($seconds == 0 && !$changes_static && ipv4_bytes(address_of_request()) !== false
+        ? switch_at_once($session, $values, $before) : begin_ipv6($session, $values, $before, $new_address, $seconds), array());
+}
+
+function values_that_differ($wanted, $seen)
+{
+    $values = array();
+    foreach ($wanted as $name => $value) {
+        if (!isset($seen[$name]) || !same_value($value, $seen[$name])) {
+            $values[$name] = $value;
+        }
     }
-    return array(begin_ipv6($session, $kind, $values, $before), array());
+    return $values;
 }
 
 // The address of the other family, for a visitor who may lose the one in use; else ''.
@@ -102,69 +122,46 @@ function other_way($session)
     return is_host_address($ipv4->ip) ? origin_of($ipv4->ip, port_of_request()) . '/' : '';
 }
 
-// What is wanted, as it is shown.
-function values_typed($change)
-{
-    if ($change == 'static') {
-        return posted('static') != '1' ? array('mode' => 'Off') : array('mode' => 'On', 'ip' => posted('ipStatic'),
-            'prefix' => posted('prefix'), 'gateway' => posted('gateway'));
-    }
-    return $change == 'enabled' ? array('enabled' => posted('enabled') == '1' ? 'On' : 'Off')
-        : array('stateless' => posted('stateless') == '1' ? 'On' : 'Off', 'dhcp' => posted('dhcp') == '1' ? 'On' : 'Off');
-}
-
-// What is wanted, as put_back() takes it: all settings of IPv6, of which the form changes some.
-function wanted_ipv6($kind, $before)
+// What is wanted, as put_into_force() takes it: all settings of IPv6, of which the form changes some.
+function wanted_ipv6($values, $before)
 {
     $wanted = $before;
-    if ($kind == 'ipv6-switch') {
-        $wanted['enabled'] = posted('enabled') == '1';
-    } elseif ($kind == 'ipv6-modes') {
-        $wanted['stateless'] = posted('stateless') == '1';
-        $wanted['dhcp'] = posted('dhcp') == '1';
-    } elseif (posted('static') == '1') {
-        $wanted['static'] = true;
-        $wanted['ip'] = posted('ipStatic');
-        $wanted['prefix'] = posted('prefix');
-        $wanted['gateway'] = posted('gateway');
-    } else {
-        $wanted['static'] = false;
+    foreach ($values as $name => $value) {
+        $wanted[$name == 'mode' ? 'static' : $name] = in_array($name, array('ip', 'prefix', 'gateway')) ? $value : $value == 'On';
     }
     return $wanted;
 }
 
-function begin_ipv6($session, $kind, $values, $before)
+function begin_ipv6($session, $values, $before, $new_address, $seconds)
 {
-    // What is only stored locks nobody out.
-    $seconds = $kind == 'ipv6' && !$before['enabled'] ? 0 : chosen_seconds();
-    $to = $kind == 'ipv6' && posted('static') == '1' ? posted('ipStatic') : '';
-    $trial = new_trial($session, $kind, $values, $before, $before['static'] ? $before['ip'] : '', $to, $seconds);
+    $trial = new_trial($session, 'ipv6', $values, $before, $before['static'] ? $before['ip'] : '', $new_address, $seconds);
     $ipv4 = get_network_configuration_ipv4($session);
     $trial['others'] = is_host_address($ipv4->ip) ? array($ipv4->ip) : array();
     // Over IPv6 the way leads to the other family's address, which the appliance has already.
     $trial['goes_alone'] = moved_to($trial) == '';
-    $errors = start_change($session, $trial, wanted_ipv6($kind, $before));
-    return $errors ? array('static' => $errors[0]) : array();
+    $errors = start_change($session, $trial, wanted_ipv6($values, $before));
+    return $errors ? array('enabled' => $errors[0]) : array();
 }
 
-// Without a trial. Each mode by itself, so that one that fails does not keep the other from being set.
-function switch_at_once($session, $change, $before)
+// Without a trial, what is in force when the module's functions return. Each by itself, so that one that fails does not keep the
+// others from being set.
+function switch_at_once($session, $values, $before)
 {
     if (trial_in_the_way()) {
-        return array('static' => 'Another change of addressing is on trial: keep or undo it first. Yours was not applied.');
+        return array('enabled' => 'Another change is on trial: keep or undo it first. Yours was not applied.');
     }
     begin_change();
-    $kind = $change == 'enabled' ? 'ipv6-switch' : 'ipv6-modes';
-    put_back($session, 'ipv6', wanted_ipv6($kind, $before));
-    audit_change($session, 'ipv6', 'Set', $change == 'enabled' ? 'the IPv6 switch' : 'the sources of IPv6 addresses',
-        $GLOBALS['kinds_of_change'][$kind]['labels'], values_before($kind, $before), values_typed($change));
-    if (!change_failed()) {
-        go_to('ipv6.php', $change == 'modes' ? ($before['enabled']
-            ? 'The sources of addresses are set. Addresses appear or go within some seconds.'
-            : 'The sources of addresses are stored. They come into force when IPv6 is switched on.')
-            : (posted('enabled') == '1' ? 'IPv6 is on. Addresses appear within some seconds.' : 'IPv6 is off.'));
+    put_into_force($session, 'ipv6', wanted_ipv6($values, $before));
+    audit_change($session, 'ipv6', 'Set', 'the IPv6 settings', $GLOBALS['kinds_of_change']['ipv6']['labels'],
+        values_before('ipv6', $before, $values), $values);
+    if (change_failed()) {
+        return array();
     }
-    return array();
+    if (isset($values['enabled'])) {
+        go_to('ipv6.php', $values['enabled'] == 'On' ? 'IPv6 is on. Addresses appear within some seconds.' : 'IPv6 is off.');
+    }
+    go_to('ipv6.php', $before['enabled'] ? 'The sources of addresses are set. Addresses appear or go within some seconds.'
+        : 'The sources of addresses are stored. They come into force when IPv6 is switched on.');
 }
 
 function show_review($warnings, $values, $now)
@@ -175,8 +172,10 @@ function show_review($warnings, $values, $now)
             'now' => isset($now[$name]) ? $now[$name] : 'None', 'wanted' => $value);
     }
     $typed = array();
-    foreach (array('change', 'seen', 'static', 'ipStatic', 'prefix', 'gateway', 'trial') as $name) {
-        $typed[$name] = text_of($_POST, $name);
+    foreach (array('change', 'seen', 'enabled', 'stateless', 'dhcp', 'static', 'ipStatic', 'prefix', 'gateway', 'trial') as $name) {
+        if (isset($_POST[$name])) {
+            $typed[$name] = text_of($_POST, $name);
+        }
     }
     show('review', array('title' => 'Before it is applied', 'part_of' => 'ipv6.php', 'page' => 'ipv6.php',
         'warnings' => $warnings, 'rows' => $rows, 'typed' => $typed, 'lead' => 'Nothing has been changed yet.'));

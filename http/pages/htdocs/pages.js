@@ -11,6 +11,7 @@ if (wrong) wrong.focus();
 // The address under which the appliance will be found, as it is typed.
 for (const shown of document.querySelectorAll('[data-address-from]')) {
   const field = document.getElementById(shown.dataset.addressFrom);
+  if (!field) continue; // who may only look has values in the place of fields
   const general = shown.textContent;
   const scheme = general.slice(0, general.indexOf('//') + 2);
   const update = () => { shown.textContent = isIpv4(field.value.trim()) ? `${scheme}${field.value.trim()}/` : general; };
@@ -19,10 +20,11 @@ for (const shown of document.querySelectorAll('[data-address-from]')) {
 }
 
 // Parts of a form that another field makes useless. Without scripts they only look it, and what they say is passed over.
-for (const part of document.querySelectorAll('[data-inactive-while]')) {
-  const field = document.getElementById(part.dataset.inactiveWhile);
-  const locked = part.closest('fieldset.form[disabled]') !== null;
-  const update = () => { part.disabled = locked || field.checked; };
+for (const part of document.querySelectorAll('[data-inactive-while], [data-inactive-unless]')) {
+  const {inactiveWhile, inactiveUnless} = part.dataset;
+  const field = document.getElementById(inactiveWhile || inactiveUnless);
+  if (!field) continue;
+  const update = () => { part.disabled = field.checked === Boolean(inactiveWhile); };
   field.addEventListener('change', update);
   addEventListener('pageshow', update); // the browser may have put back what was chosen
   update();

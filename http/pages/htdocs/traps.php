@@ -27,8 +27,9 @@ $results = isset($_SESSION['test_results']) ? $_SESSION['test_results'] : array(
 if (!is_background()) {
     unset($_SESSION['test_results']); // they are of the moment
 }
+begin_reading();
 $receivers = get_snmp_trap_regs($session);
-show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'typed' => $typed,
+show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'is_known' => could_read(), 'typed' => $typed,
     'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'results' => $results,
     'lead' => 'The systems to which the SNMP agent reports events.'));
 

@@ -121,6 +121,13 @@ function host_error($text)
         : 'No other device can have this address. Enter one such as 10.20.0.1 or 2001:db8:20::1.';
 }
 
+// What is wrong with a second name server beside the first. The appliance itself takes the same one twice.
+function second_server_error($primary, $secondary)
+{
+    return $secondary != '' && same_value($primary, $secondary)
+        ? 'This is the primary server. Enter another one, or leave this field empty.' : '';
+}
+
 // Whether two texts are the same address, or the same text.
 function same_value($one, $other)
 {

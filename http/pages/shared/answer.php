@@ -75,6 +75,23 @@ function give_up($reason)
     refuse('500 Internal Server Error', 'The appliance cannot go on', $reason);
 }
 
+// At the end of a request whose page has died: the page of such errors, in the place of a blank one. The appliance's interpreter
+// does not tell.
+function answer_for_the_dead()
+{
+    $error = function_exists('error_get_last') ? error_get_last() : null;
+    if (!$error || !($error['type'] & (E_ERROR | E_PARSE | E_CORE_ERROR | E_COMPILE_ERROR)) || php_sapi_name() == 'cli'
+        || headers_sent()) {
+        return;
+    }
+    while (ob_get_level() > 0) {
+        ob_get_clean();
+    }
+    header('HTTP/1.1 500 Internal Server Error');
+    send_headers();
+    readfile(dirname(dirname(__FILE__)) . '/errors/500.html');
+}
+
 // The headers of every answer. $other_origins are further ones that the page may ask whether they are this appliance.
 function send_headers($other_origins = array())
 {

@@ -34,12 +34,12 @@ function trial_in_the_way()
     return $trial && is_active($trial) ? $trial : false;
 }
 
-// Asks for a change and goes to the page that follows it. $wanted: the settings as put_back() takes them. Returns only when
+// Asks for a change and goes to the page that follows it. $wanted: the settings as put_into_force() takes them. Returns only when
 // nothing was changed: array of what to say, empty when the module has reported it.
 function start_change($session, $trial, $wanted)
 {
     $trial['wanted'] = $wanted;
-    if (family_of_kind($trial['kind']) == 'ipv6' && ipv4_bytes(address_of_request()) === false) {
+    if ($trial['kind'] == 'ipv6' && ipv4_bytes(address_of_request()) === false) {
         $trial['later'] = $wanted; // the answer would not arrive
     }
     $errors = start_trial($trial);
@@ -48,9 +48,9 @@ function start_change($session, $trial, $wanted)
     }
     if (!$trial['later']) {
         begin_change();
-        $is_traced = put_back($session, $trial['kind'], $wanted);
+        $is_traced = put_into_force($session, $trial['kind'], $wanted);
         if (change_failed()) {
-            take_back_at_once($session, $trial);
+            drop_trial($trial, take_back_at_once($session, $trial));
             return array();
         }
         if (!$is_traced) {
@@ -76,14 +76,4 @@ function start_trial($trial)
             . ' all the same.');
     }
     return array();
-}
-
-// What was refused, but for a part of it.
-function take_back_at_once($session, $trial)
-{
-    $failure = $GLOBALS['failures'][count($GLOBALS['failures']) - 1];
-    if ($trial['kind'] != 'ipv4') {
-        put_back($session, $trial['kind'], $trial['before']);
-    }
-    drop_trial($trial, $failure['message']);
 }

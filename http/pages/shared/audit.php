@@ -285,27 +285,39 @@ function values_of_audit($text)
 function write_audit_of_trial($trial, $operation, $user, $client, $details)
 {
     $kind = $GLOBALS['kinds_of_change'][$trial['kind']];
-    $old = labelled(values_before($trial['kind'], $trial['before']), $kind['labels']);
+    $old = labelled(values_before($trial['kind'], $trial['before'], $trial['values']), $kind['labels']);
     $new = labelled($trial['values'], $kind['labels']);
     $is_back = $operation == 'undoing' || $operation == 'undone' || $operation == 'could not be undone';
     $outcomes = array('begun' => 'begun', 'kept' => 'done', 'undoing' => 'begun', 'undone' => 'undone',
         'could not be undone' => 'failed', 'refused by the appliance' => 'refused');
     $outcome = isset($outcomes[$operation]) ? $outcomes[$operation] : 'done';
-    return write_audit($user, $client, $kind['name'] . ' ' . $operation, $details, family_of_kind($trial['kind']),
+    return write_audit($user, $client, $kind['name'] . ' ' . $operation, $details, $trial['kind'],
         $is_back ? $new : $old, $is_back ? $old : $new, $outcome . ($details == '' || $outcome == 'done' ? '' : ': ' . $details),
         $is_back && $trial['undo_began'] > 0 ? $trial['undo_began'] : 0);
 }
 
-// The settings before a change on trial, under the names that its kind has.
-function values_before($kind, $before)
+// The settings before a change on trial, under the names that its kind has. $changed: the values that are wanted, of IPv6 the other
+// settings are left out then; or false.
+function values_before($kind, $before, $changed = false)
 {
     if ($kind == 'ipv4') {
         return $before['dhcp'] ? array('mode' => 'DHCP') : array('mode' => 'Static', 'ip' => $before['ip'],
             'netmask' => $before['netmask'], 'gateway' => $before['gateway']);
     }
     if ($kind == 'ipv6') {
-        return !$before['static'] ? array('mode' => 'Off') : array('mode' => 'On', 'ip' => short_ipv6($before['ip']),
-            'prefix' => $before['prefix'], 'gateway' => short_ipv6($before['gateway']));
+        $values = array();
+        $settings = array('enabled' => 'enabled', 'stateless' => 'stateless', 'dhcp' => 'dhcp', 'mode' => 'static');
+        foreach ($settings as $name => $setting) {
+            if (!$changed || isset($changed[$name])) {
+                $values[$name] = $before[$setting] ? 'On' : 'Off';
+            }
+        }
+        foreach (array('ip', 'prefix', 'gateway') as $name) {
+            if ($before['static'] && (!$changed || isset($changed[$name]) || isset($changed['mode']))) {
+                $values[$name] = short_ipv6($before[$name]);
+            }
+        }
+        return $values;
     }
     $values = array();
     foreach ($GLOBALS['kinds_of_change'][$kind]['labels'] as $name => $label) {

@@ -4,8 +4,7 @@
 define('TOO_LONG_A_FILE', 'The file is longer than 64 KiB: it is no file of settings.');
 
 // Sections whose change can cut the connection: each with its kind of change. They are asked for by the pages that they belong to.
-$parts_on_trial = array('ipv4' => 'ipv4', 'ipv6' => 'ipv6-switch', 'ipv6-automatic' => 'ipv6-modes', 'ipv6-static' => 'ipv6',
-    'web' => 'ssl');
+$parts_on_trial = array('ipv4' => 'ipv4', 'ipv6' => 'ipv6', 'ipv6-automatic' => 'ipv6', 'ipv6-static' => 'ipv6', 'web' => 'ssl');
 
 // The others in the order in which they are applied, each with its function: the host name may restart the web server.
 $parts_at_once = array('dns' => 'apply_dns', 'port' => 'apply_port', 'snmp' => 'apply_snmp', 'traps' => 'apply_traps',
@@ -284,14 +283,14 @@ function form_of_part($section, $wanted)
             'ip' => value_of($wanted, 'address'), 'netmask' => value_of($wanted, 'netmask'), 'gateway' => value_of($wanted, 'gateway'));
     }
     if ($section == 'ipv6') {
-        return array('page' => 'ipv6.php', 'change' => 'enabled', 'enabled' => $wanted['enabled'] == 'on' ? '1' : '');
+        return array('page' => 'ipv6.php', 'change' => 'ipv6', 'enabled' => $wanted['enabled'] == 'on' ? '1' : '');
     }
     if ($section == 'ipv6-automatic') {
-        return array('page' => 'ipv6.php', 'change' => 'modes', 'stateless' => $wanted['router-advertisements'] == 'on' ? '1' : '',
+        return array('page' => 'ipv6.php', 'change' => 'ipv6', 'stateless' => $wanted['router-advertisements'] == 'on' ? '1' : '',
             'dhcp' => $wanted['dhcp'] == 'on' ? '1' : '');
     }
     if ($section == 'ipv6-static') {
-        return array('page' => 'ipv6.php', 'change' => 'static', 'static' => $wanted['enabled'] == 'on' ? '1' : '',
+        return array('page' => 'ipv6.php', 'change' => 'ipv6', 'static' => $wanted['enabled'] == 'on' ? '1' : '',
             'ipStatic' => value_of($wanted, 'address'), 'prefix' => value_of($wanted, 'prefix'),
             'gateway' => value_of($wanted, 'gateway'));
     }

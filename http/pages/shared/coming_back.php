@@ -269,7 +269,7 @@ function ways_of($session, $trial)
         }
         return array('origins' => $origins, 'leaves' => is_used_address($trial['from']));
     }
-    if (family_of_kind($trial['kind']) == 'ipv6' && $is_ipv6) {
+    if ($trial['kind'] == 'ipv6' && $is_ipv6) {
         // The address of the other family, which the change leaves alone.
         $origins = array();
         foreach ($trial['others'] as $host) {
@@ -277,7 +277,7 @@ function ways_of($session, $trial)
         }
         return array('origins' => $origins, 'leaves' => true, 'known' => true);
     }
-    if (family_of_kind($trial['kind']) == 'ipv6' && $trial['state'] == 'trial' && !ipv6_is_off_after($trial)) {
+    if ($trial['kind'] == 'ipv6' && $trial['state'] == 'trial' && !ipv6_is_off_after($trial)) {
         $origins = array();
         foreach ($trial['to'] == '' ? get_all_ipv6_addresses() : array($trial['to']) as $address) {
             $origins[] = origin_of($address, '');

@@ -43,14 +43,15 @@ function could_read()
     return count($GLOBALS['failures']) == $GLOBALS['failures_before_reading'];
 }
 
-// What the pages say of it: each cause once. What could not be read is one message, whatever was asked for in vain.
-function failure_messages()
+// What the pages say of it: each cause once. What could not be read is one message, whatever was asked for in vain. $at_field:
+// a field says already what has failed.
+function failure_messages($at_field)
 {
     $reading = array();
     $others = '';
     foreach ($GLOBALS['failures'] as $i => $failure) {
         if ($failure['place'] == '' || $GLOBALS['change_begun'] && $i >= $GLOBALS['failures_before_change']) {
-            $others .= failure_message(array($failure));
+            $others .= $at_field && $failure['place'] != '' ? '' : failure_message(array($failure));
         } else {
             $reading[] = $failure;
         }
@@ -73,10 +74,15 @@ function change_failed()
     return count($GLOBALS['failures']) > $GLOBALS['failures_before_change'];
 }
 
+function failures_of_change()
+{
+    return $GLOBALS['change_begun'] ? array_slice($GLOBALS['failures'], $GLOBALS['failures_before_change']) : array();
+}
+
 // Whether the change was refused because an address belongs to the network inside the appliance.
 function is_internal_address()
 {
-    foreach (array_slice($GLOBALS['failures'], $GLOBALS['failures_before_change']) as $failure) {
+    foreach (failures_of_change() as $failure) {
         if ($failure['code'] == INTERNAL_ADDRESS) {
             return true;
         }

@@ -6,23 +6,46 @@ function token_field()
     return '<input type="hidden" name="token" value="' . h($_SESSION['token']) . '">';
 }
 
-// Begins a form for one kind of change. Who may not change anything sees its fields, but cannot use them.
+$only_shown = false; // whether fields are values that can only be read
+$said_why_only_shown = false;
+
+// Begins a form for one kind of change. Who may not change anything sees the values of its fields as text, and no form.
 function form_begin($page, $change)
 {
-    $locked = may_change($GLOBALS['session']) ? '' : ' disabled';
+    if (!may_change($GLOBALS['session'])) {
+        $GLOBALS['only_shown'] = true;
+        return '<div class="form only-shown">';
+    }
     $again = fill_again($page, $change);
-    return '<form method="post" action="' . h($page) . '"' . ($again ? ' data-unsaved' : '') . '><fieldset class="form"' . $locked
-        . '>' . token_field() . proof_field($page) . '<input type="hidden" name="change" value="' . h($change) . '">';
+    return '<form method="post" action="' . h($page) . '"' . ($again ? ' data-unsaved' : '') . '><fieldset class="form">'
+        . token_field() . proof_field($page) . '<input type="hidden" name="change" value="' . h($change) . '">';
 }
 
 // Ends the form with its button; $beside: markup in front of that. Who may not change anything is told so in its place.
 function form_end($label, $beside = '')
 {
-    $button = may_change($GLOBALS['session'])
-        ? $beside . '<p class="actions"><button type="submit" class="primary">' . h($label) . '</button></p>'
-        : '<p class="hint">You may look at these settings; changing them needs the role admin.</p>';
+    if ($GLOBALS['only_shown']) {
+        $GLOBALS['only_shown'] = false;
+        return '</div>' . why_only_shown();
+    }
     fill_no_more();
-    return '</fieldset>' . $button . '</form>';
+    return '</fieldset>' . $beside . '<p class="actions"><button type="submit" class="primary">' . h($label)
+        . '</button></p></form>';
+}
+
+// Once on a page, at its first form.
+function why_only_shown()
+{
+    $is_said = $GLOBALS['said_why_only_shown'];
+    $GLOBALS['said_why_only_shown'] = true;
+    return $is_said ? '' : '<p class="hint">You may look at the settings; changing them needs the role admin.</p>';
+}
+
+// What stands in the place of a field.
+function shown_value($label, $value, $hint = '')
+{
+    return '<div class="shown"><p>' . h($label) . '</p><p class="value">' . ($value === '' ? 'None' : h($value)) . '</p>'
+        . ($hint == '' ? '' : '<p class="hint">' . h($hint) . '</p>') . '</div>';
 }
 
 // Likewise for what everybody may change of their own.
@@ -60,6 +83,9 @@ function field_notes($name, $hint, $error)
 // A field of one line. $more is further attributes, as markup.
 function text_field($name, $label, $value, $errors, $hint = '', $more = '')
 {
+    if ($GLOBALS['only_shown']) {
+        return shown_value($label, $value);
+    }
     $error = isset($errors[$name]) ? $errors[$name] : '';
     $value = typed_again($name, $value);
     return '<div class="field' . ($error == '' ? '' : ' wrong') . '"><label for="' . $name . '">' . h($label) . '</label>'
@@ -72,6 +98,10 @@ function text_field($name, $label, $value, $errors, $hint = '', $more = '')
 // One of several. $choices: value => array of 'label' and 'hint'.
 function choice_field($name, $legend, $choices, $value, $errors = array())
 {
+    if ($GLOBALS['only_shown']) {
+        return isset($choices[$value]) ? shown_value($legend, $choices[$value]['label'], $choices[$value]['hint'])
+            : shown_value($legend, 'Unknown');
+    }
     $error = isset($errors[$name]) ? $errors[$name] : '';
     $html = '<fieldset class="field"' . described_by($name, '', $error) . '><legend>' . h($legend) . '</legend>';
     foreach ($choices as $choice => $texts) {
@@ -84,15 +114,28 @@ function choice_field($name, $legend, $choices, $value, $errors = array())
 // Yes or no.
 function check_field($name, $label, $checked, $hint = '')
 {
+    if ($GLOBALS['only_shown']) {
+        return shown_value($label, $checked ? 'On' : 'Off', $hint);
+    }
     return mark_field('checkbox', $name, $name, '1', $label, $hint, typed_again($name, $checked ? '1' : '', '') == '1');
 }
 
+// Yes or no, where nothing is sent only while the field is inactive: "no" is sent, too.
+function answer_field($name, $label, $checked, $hint = '', $errors = array())
+{
+    if ($GLOBALS['only_shown']) {
+        return shown_value($label, $checked ? 'On' : 'Off', $hint);
+    }
+    return '<input type="hidden" name="' . $name . '" value="">' . mark_field('checkbox', $name, $name, '1', $label, $hint,
+        typed_again($name, $checked ? '1' : '') == '1', isset($errors[$name]) ? $errors[$name] : '');
+}
+
 // A radio button or a check box, with its label behind it.
-function mark_field($type, $name, $id, $value, $label, $hint, $checked)
+function mark_field($type, $name, $id, $value, $label, $hint, $checked, $error = '')
 {
     return '<div class="mark"><input type="' . $type . '" id="' . $id . '" name="' . $name . '" value="' . h($value) . '"'
-        . ($checked ? ' checked' : '') . described_by($id, $hint, '') . '><div><label for="' . $id . '">' . h($label)
-        . '</label>' . field_notes($id, $hint, '') . '</div></div>';
+        . ($checked ? ' checked' : '') . described_by($id, $hint, $error) . '><div><label for="' . $id . '">' . h($label)
+        . '</label>' . field_notes($id, $hint, $error) . '</div></div>';
 }
 
 // A password is never shown again, and never filled in by the server.

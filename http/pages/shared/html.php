@@ -18,6 +18,7 @@ function asset($name)
 // A drawing of 24 by 24, for the eye only: a word always stands beside it.
 function icon($name)
 {
+    $sheet = 'M6 3h8l4 4v14H6zM14 3v4h4'; // for pages that have no drawing of their own
     $drawings = array(
         'index.php' => 'M4 4h6v9H4zM14 4h6v5h-6zM14 13h6v7h-6zM4 17h6v3H4z',
         'ipv4.php' => 'M9 3h6v5H9zM3 16h6v5H3zM15 16h6v5h-6zM12 8v4M6 16v-4h12v4',
@@ -42,7 +43,7 @@ function icon($name)
         'appliance' => 'M4 4h16v16H4zM4 9.3h16M4 14.6h16M8 6.7h4M8 12h4M8 17.3h4'
     );
     return '<svg class="icon" viewBox="0 0 24 24" aria-hidden="true" focusable="false"><path d="'
-        . $drawings[$name] . '"/></svg>';
+        . (isset($drawings[$name]) ? $drawings[$name] : $sheet) . '"/></svg>';
 }
 
 // A state in a word, a drawing and a colour. $kind is 'good' for what works, 'set' for what is only set, 'bad', 'caution',
@@ -80,18 +81,27 @@ function failure_message($failures)
 {
     $messages = array();
     $advice = array();
-    $details = array();
     foreach ($failures as $failure) {
         $messages[$failure['message']] = h($failure['message']);
         $advice[$failure['advice']] = h($failure['advice']);
-        $detail = h($failure['message']) . ($failure['code'] == '' ? ': ' : '. Code ' . h($failure['code']) . ', reported at ')
-            . h($failure['place']);
-        $details[$detail] = $detail;
     }
     $title = count($messages) == 1 ? implode('', $messages) : 'Not everything could be read';
     $said = count($messages) == 1 && count($advice) == 1 ? implode('', $advice)
         : 'What is not known stands here as "Unknown". The trace log under Diagnostics shows what was tried.';
-    return message('bad', '<p><strong>' . $title . '</strong></p><p>' . $said . '</p>' . ($failures[0]['place'] == '' ? ''
-        : '<details class="details"><summary>Details</summary><p class="code">' . implode('</p><p class="code">', $details)
-        . '</p></details>'));
+    return message('bad', '<p><strong>' . $title . '</strong></p><p>' . $said . '</p>' . failure_details($failures));
+}
+
+// Folded: each failure in the module's words, with its code and place.
+function failure_details($failures)
+{
+    $details = array();
+    foreach ($failures as $failure) {
+        if ($failure['place'] != '') {
+            $detail = h(rtrim($failure['message'], '.')) . ($failure['code'] == '' ? ': ' : '. Code ' . h($failure['code'])
+                . ', reported at ') . h($failure['place']);
+            $details[$detail] = $detail;
+        }
+    }
+    return !$details ? '' : '<details class="details"><summary>Details</summary><p class="code">'
+        . implode('</p><p class="code">', $details) . '</p></details>';
 }

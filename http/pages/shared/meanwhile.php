@@ -5,6 +5,9 @@
 // $values: name => setting, as the page shows it.
 function seen_field($values)
 {
+    if ($GLOBALS['only_shown']) {
+        return '';
+    }
     $pairs = array();
     foreach ($values as $name => $value) {
         $pairs[] = urlencode($name) . '=' . urlencode((string) $value);

@@ -9,20 +9,15 @@ function values_now($session, $kind)
         $now = get_ssl_settings($session);
         return array('https' => $now->isEnabled ? 'On' : 'Off');
     }
-    if ($kind == 'ipv6-switch') {
-        return array('enabled' => is_ipv6_enabled() ? 'On' : 'Off');
-    }
-    if ($kind == 'ipv6-modes') {
-        return array('stateless' => is_stateless_enabled() ? 'On' : 'Off', 'dhcp' => is_ipv6_dhcp_enabled() ? 'On' : 'Off');
-    }
     if ($kind == 'ipv4') {
         $now = get_network_configuration_ipv4($session);
         return array('mode' => $now->dhcpEnabled ? 'DHCP' : 'Static', 'ip' => $now->ip, 'netmask' => $now->netmask,
             'gateway' => $now->gateway);
     }
     $now = get_network_configuration_ipv6($session);
-    return array('mode' => $now->staticEnabled ? 'On' : 'Off', 'ip' => $now->ipStatic, 'prefix' => $now->prefix,
-        'gateway' => $now->gateway, 'enabled' => is_ipv6_enabled(), 'addresses' => get_all_ipv6_addresses());
+    return array('enabled' => is_ipv6_enabled() ? 'On' : 'Off', 'stateless' => is_stateless_enabled() ? 'On' : 'Off',
+        'dhcp' => is_ipv6_dhcp_enabled() ? 'On' : 'Off', 'mode' => $now->staticEnabled ? 'On' : 'Off', 'ip' => $now->ipStatic,
+        'prefix' => $now->prefix, 'gateway' => $now->gateway, 'addresses' => get_all_ipv6_addresses());
 }
 
 // Each wanted value beside the one in force: name => array of 'label', 'wanted', 'now' and 'same'.
@@ -38,7 +33,7 @@ function compare_values($change, $now)
         $rows['ip'] = array('label' => 'Address', 'wanted' => 'From the DHCP server', 'now' => $address,
             'same' => $address != 'None' && $now['mode'] == 'DHCP');
     }
-    if ($change['kind'] == 'ipv6' && $change['values']['mode'] == 'On' && $now['enabled'] && $change['to'] != '') {
+    if ($change['kind'] == 'ipv6' && $now['enabled'] == 'On' && $change['to'] != '') {
         $used = is_among($change['to'], $now['addresses']);
         $rows['used'] = array('label' => 'In use', 'wanted' => 'Yes', 'now' => $used ? 'Yes' : 'No', 'same' => $used);
     }
@@ -142,6 +137,9 @@ function reason_of_undo($trial)
 {
     if ($trial['why'] == 'time') {
         return 'nobody was back under the new settings within ' . $trial['seconds'] . ' seconds';
+    }
+    if ($trial['why'] == 'refused') {
+        return 'the appliance refused a part of the new ones';
     }
     return $trial['why'] == 'start' ? 'the appliance started anew during the trial' : $trial['by'] . ' asked for it';
 }

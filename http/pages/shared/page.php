@@ -37,6 +37,7 @@ ini_set('display_errors', '0');
 ini_set('log_errors', '1');
 ini_set('html_errors', '0'); // so that a failure's message is what the module said
 set_error_handler('note_failure');
+register_shutdown_function('answer_for_the_dead');
 
 // What is in the menu, in its order: page => title.
 $pages = array(

@@ -27,6 +27,9 @@ function dns_errors($settings)
             $errors[$field] = $error;
         }
     }
+    if (!$errors && second_server_error($settings->dnsPrimary, $settings->dnsSecondary) != '') {
+        $errors['dnsSecondary'] = second_server_error($settings->dnsPrimary, $settings->dnsSecondary);
+    }
     if ($settings->dnsPrimary == '' && $settings->dnsSecondary != '') {
         $errors['dnsPrimary'] = 'Enter the only server here and leave the second one empty.';
     }

@@ -7,13 +7,9 @@
 $kinds_of_change = array(
     'ipv4' => array('name' => 'IPv4 settings', 'page' => 'ipv4.php', 'usual_seconds' => 6, 'longest_seconds' => 45,
         'labels' => array('mode' => 'Obtained by', 'ip' => 'Address', 'netmask' => 'Netmask', 'gateway' => 'Gateway')),
-    'ipv6' => array('name' => 'Static IPv6 address', 'page' => 'ipv6.php', 'usual_seconds' => 3, 'longest_seconds' => 15,
-        'labels' => array('mode' => 'Static address', 'ip' => 'Address', 'prefix' => 'Prefix length',
-            'gateway' => 'Gateway')),
-    'ipv6-switch' => array('name' => 'IPv6 switch', 'page' => 'ipv6.php', 'usual_seconds' => 3, 'longest_seconds' => 15,
-        'labels' => array('enabled' => 'IPv6')),
-    'ipv6-modes' => array('name' => 'Automatic IPv6 addresses', 'page' => 'ipv6.php', 'usual_seconds' => 3,
-        'longest_seconds' => 15, 'labels' => array('stateless' => 'Router advertisements', 'dhcp' => 'DHCP')),
+    'ipv6' => array('name' => 'IPv6 settings', 'page' => 'ipv6.php', 'usual_seconds' => 3, 'longest_seconds' => 15,
+        'labels' => array('enabled' => 'IPv6', 'stateless' => 'Router advertisements', 'dhcp' => 'DHCP',
+            'mode' => 'Static address', 'ip' => 'Address', 'prefix' => 'Prefix length', 'gateway' => 'Gateway')),
     'ssl' => array('name' => 'Web security', 'page' => 'security.php', 'usual_seconds' => 5, 'longest_seconds' => 30,
         'labels' => array('https' => 'HTTPS'))
 );
@@ -44,11 +40,10 @@ function traced_since($from)
 // did, when none goes on any longer; else ''.
 function how_it_ended($kind, $lines)
 {
-    $family = family_of_kind($kind);
-    if (!isset($GLOBALS['traced_changes'][$family])) {
+    if (!isset($GLOBALS['traced_changes'][$kind])) {
         return '';
     }
-    $patterns = $GLOBALS['traced_changes'][$family];
+    $patterns = $GLOBALS['traced_changes'][$kind];
     $begun = 0;
     $ended = 0;
     $last = '';

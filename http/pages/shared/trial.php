@@ -40,6 +40,9 @@ function stored_trial()
     clearstatcache();
     $text = is_readable(TRIAL_FILE) ? implode('', file(TRIAL_FILE)) : '';
     $trial = $text == '' ? false : @unserialize($text); // one that is damaged is none
+    if (isset($trial['kind']) && ($trial['kind'] == 'ipv6-switch' || $trial['kind'] == 'ipv6-modes')) {
+        $trial['kind'] = 'ipv6'; // an older program told its parts apart
+    }
     $is_whole = is_array($trial) && isset($trial['id'], $trial['state'], $trial['kind'], $trial['values'], $trial['before'])
         && is_array($trial['values']) && is_array($trial['before']) && isset($GLOBALS['kinds_of_change'][$trial['kind']]);
     // What the record of an older program lacks.
@@ -253,6 +256,10 @@ function follow_trace($trial)
     if ($end == '') {
         return $trial;
     }
+    if ($end == 'failed' && has_other_parts($trial)) {
+        change_trial($trial['id'], array('applying'), array('ended' => time(), 'lines' => $lines));
+        return undo_trial($trial, 'refused', '', '');
+    }
     if ($end == 'failed') {
         $changes = array('state' => 'refused', 'settled' => time(), 'ended' => time(), 'lines' => $lines);
     } elseif ($trial['seconds'] == 0) {
@@ -267,6 +274,22 @@ function follow_trace($trial)
             $end == 'failed' ? '' : 'without a trial');
     }
     return read_trial();
+}
+
+// Whether something of the change is in force although the thread, which ends in the trace log, has set nothing.
+function has_other_parts($trial)
+{
+    return $trial['kind'] == 'ipv6' && has_one_of($trial['values'], array('enabled', 'stateless', 'dhcp'));
+}
+
+function has_one_of($values, $names)
+{
+    foreach ($names as $name) {
+        if (isset($values[$name])) {
+            return true;
+        }
+    }
+    return false;
 }
 
 // A change that is in force when the module's function returns.
@@ -299,8 +322,8 @@ function keep_trial($trial, $why, $by, $client)
     return true;
 }
 
-// Decides that the settings of before come back. $why: 'time', 'asked' or 'start'. $also_kept: whether what is kept by now is to
-// be undone, too. Returns the record.
+// Decides that the settings of before come back. $why: 'time', 'asked', 'start', or 'refused' of a part of it.
+// $also_kept: whether what is kept by now is to be undone, too. Returns the record.
 function undo_trial($trial, $why, $by, $client, $also_kept = false)
 {
     $states = $also_kept && can_undo_kept($trial) ? array('applying', 'trial', 'kept') : array('applying', 'trial');
@@ -336,7 +359,8 @@ function follow_undo($trial)
     }
     free_room();
     begin_change();
-    if (!put_back(session_of_trial($trial), $trial['kind'], $trial['before'])) {
+    $on_its_way = $trial['ended'] == 0 ? $trial['wanted'] : array();
+    if (!put_back(session_of_trial($trial), $trial['kind'], $trial['before'], $on_its_way)) {
         end_undo($mine, change_failed(), array());
     } elseif (change_failed()) {
         end_undo($mine, true, array());
@@ -383,7 +407,9 @@ function follow_end_of_undo($trial)
     $lines = traced_since($trial['undo_trace']);
     $end = $trial['undo_asked'] ? how_it_ended($trial['kind'], $lines) : '';
     if ($end != '') {
-        end_undo($trial, $end == 'failed', $lines);
+        // The thread of the change itself may have come after that of the undoing.
+        $is_other = $trial['kind'] == 'ipv6' && text_of_settings_now($trial) != settings_text('ipv6', $trial['before']);
+        end_undo($trial, $end == 'failed' || $is_other, $lines);
     } elseif ($trial['undo_tries'] >= UNDO_TRIES && time() - $trial['undo_began'] > UNDO_SECONDS) {
         // The trace log may be what could not be written.
         end_undo($trial, text_of_settings_now($trial) != settings_text($trial['kind'], $trial['before']), array());
@@ -422,11 +448,13 @@ function end_undo($trial, $failed, $lines)
         return;
     }
     $again = $failed && $trial['undo_failed']; // which has been said
-    if (change_trial($trial['id'], array('undoing'), array('state' => 'undone', 'settled' => time(), 'undo_failed' => $failed,
-        'lines' => $lines, 'left' => $failed ? text_of_settings_now($trial) : '',
-        'told' => $again ? $trial['told'] : array())) && !$again) {
-        audit_trial($trial, $failed ? 'could not be undone' : 'undone', $trial['by'] == '' ? $trial['user'] : $trial['by'],
-            $trial['from_client'], why_undone($trial));
+    $refused = $trial['why'] == 'refused' && !$failed;
+    $operation = $refused ? 'refused by the appliance' : ($failed ? 'could not be undone' : 'undone');
+    if (change_trial($trial['id'], array('undoing'), array('state' => $refused ? 'refused' : 'undone', 'settled' => time(),
+        'why' => $refused ? '' : $trial['why'], 'undo_failed' => $failed, 'lines' => $refused ? $trial['lines'] : $lines,
+        'left' => $failed ? text_of_settings_now($trial) : '', 'told' => $again ? $trial['told'] : array())) && !$again) {
+        audit_trial($trial, $operation, $trial['by'] == '' ? $trial['user'] : $trial['by'], $trial['from_client'],
+            why_undone($trial));
     }
 }
 
@@ -434,6 +462,9 @@ function why_undone($trial)
 {
     if ($trial['why'] == 'start') {
         return 'the appliance started anew during the trial';
+    }
+    if ($trial['why'] == 'refused') {
+        return 'the appliance refused a part of it';
     }
     return $trial['why'] == 'time' ? 'nobody was back under the new settings in time' : 'asked for by ' . $trial['by'];
 }
@@ -551,15 +582,24 @@ function carry_out_later($trial)
         return;
     }
     begin_change();
-    $is_traced = put_back(session_of_trial($trial), $trial['kind'], $trial['later']);
+    $is_traced = put_into_force(session_of_trial($trial), $trial['kind'], $trial['later']);
     if (change_failed()) {
-        $failure = end($GLOBALS['failures']);
-        change_trial($trial['id'], array('applying'), array('state' => 'refused', 'settled' => time(),
-            'why' => $failure['message']));
-        audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], $failure['message']);
+        $why = take_back_at_once(session_of_trial($trial), $trial);
+        change_trial($trial['id'], array('applying'), array('state' => 'refused', 'settled' => time(), 'why' => $why));
+        audit_trial($trial, 'refused by the appliance', $trial['user'], $trial['client'], $why);
     } elseif (!$is_traced) {
         ended_at_once($trial);
     }
+}
+
+// What was refused, but for a part of it. Returns why it was.
+function take_back_at_once($session, $trial)
+{
+    $failure = $GLOBALS['failures'][count($GLOBALS['failures']) - 1];
+    if ($trial['kind'] != 'ipv4') {
+        put_back($session, $trial['kind'], $trial['before']);
+    }
+    return $failure['message'];
 }
 
 // What the module is asked for is asked for in the name of who made the change.

@@ -11,7 +11,7 @@ $name = name_in_frame();
 <main id="content">
   <p class="brand"><?php echo icon('appliance'); ?><span>Network settings</span></p>
   <h1><?php echo h($name); ?></h1>
-<?php echo failure_messages(); ?>
+<?php echo failure_messages(false); ?>
 <?php echo $content; ?>
 </main>
 </body>

@@ -13,6 +13,7 @@
 <?php } ?>
 </section>
 
+<?php if (may_change($GLOBALS['session'])) { ?>
 <section class="card" aria-labelledby="servers">
   <h2 id="servers">DNS servers</h2>
 <?php
@@ -26,3 +27,4 @@ echo text_field('dnsSecondary', 'Secondary server', $settings->dnsSecondary, $er
 <p class="note">The change takes effect at once and does not interrupt this page.</p>
 <?php echo form_end('Save'); ?>
 </section>
+<?php } else echo why_only_shown(); ?>

@@ -36,10 +36,10 @@ $left = seconds_of_session();
     <?php echo render('menu', array('current' => $current)); ?>
   </details>
 </header>
-<header class="side">
+<header class="side"><div>
   <p class="brand"><?php echo icon('appliance'); ?><span><?php echo h($name); ?></span></p>
   <?php echo render('menu', array('current' => $current)); ?>
-</header>
+</div></header>
 <main id="content" tabindex="-1">
   <div class="title">
     <h1><?php echo h($title); ?></h1>
@@ -58,9 +58,10 @@ $left = seconds_of_session();
     </div></div>
     <?php } ?>
     <?php if (!empty($errors)) { ?>
-      <?php echo message('bad', '<p><strong>Nothing was changed.</strong> Correct what is marked and save again.</p>'); ?>
+      <?php echo message('bad', '<p><strong>Nothing was changed.</strong> Correct what is marked and save again.</p>'
+          . failure_details(failures_of_change())); ?>
     <?php } ?>
-    <?php echo failure_messages(); ?>
+    <?php echo failure_messages(!empty($errors)); ?>
   </div>
 <?php echo $content; ?>
 </main>

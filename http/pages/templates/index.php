@@ -5,6 +5,7 @@ if ($settings->ipv6DhcpEnabled) $modes[] = 'DHCP';
 if ($settings->staticEnabled) $modes[] = 'static';
 $modes_known = !isset($unknown['stateless']) && !isset($unknown['static']);
 $shows_interfaces = shows_interfaces();
+$open = may_change($GLOBALS['session']) ? 'Change' : 'Show';
 $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
 ?>
 <?php if ($restored != '') echo message('caution', '<p><strong>' . h($restored) . '</strong></p><p>Check web security,'
@@ -32,7 +33,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
     <dt>Port 1 (eth0)</dt><dd><?php echo link_state('eth0'), ' ', h(link_in_words('eth0')); ?></dd>
 <?php } ?>
   </dl>
-  <p class="more"><a href="ipv4.php">Change IPv4 and host name</a></p>
+  <p class="more"><a href="ipv4.php"><?php echo $open; ?> IPv4 and host name</a></p>
 </section>
 
 <section class="card" aria-labelledby="tile-ipv6">
@@ -48,7 +49,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
     <dd><?php echo isset($unknown['addresses']) ? unknown() : 'None'; ?></dd>
 <?php } ?>
   </dl>
-  <p class="more"><a href="ipv6.php">Change IPv6</a></p>
+  <p class="more"><a href="ipv6.php"><?php echo $open; ?> IPv6</a></p>
 </section>
 
 <section class="card" aria-labelledby="tile-dns">
@@ -68,7 +69,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
 <?php echo servers_in_use(); ?>
 <?php } ?>
   </dl>
-  <p class="more"><a href="dns.php">Change DNS</a></p>
+  <p class="more"><a href="dns.php"><?php echo $open; ?> DNS</a></p>
 </section>
 
 <section class="card" aria-labelledby="tile-port">
@@ -87,7 +88,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
     <dt>Duplex</dt><dd><?php echo text_or_unknown(isset($unknown['port']) ? '' : $duplex[$settings->Duplex]); ?></dd>
 <?php } ?>
   </dl>
-  <p class="more"><a href="port.php">Change the port</a></p>
+  <p class="more"><a href="port.php"><?php echo $open; ?> the port</a></p>
 </section>
 
 <section class="card" aria-labelledby="tile-security">
@@ -99,7 +100,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
     <dt>Certificate</dt><dd><?php echo has_certificate_expired() ? 'Expired ' : 'Until ', h(time_in_words(fact('certificate.end'))); ?></dd>
 <?php } ?>
   </dl>
-  <p class="more"><a href="security.php">Change web security</a></p>
+  <p class="more"><a href="security.php"><?php echo $open; ?> web security</a></p>
 </section>
 
 <section class="card" aria-labelledby="tile-snmp">
@@ -111,7 +112,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
     <dt>Versions</dt><dd><?php echo isset($unknown['snmp']) ? unknown() : ($settings->snmpEnabled ? '1, 2c and 3' : '3 only'); ?></dd>
     <dt>Trap receivers</dt><dd><?php echo text_or_unknown((string) $receivers); ?></dd>
   </dl>
-  <p class="more"><a href="snmp.php">Change the agent</a> <a href="traps.php">Change trap receivers</a></p>
+  <p class="more"><a href="snmp.php"><?php echo $open; ?> the agent</a> <a href="traps.php"><?php echo $open; ?> trap receivers</a></p>
 </section>
 
 </div>

@@ -38,6 +38,7 @@ echo text_field('hostname', 'Name', $settings->hostname, $errors, 'Letters, digi
 <?php echo form_end('Save name'); ?>
 </section>
 
+<?php if (may_change($GLOBALS['session'])) { ?>
 <section class="card" aria-labelledby="addressing">
   <h2 id="addressing">IPv4 address</h2>
 <?php
@@ -66,3 +67,4 @@ one, this page loses its connection; the' : 'This page stays where it is; the'; 
   echo h($name); ?>.</p>
 <?php echo form_end('Apply', trial_field('trial')); ?>
 </section>
+<?php } ?>

@@ -9,6 +9,7 @@
   </dl>
 </section>
 
+<?php if (may_change($GLOBALS['session'])) { ?>
 <section class="card" aria-labelledby="setting">
   <h2 id="setting">Setting</h2>
 <?php
@@ -33,3 +34,4 @@ echo choice_field('duplex', 'Duplex', array(
 <p class="note">The port's link goes down for a moment when you save.</p>
 <?php echo form_end('Save'); ?>
 </section>
+<?php } else echo why_only_shown(); ?>

@@ -5,8 +5,8 @@
   <dl>
     <dt>Set</dt><dd><?php echo $is_known ? ($settings->isEnabled ? 'HTTPS' : 'HTTP') : unknown(); ?></dd>
     <dt>Served now</dt><dd><?php echo h(strtoupper(web_mode_now())); ?></dd>
-    <dt>HTTPS port</dt><dd><?php echo (int) $settings->port; ?></dd>
-    <dt>Certificate's key</dt><dd><?php echo h($settings->cipher); ?></dd>
+    <dt>HTTPS port</dt><dd><?php echo $settings->port ? (int) $settings->port : unknown(); ?></dd>
+    <dt>Certificate's key</dt><dd><?php echo text_or_unknown($settings->cipher); ?></dd>
 <?php if (fact('certificate.fingerprint') != '') { ?>
     <dt>Certificate for</dt><dd><?php echo text_or_unknown(certificate_names()); ?></dd>
     <dt>Valid until</dt><dd><?php echo fact('certificate.end') == '' ? unknown() : h(time_in_words(fact('certificate.end'))), ' ',
@@ -15,6 +15,7 @@
 <?php } ?>
   </dl>
 </section>
+<?php if (may_change($GLOBALS['session'])) { ?>
 <section class="card" aria-labelledby="change">
   <h2 id="change">Change</h2>
 <?php
@@ -29,3 +30,4 @@ echo choice_field('https', 'These pages are served by', array(
 <p class="note">The web server restarts in the new mode, and you will sign in again there: <a href="<?php echo h($address); ?>"><?php echo h($address); ?></a>.</p>
 <?php echo form_end('Save', trial_field('trial')); ?>
 </section>
+<?php } else echo why_only_shown(); ?>

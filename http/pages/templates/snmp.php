@@ -9,7 +9,7 @@ $traps_error = isset($errors['traps']) ? $errors['traps'] : '';
 <?php } ?>
   <dl>
     <dt>Versions set</dt><dd><?php echo $is_known ? ($agent->version1 ? '1, 2c and 3' : '3 only') : unknown(); ?></dd>
-    <dt>Port</dt><dd><?php echo (int) $agent->port; ?></dd>
+    <dt>Port</dt><dd><?php echo $agent->port ? (int) $agent->port : unknown(); ?></dd>
   </dl>
 </section>
 
@@ -21,9 +21,12 @@ if (change_failed() || fact('snmp.answers') == 'no') echo '<input type="hidden" 
 <fieldset class="field"><legend>Answers requests of</legend>
   <?php echo check_field('version1', 'Versions 1 and 2c', $settings->version1,
       'Not encrypted: who knows the community can read everything.'); ?>
-  <p class="fixed"><?php echo $agent->version3 ? state('set', 'Version 3') : state('off', 'Version 3'); ?>
+  <p class="fixed"><?php echo !$is_known ? state('caution', 'Version 3: unknown') : ($agent->version3 ? state('set', 'Version 3')
+      : state('off', 'Version 3')); ?>
+<?php if ($is_known) { ?>
     <span class="hint">Always on. Authentication <?php echo h($agent->algorithm); ?>, encryption
-    <?php echo $agent->encryption ? 'on' : 'off'; ?>, port <?php echo (int) $agent->port; ?>.</span></p>
+    <?php echo $agent->encryption ? 'on' : 'off'; ?>, port <?php echo (int) $agent->port; ?>.</span>
+<?php } ?></p>
 </fieldset>
 <?php if ($shows_community) { ?>
 <details class="secret"<?php if (isset($errors['community_name'])) echo ' open'; ?>><summary>Read community: show or change it</summary>

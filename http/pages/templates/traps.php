@@ -5,7 +5,9 @@ if ($meanwhile) echo meanwhile_message($meanwhile);
 ?>
 <section class="card" aria-labelledby="list">
   <h2 id="list">Receivers</h2>
-<?php if (!$receivers) { ?>
+<?php if (!$is_known) { ?>
+  <p>Receivers: <?php echo unknown(); ?></p>
+<?php } elseif (!$receivers) { ?>
   <p class="empty">There are none, so the agent's traps go nowhere.</p>
 <?php } else { ?>
   <table class="stacks">
@@ -24,14 +26,16 @@ if ($meanwhile) echo meanwhile_message($meanwhile);
         echo outcome_of_trap_in_words(isset($results[$notation]) ? $results[$notation] : ''); ?></div></td>
 <?php } ?>
 <?php if ($may_change) { ?>
-      <td><details class="confirm"><summary>Delete<span class="unseen"> <?php echo h($receiver->ip); ?></span></summary>
+      <td><details class="confirm"><summary>Delete<span class="unseen"> <?php echo h($receiver->ip); ?></span></summary></details></td>
+    </tr>
+    <tr class="question"><td colspan="<?php echo $results ? 5 : 4; ?>">
         <form method="post" action="traps.php"><?php echo token_field();
           echo seen_field(array($receiver->id => $seen[$receiver->id])); ?>
           <input type="hidden" name="change" value="delete">
           <input type="hidden" name="id" value="<?php echo h($receiver->id); ?>">
           <p>It will get no more traps.</p>
           <button type="submit" class="danger">Delete <?php echo h($receiver->ip); ?></button>
-        </form></details></td>
+        </form></td>
 <?php } ?>
     </tr>
 <?php } ?>
@@ -47,6 +51,7 @@ if ($meanwhile) echo meanwhile_message($meanwhile);
 <?php } ?>
 </section>
 
+<?php if ($may_change) { ?>
 <section class="card" aria-labelledby="add">
   <h2 id="add">Add a receiver</h2>
 <?php
@@ -62,3 +67,4 @@ echo choice_field('transport', 'Transport', array(
 echo form_end('Add');
 ?>
 </section>
+<?php } else echo why_only_shown(); ?>

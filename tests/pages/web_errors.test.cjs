@@ -1,0 +1,91 @@
+// What the web server itself has to say looks like the pages, and so does a page that dies.
+'use strict';
+
+const assert = require('node:assert/strict');
+const fs = require('node:fs');
+const net = require('node:net');
+const {fromLan, ipv4Address, until, web} = require('./appliance.cjs');
+const {accessibilityFaults, base, open, test} = require('./browser.cjs');
+
+// What the web server answers to these very bytes.
+function answerTo(text) {
+  return new Promise((resolve, reject) => {
+    const socket = net.connect(80, ipv4Address(), () => socket.write(text));
+    let answer = '';
+    socket.setEncoding('utf8').on('data', (data) => { answer += data; }).on('end', () => resolve(answer)).on('error', reject);
+  });
+}
+
+// The page of an error, in its style.
+async function looksLikeThePages(page, title) {
+  assert.equal(await page.innerText('h1'), title);
+  assert.equal(await page.title(), `Error: ${title}`);
+  const {radius, ground} = await page.evaluate(() => ({radius: getComputedStyle(document.querySelector('.message')).borderRadius,
+    ground: getComputedStyle(document.body).backgroundColor}));
+  assert.equal(radius, '10px', 'it has the style');
+  assert.equal(ground, 'rgb(244, 246, 249)');
+  assert.deepEqual(await accessibilityFaults(page), []);
+}
+
+test('Each error has a page with a way back, and none is like another', {}, () => {
+  const titles = ['400', '403', '404', '405', '413', '414', '421', '431', '500', '501', '503'].map((status) => {
+    const text = fs.readFileSync(`${web}/errors/${status}.html`, 'utf8');
+    assert.match(text, /^<!DOCTYPE html>[^]*<link rel="stylesheet" href="\/style\.css">[^]*<a href="\/">To the overview<\/a>/, status);
+    assert.doesNotMatch(text, /<script|style=|https?:/, status);
+    return text.match(/<h1>(.*)<\/h1>/)[1];
+  });
+  assert.equal(new Set(titles).size, titles.length);
+});
+
+test('A page that is not there, wherever it would be', {}, async (page) => {
+  for (const name of ['nothing', 'nothing.php', 'deep/down/nothing.html', 'errors/404.html']) {
+    const answer = await page.goto(base() + name);
+    assert.equal(answer.status(), 404, name);
+    await looksLikeThePages(page, 'There is no such page');
+  }
+  await page.click('text=To the overview');
+  await page.waitForSelector('form[action="signin.php"]');
+});
+
+test('What is no request, and what the web server does not do', {}, async () => {
+  assert.match(await answerTo('GET / HTTP/1.1\r\nHost: a b\r\nConnection: close\r\n\r\n'),
+    /^HTTP\/1\.1 400 [^]*<h1>This request is not understood<\/h1>/);
+  const rest = `Host: ${ipv4Address()}\r\nContent-Length: 0\r\nConnection: close\r\n\r\n`;
+  for (const request of ['PUT /style.css HTTP/1.1\r\n', `GET / HTTP/1.1\r\nLong: ${'x'.repeat(70000)}\r\n`]) {
+    const answer = await answerTo(request + rest);
+    const [, status] = answer.match(/^HTTP\/1\.[01] ([45]\d\d) /) ?? assert.fail(`${request.slice(0, 30)}: ${answer}`);
+    assert.ok(answer.endsWith(fs.readFileSync(`${web}/errors/${status}.html`, 'utf8')), `${request.slice(0, 30)}: ${answer}`);
+  }
+});
+
+test('While the interpreter is gone the pages say so, and afterwards they are back', {}, async (page) => {
+  const [socket] = fs.readFileSync(`${web}/conf/lighttpd.conf`, 'utf8').match(/\/run\/\S+php\.sock/);
+  fs.renameSync(socket, `${socket}.away`);
+  try {
+    const answer = await page.goto(`${base()}index.php`);
+    assert.equal(answer.status(), 503);
+    await looksLikeThePages(page, 'The pages do not answer');
+  } finally {
+    fs.renameSync(`${socket}.away`, socket);
+  }
+  await until(async () => (await fetch(`${base()}index.php`)).status === 200, 'the pages');
+});
+
+test('A page that dies says so, and shows nothing of what it had begun', {user: 'admin', expected: /no_such_function|#\d|thrown in/},
+  async (page) => {
+    const template = `${web}/templates/dns.php`;
+    const dying = '/run/dying.template';
+    fs.writeFileSync(dying, '<p>begun</p><?php no_such_function();', {mode: 0o644});
+    fromLan('mount', '--bind', dying, template);
+    try {
+      const answered = page.waitForResponse((response) => response.url().endsWith('dns.php'));
+      await open(page, 'dns.php');
+      assert.equal((await answered).status(), 500);
+      await looksLikeThePages(page, 'The page has failed');
+      assert.doesNotMatch(await page.content(), /begun|no_such_function/);
+    } finally {
+      fromLan('umount', template);
+    }
+    await open(page, 'dns.php');
+    assert.equal(await page.innerText('h1'), 'DNS');
+  });
