@@ -283,7 +283,7 @@ test('A file with something wrong is refused at the field, with its lines, and n
 
 test('A file that is longer than the interpreter takes is said to be too long', {user: 'admin', expected: /exceeds the limit/}, async (page) => {
   await open(page, 'backup.php');
-  await page.setInputFiles('#file', {name: 'big', mimeType: 'text/plain', buffer: Buffer.alloc(9 << 20, 35)});
+  await page.setInputFiles('#file', {name: 'big', mimeType: 'text/plain', buffer: Buffer.alloc(9 << 20, 35)}, {timeout: 60000});
   await press(page, 'Compare');
   assert.match(await errorOf(page, 'file'), /longer than 64 KiB/);
 });

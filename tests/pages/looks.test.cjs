@@ -56,7 +56,7 @@ test('Every page is valid and accessible, and fits', {}, async (page, context) =
     const answer = await context.request.get(`${base()}${name}`, {maxRedirects: 0, maxRetries: 2}); // a kept connection may just end
     if (answer.status() === 303 || !answer.headers()['content-type'].startsWith('text/html')) continue;
     await open(page, name);
-    for (const mark of ['#mode-static', '#static']) if (await page.locator(mark).count()) await page.check(mark);
+    for (const mark of ['#mode-static', '#enabled', '#static']) if (await page.locator(mark).count()) await page.check(mark);
     await judge(page, name);
     count += 1;
   }
