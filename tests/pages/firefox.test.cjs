@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const {accounts, addresses, applianceFolder, datagramsTo, ipv4Address, php, until, writeAsPages} = require('./appliance.cjs');
 const {asksToSignIn, base, beside, enterPassword, messages, open, press, served, signIn, test,
-  useFirefox} = require('./browser.cjs');
+  sessionCookie, useFirefox} = require('./browser.cjs');
 const {answersAt, apply, fillStatic, passes, reaches, setStatic} = require('./on_trial.cjs');
 
 useFirefox();
@@ -21,7 +21,7 @@ test('Firefox: signing in and out, with a wrong password first', {}, async (page
   await page.fill('#password', accounts.get('admin'));
   await page.keyboard.press('Enter');
   await page.waitForSelector('h1:text-is("DNS")');
-  const [cookie] = await context.cookies();
+  const cookie = await sessionCookie(context);
   assert.ok(cookie.httpOnly && cookie.sameSite === 'Lax', 'the cookie is kept as it was meant');
   await press(page, 'Sign out');
   await asksToSignIn(page);

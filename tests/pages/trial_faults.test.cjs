@@ -216,8 +216,9 @@ test('Two administrators, each with an account, apply at once: one change is on 
       await reaches('undone', 40);
       await answersAt('10.20.0.7');
       assert.match((await client.ask('http://10.20.0.7/applying.php')).text, new RegExp(`because ${other} asked for it`));
-      const [begun, undone] = audit().slice(-2);
+      const [begun, undoing, undone] = audit().slice(-3);
       assert.deepEqual([begun[0], begun[2]], [maker, 'IPv4 settings begun']);
+      assert.deepEqual([undoing[0], undoing[2]], [other, 'IPv4 settings undoing']);
       assert.equal(undone[2], 'IPv4 settings undone');
     } finally {
       fs.writeFileSync(`${dat}/users`, users);
@@ -287,7 +288,7 @@ test('At the new address neither the role monitor nor the key of another compute
 function beginModes() {
   return inAppliance('php', '-r', `require "${web}/shared/page.php"; $session = new Session(); $session->user = "admin"; $session->role = "admin";
     $before = settings_of($session, "ipv6"); $wanted = $before; $wanted["stateless"] = false;
-    $record = new_trial($session, "ipv6", array("stateless" => "Off"), $before, "", "", 300);
+    $record = new_trial($session, "ipv6", array("stateless" => "Off"), $before, "", "", 300); $record["wanted"] = $wanted;
     if (!$before["stateless"] || !begin_trial($record)) { echo "no trial"; exit; }
     put_back($session, "ipv6", $wanted); ended_at_once($record); echo $record["id"];`);
 }

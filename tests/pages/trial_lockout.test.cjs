@@ -163,9 +163,10 @@ test('A start goes on when undoing hangs, and the record of an older program is 
     inAppliance(...asPages, 'sh', '-c', `php -r 'define("START_SECONDS", 3); require "${web}/shared/page.php"; undo_at_start();' >/dev/null 2>&1 || true`);
     assert.ok(Date.now() - start < 14000, 'it goes on');
     assert.equal(trial('state'), 'undoing');
+    // The watcher may be writing the record just now: then it is the real minute that passes.
     shift('undo_began', 61);
   });
-  await reaches('undone', 60);
+  await reaches('undone', 120);
   await answersAt('10.20.0.7');
 });
 
