@@ -3,7 +3,6 @@
 # Prints "answers" or "silent"; ends with 1 and prints nothing where that cannot be told.
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
-behind_the_door "$@"
 
 WAIT=2 # seconds
 
@@ -35,6 +34,7 @@ probe_ipv6() {
 
 [ $# = 1 ] || refuse_call 'ADDRESS' "$@"
 refuse_overlong "$@"
+behind_the_door "$@"
 ! in_place || exit 1
 command -v ip >/dev/null || exit 1
 case $1 in
