@@ -52,7 +52,7 @@ function errorLog() {
 }
 
 // Resolves as soon as the condition holds; what it may wait for has no event to be told by.
-async function until(condition, what, seconds = 20) {
+async function until(condition, what, seconds = 60) {
   const end = Date.now() + seconds * 1000;
   for (;;) {
     const value = await condition();

@@ -166,7 +166,7 @@ async function applyOnTrial(page, text, title) {
   await choose(page, text);
   await press(page, `Apply ${title}`);
   if (await page.innerText('h1') === 'Before it is applied') await press(page, 'Apply');
-  await reaches('kept', 60);
+  await reaches('kept');
 }
 
 test('Download, change everything, upload: all is as before', {}, async (page) => {
@@ -226,7 +226,7 @@ test('Download, change everything, upload: all is as before', {}, async (page) =
   await press(page, 'Apply Automatic IPv6 addresses');
   assert.match(await messages(page), /^The sources of addresses are/);
   await applyOnTrial(page, text, 'IPv4 address');
-  await page.waitForURL(/10\.20\.0\.7/, {timeout: 30000});
+  await page.waitForURL(/10\.20\.0\.7/, {timeout: 60000});
   await page.waitForSelector('h1:text-is("Kept")');
   await answersAt('10.20.0.7');
   assert.equal(everything(), before);

@@ -126,7 +126,7 @@ test('A DHCP client without a lease', {}, async (page) => {
     } finally {
       await dhcpServerSays('');
     }
-    await until(() => ask('ipv4Manager.sh', '-d', 'status').startsWith('10.20.0.1'), 'a lease', 40);
+    await until(() => ask('ipv4Manager.sh', '-d', 'status').startsWith('10.20.0.1'), 'a lease');
     inAppliance('ip', 'address', 'replace', '10.20.0.88/24', 'dev', 'eth0');
     await open(page, 'index.php');
     assert.deepEqual(await alarms(page), []);
@@ -257,7 +257,7 @@ for (const [question, terms] of Object.entries(hanging)) {
       assert.equal(await other.innerText('.side .brand'), 'library');
       await other.close();
       const seconds = await loaded;
-      assert.ok(seconds > 2.5 && seconds < 6, `${seconds} seconds`);
+      assert.ok(seconds > 2.5 && seconds < 12, `${seconds} seconds`);
       for (const term of terms) assert.match(await beside(page, term), /^Unknown/, term);
       const all = ['Trap receivers', 'HTTPS', 'Link now', 'Versions', 'Autonegotiation', 'Host name', 'Primary', 'Netmask', 'Gateway'];
       for (const term of all.filter((one) => !terms.includes(one))) assert.doesNotMatch(await beside(page, term), /Unknown/, term);
@@ -265,7 +265,7 @@ for (const [question, terms] of Object.entries(hanging)) {
       assert.match(await messages(page), /^Could not get [^]*Code 0x/);
       assert.deepEqual(await accessibilityFaults(page), []);
     });
-    await until(() => fromLan('sh', '-c', 'pgrep -fc "^sleep 987$" || true') === '0', 'the end of what hung', 10);
+    await until(() => fromLan('sh', '-c', 'pgrep -fc "^sleep 987$" || true') === '0', 'the end of what hung');
     await open(page, 'index.php');
     assert.equal(await messages(page), '');
   });
@@ -278,7 +278,7 @@ test('A change that goes on in the same process is not ended with what hangs', {
     const seconds = inAppliance('php', '-r', `require "${applianceFolder}/HTTPService/lighttpd/shared/page.php"; $session = new Session();
       set_network_configuration_ipv4($session, ipv4_settings(get_network_hostname(), array("dhcp" => true, "ip" => "", "netmask" => "", "gateway" => "")));
       usleep(3500000); $began = seconds_now(); ask_device(); get_network_dns($session); end_asking(); echo seconds_now() - $began; usleep(4000000);`);
-    assert.ok(seconds > 2.5 && seconds < 5, `${seconds} seconds`);
+    assert.ok(seconds > 2.5 && seconds < 12, `${seconds} seconds`);
     assert.ok(fs.existsSync('/run/change.done'), 'the change came to its end');
     assert.equal(fromLan('sh', '-c', 'pgrep -fc "^sleep 986$" || true'), '0');
   }));
@@ -360,11 +360,11 @@ test('IPv6: addresses appear on the open page, each with its source, and fill no
     await open(page, 'ipv6.php');
     await page.evaluate(() => { window.same = true; });
     const logged = traceLog().length;
-    await page.waitForSelector('#addresses li:has-text("from router advertisements")', {timeout: 20000});
-    await page.waitForSelector('#addresses li:has-text("2001:db8:20::7 static")', {timeout: 20000});
+    await page.waitForSelector('#addresses li:has-text("from router advertisements")', {timeout: 60000});
+    await page.waitForSelector('#addresses li:has-text("2001:db8:20::7 static")', {timeout: 60000});
     await page.waitForSelector('#addresses li:has-text("link-local")');
     inAppliance('sh', `${scripts}/ipv6Manager.sh`, '-r');
-    await page.waitForSelector('#addresses:not(:has-text("2001:db8:20::7 static"))', {timeout: 10000});
+    await page.waitForSelector('#addresses:not(:has-text("2001:db8:20::7 static"))', {timeout: 60000});
     assert.ok(await page.evaluate(() => window.same), 'it was not loaded again');
     assert.equal(traceLog().slice(logged), '');
   } finally {

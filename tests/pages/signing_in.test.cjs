@@ -104,8 +104,8 @@ test('Wrong passwords of others at the same address keep the right one waiting f
     await page.fill('#password', accounts.get('admin'));
     await press(page, 'Sign in');
     return await page.locator('.layout').count() > 0;
-  }, 'the right password to be taken', 8);
-  assert.ok(Date.now() - began < 8000);
+  }, 'the right password to be taken', 20);
+  assert.ok(Date.now() - began < 20000, 'others wait for a minute');
   assert.match(fs.readFileSync(attempts, 'utf8'), new RegExp(`^${countOf('admin')} 900 \\d+\n$`), 'what the others tried stays counted');
   writeAsPages(attempts, '');
 });

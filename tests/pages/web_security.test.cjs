@@ -27,7 +27,7 @@ test('HTTPS is switched on: the page comes back encrypted, with a cookie of its 
   assert.equal(shown, fingerprint256, 'what is to be compared is shown before the page goes on');
   assert.match(await beside(page, 'For'), new RegExp(`library.*${ipv4Address().replaceAll('.', '\\.')}`));
   await page.click('text=Continue with HTTPS');
-  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 20000});
+  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 60000});
   assert.equal(subject.CN, 'library');
   assert.ok(subjectaltname.includes(`IP Address:${ipv4Address()}`), subjectaltname);
   await enterPassword(page);
@@ -73,7 +73,7 @@ test('HTTPS is switched off: the page comes back without it', {}, async (page) =
   await signIn(page, 'admin', 'security.php', 'https');
   await page.check('#https-0');
   await press(page, 'Save');
-  await page.waitForURL(`http://${ipv4Address()}/applying.php`, {timeout: 20000});
+  await page.waitForURL(`http://${ipv4Address()}/applying.php`, {timeout: 60000});
   await enterPassword(page);
   assert.equal(await page.innerText('h1'), 'Kept');
   // What travelled unencrypted before HTTPS was on is not good again.
@@ -118,7 +118,7 @@ test('Without scripts the pages come back in the other mode as well', {javaScrip
       await served('https');
       await page.click('text=Continue with HTTPS');
     }
-    await page.waitForURL(`${scheme}://${ipv4Address()}/applying.php`, {timeout: 20000});
+    await page.waitForURL(`${scheme}://${ipv4Address()}/applying.php`, {timeout: 60000});
     await enterPassword(page);
     assert.equal(await page.innerText('h1'), 'Kept');
     await open(page, 'security.php');
