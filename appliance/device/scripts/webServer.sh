@@ -17,18 +17,24 @@ program=$(command -v lighttpd)
 
 PROCESS=$RUN/webServer.pid
 OPEN_FILES=8192 # as its configuration has it
-TRIES=40        # of 50 ms: until the one of before has given up its sockets
+TRIES=200       # of 50 ms: until the one of before has given up its sockets, on a busy machine, too
 
 start_server() {
   as_user web "$program" -D -f "$configuration" &
   server=$!
 }
 
+# What a shell starts in the background ignores them, until it is a web server that is ready: one that is just starting would
+# not be told, would go on and keep its sockets. It has no answers under way.
+ignores_interrupts() {
+  grep -q '^SigIgn:.*[2367abef]$' "/proc/$1/status" 2>/dev/null
+}
+
 # The one of before that last ended so is not waited for any longer.
 replace_server() {
   [ -z "$leaving" ] || kill -TERM "$leaving" 2>/dev/null
   leaving=$server tries=$TRIES
-  kill -INT "$leaving"
+  if ignores_interrupts "$leaving"; then kill -TERM "$leaving"; else kill -INT "$leaving"; fi 2>/dev/null
   start_server
 }
 
