@@ -302,7 +302,7 @@ test('A file that is longer than the interpreter takes is said to be too long', 
   const own = `${web}/conf/extra/long.conf`;
   const restart = () => inAppliance('sh', '-c', 'kill -USR1 "$(cat /run/appmanager/webServer.pid)"');
   const statusOfLong = async () => (await fetch(`${base()}backup.php`, {method: 'POST', body: 'x'.repeat(2 << 20)})).status;
-  fs.writeFileSync(own, '$HTTP["url"] == "/backup.php" { server.max-request-size = 16384 }\n');
+  fs.writeFileSync(own, '$HTTP["url"] =~ "^/backup\\.php$" { server.max-request-size = 16384 }\n');
   try {
     restart();
     await until(async () => await statusOfLong() !== 413, 'a web server that takes long files');
