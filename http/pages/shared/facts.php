@@ -183,7 +183,8 @@ function is_lasting_ipv6($source)
 function link_state($port)
 {
     $link = fact($port . '.link');
-    return $link == '' ? unknown() : ($link == 'up' ? state('good', 'Link up') : state('bad', 'No link'));
+    return $link == '' ? unknown() : ($link == 'up' ? state('good', 'Link up') : state($port == 'eth2' ? 'caution' : 'bad',
+        'No link'));
 }
 
 function link_in_words($port)
@@ -248,7 +249,8 @@ function link_alarms()
     $alarms = array();
     foreach (array('eth0' => 'Ethernet port 1 (eth0)', 'eth2' => 'Ethernet port 2 (eth2)') as $port => $name) {
         if (fact($port . '.link') == 'down') {
-            $alarms[] = array('bad', $name . ' has no link.', 'Check the cable, and whether the device at its other end is on'
+            // The pages come by the first port; nothing may be plugged into the second one.
+            $alarms[] = array($port == 'eth2' ? 'caution' : 'bad', $name . ' has no link.', 'Check the cable, and whether the device at its other end is on'
                 . ($port == 'eth2' ? ' and has the same speed and duplex mode. A port that nothing is plugged into needs nothing.' : '.'),
                 $port == 'eth2' ? 'port.php' : '');
         }
