@@ -16,9 +16,10 @@ function form_begin($page, $change)
         $GLOBALS['only_shown'] = true;
         return '<div class="form only-shown">';
     }
-    $again = fill_again($page, $change);
+    $name = preg_replace('/#.*/', '', $page); // what is typed again comes by the page's name
+    $again = fill_again($name, $change);
     return '<form method="post" action="' . h($page) . '"' . ($again ? ' data-unsaved' : '') . '><fieldset class="form">'
-        . token_field() . proof_field($page) . '<input type="hidden" name="change" value="' . h($change) . '">';
+        . token_field() . proof_field($name) . '<input type="hidden" name="change" value="' . h($change) . '">';
 }
 
 // Ends the form with its button; $beside: markup in front of that. Who may not change anything is told so in its place.
