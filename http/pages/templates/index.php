@@ -96,7 +96,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
   <p><?php echo web_state(); ?></p>
   <dl>
     <dt>HTTPS</dt><dd><?php echo isset($unknown['ssl']) ? unknown() : ($settings->sslEnabled ? 'On' : 'Off'); ?></dd>
-<?php if ($settings->sslEnabled && fact('certificate.end') != '') { ?>
+<?php if (!isset($unknown['ssl']) && $settings->sslEnabled && fact('certificate.end') != '') { ?>
     <dt>Certificate</dt><dd><?php echo has_certificate_expired() ? 'Expired ' : 'Until ', h(time_in_words(fact('certificate.end'))); ?></dd>
 <?php } ?>
   </dl>
