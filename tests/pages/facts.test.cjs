@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, withScript} = require('./appliance.cjs');
-const {accessibilityFaults, base, beside, certificate, errorOf, messages, open, press, served, signIn, test} = require('./browser.cjs');
+const {accessibilityFaults, base, beside, certificate, errorOf, markupFaults, messages, open, press, served, signIn, test} = require('./browser.cjs');
 
 const scripts = `${applianceFolder}/AppManager/bin`;
 const script = `${scripts}/deviceFacts.sh`;
@@ -403,6 +403,10 @@ test('A form whose settings cannot be read has no choice, and never says that no
     assert.equal(await hintOf(page, '#mode'), notRead);
     await open(page, 'port.php');
     assert.equal(await hintOf(page, '#auto'), notRead);
+    for (const name of ['ipv4.php', 'port.php']) {
+      await open(page, name);
+      assert.deepEqual([...await accessibilityFaults(page), ...await markupFaults(page)], [], name);
+    }
   });
   await withScript('ipv4Manager.sh', 'case "$*" in "-g host") exec sh "$ORIGINAL" "$@" ;; *) exit 1 ;; esac', async () => {
     await open(page, 'ipv4.php');

@@ -18,7 +18,8 @@ $seen = $is_known ? values_shown($settings) : array();
 $current = $settings;
 if (is_post() && posted('change') == 'name') {
     $settings->hostname = posted('hostname');
-    $meanwhile = $current_name === '' ? array() : changed_meanwhile(array('hostname' => $current_name), array('hostname' => 'Name'));
+    $meanwhile = $current_name === '' ? array()
+        : changed_meanwhile(array('hostname' => $current_name), array('hostname' => 'Name'));
     if (!$meanwhile) {
         $errors = change_name($session, $current_name, $settings->hostname);
     }

@@ -40,7 +40,8 @@ begin_reading();
 $receivers = get_snmp_trap_regs($session);
 $is_known = could_read() && !services_unreadable();
 show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'is_known' => $is_known, 'typed' => $typed,
-    'seen' => $is_known ? receivers_shown($receivers) : array(), 'meanwhile' => $meanwhile, 'errors' => $errors, 'results' => $results,
+    'seen' => $is_known ? receivers_shown($receivers) : array(), 'meanwhile' => $meanwhile, 'errors' => $errors,
+    'results' => $results,
     'lead' => 'The systems to which the SNMP agent reports events.'));
 
 // What became of it is shown beside each receiver: goes back to the list, or returns it.

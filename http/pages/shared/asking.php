@@ -38,7 +38,9 @@ end_trees $watcher $facts
 wait
 ');
 
-$asked = false; // what is under way: array of 'process', 'input', 'output', 'end', 'facts' (whether they are asked for) and 'leaves'
+// What is under way: array of 'process', 'input', 'output', 'end', 'facts' (whether they are asked for) and 'leaves' (whether the
+// session was left for that), or false.
+$asked = false;
 $printed_facts = ''; // what the script has printed
 
 // Asks what is so now, and sets up the guard; returns at once. To be called before the module is asked for settings. What is

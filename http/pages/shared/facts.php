@@ -143,8 +143,8 @@ function web_state()
     return has_certificate_expired() ? state('bad', 'The certificate has expired') : state('good', 'These pages are encrypted');
 }
 
-// Whether the settings of web security, the SNMP agent and the trap receivers cannot be read, which the module does not tell of all of
-// them: it then says that HTTPS is off, and that there is no receiver.
+// Whether the settings of web security, the SNMP agent and the trap receivers cannot be read. The module tells that of the agent
+// alone, and says that HTTPS is off and that there is no receiver.
 function services_unreadable()
 {
     return has_facts() && in_array('no', facts_of('services.readable'));
@@ -269,13 +269,13 @@ function alarms($settings)
 function link_alarms()
 {
     $alarms = array();
-    foreach (array('eth0' => 'Ethernet port 1 (eth0)', 'eth2' => 'Ethernet port 2 (eth2)') as $port => $name) {
-        if (fact($port . '.link') == 'down') {
-            // The pages come by the first port; nothing may be plugged into the second one.
-            $alarms[] = array($port == 'eth2' ? 'caution' : 'bad', $name . ' has no link.', 'Check the cable, and whether the device at its other end is on'
-                . ($port == 'eth2' ? ' and has the same speed and duplex mode. A port that nothing is plugged into needs nothing.' : '.'),
-                $port == 'eth2' ? 'port.php' : '');
-        }
+    $advice = 'Check the cable, and whether the device at its other end is on';
+    if (fact('eth0.link') == 'down') {
+        $alarms[] = array('bad', 'Ethernet port 1 (eth0) has no link.', $advice . '.', '');
+    }
+    if (fact('eth2.link') == 'down') {
+        $alarms[] = array('caution', 'Ethernet port 2 (eth2) has no link.', $advice . ' and has the same speed and duplex mode.'
+            . ' A port that nothing is plugged into needs nothing.', 'port.php');
     }
     return $alarms;
 }
