@@ -62,6 +62,7 @@ function test_receivers($session)
         go_to('traps.php', $results ? 'A test trap was sent to every receiver: what became of it stands beside each.'
             : 'A test trap was sent to every receiver. Look there whether it has arrived.');
     }
+    return $results;
 }
 
 function labels_of($values)

@@ -185,9 +185,10 @@ function source_in_words($source)
     return $words[$source];
 }
 
-// Where an IPv6 address comes from, as markup to stand behind it; empty when that is not known.
+// Where an IPv6 address comes from, with a prefix length or without, as markup to stand behind it; empty when that is not known.
 function ipv6_source_hint($address)
 {
+    $address = preg_replace('!/.*!', '', $address);
     foreach (shows_interfaces() ? sourced_addresses('ipv6.address') : array() as $one => $source) {
         if (same_value(preg_replace('!/.*!', '', $one), $address)) {
             return ' <span class="hint">' . h(source_in_words($source)) . '</span>';
