@@ -480,10 +480,11 @@ test('IPv6: addresses appear on the open page, each with its source, and fill no
   try {
     await open(page, 'ipv6.php');
     await page.evaluate(() => { window.same = true; });
-    const logged = traceLog().length;
+    let logged = traceLog().length;
     await page.waitForSelector('#addresses li:has-text("from router advertisements")', {timeout: 60000});
     await page.waitForSelector('#addresses li:has-text("2001:db8:20::7 static")', {timeout: 60000});
     await page.waitForSelector('#addresses li:has-text("link-local")');
+    assert.equal(traceLog().slice(logged), '');
     const overview = await page.context().newPage();
     await overview.setViewportSize({width: 390, height: 800});
     await overview.goto(base());
@@ -492,6 +493,7 @@ test('IPv6: addresses appear on the open page, each with its source, and fill no
     assert.match(shown, /^2001:db8:20:[0-9a-f:]+ from router advertisements$/m);
     assert.ok(await overview.evaluate(() => document.documentElement.scrollWidth <= innerWidth), 'on a phone, too');
     await overview.close();
+    logged = traceLog().length;
     inAppliance('sh', `${scripts}/ipv6Manager.sh`, '-r');
     await page.waitForSelector('#addresses:not(:has-text("2001:db8:20::7 static"))', {timeout: 60000});
     assert.ok(await page.evaluate(() => window.same), 'it was not loaded again');
