@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const {execFileSync, spawn, spawnSync} = require('node:child_process');
 const fs = require('node:fs');
-const {accounts, applianceFolder, fromLan, inAppliance, php, until, web, withScript} = require('./appliance.cjs');
+const {accounts, applianceFolder, fromLan, inAppliance, php, until, web, withScript, writeAsPages} = require('./appliance.cjs');
 const {asksToSignIn, base, enterPassword, errorOf, messages, open, press, sessionCookie, showCommunity, signIn, test} = require('./browser.cjs');
 
 const dat = `${applianceFolder}/HTTPService/dat`;
@@ -19,8 +19,8 @@ async function keepingAccounts(work) {
   try {
     await work(before);
   } finally {
-    fs.writeFileSync(users, before);
-    fs.writeFileSync(`${dat}/attempts`, '');
+    writeAsPages(users, before);
+    writeAsPages(`${dat}/attempts`, '');
   }
 }
 
@@ -47,7 +47,7 @@ async function age(context, what, seconds) {
   const text = fs.readFileSync(file, 'utf8');
   const aged = text.replace(new RegExp(`;${what}\\|i:(\\d+);`), (all, time) => `;${what}|i:${time - seconds};`);
   assert.notEqual(aged, text);
-  fs.writeFileSync(file, aged);
+  writeAsPages(file, aged);
 }
 
 test('One\'s own password is changed: this session goes on, all others end', {}, async (page, context) => {
@@ -155,7 +155,7 @@ test('An admin sets the password of another account, whose sessions end; the adm
     await set(accounts.get('monitor'), good);
     assert.equal(await errorOf(page, 'own_password'), 'This is not your password.');
     assert.equal(fs.readFileSync(users, 'utf8'), before);
-    fs.writeFileSync(`${dat}/attempts`, '');
+    writeAsPages(`${dat}/attempts`, '');
     await set(accounts.get('admin'), good);
     assert.equal(await messages(page), 'The password of monitor is changed. Its strength: strong. All sessions of monitor have ended.');
     assert.ok(isPassword('monitor', good));
@@ -198,7 +198,7 @@ test('A change that is killed leaves the old password or the new one', {}, async
   await keepingAccounts(async (before) => {
     const ends = {old: 0, new: 0};
     for (let i = 0; i < 24; i++) {
-      fs.writeFileSync(users, before);
+      writeAsPages(users, before);
       const child = spawn('php', changing('admin', good));
       const ended = new Promise((resolve) => { child.on('close', resolve); });
       await new Promise((resolve) => setTimeout(resolve, 10 * i));
@@ -211,7 +211,7 @@ test('A change that is killed leaves the old password or the new one', {}, async
     }
     assert.equal(ends.neither, undefined);
     assert.ok(ends.old > 0, 'some were killed before they were done');
-    fs.writeFileSync(`${dat}/users.0123abcd`, 'half of');
+    writeAsPages(`${dat}/users.0123abcd`, 'half of');
     assert.equal(spawnSync('php', changing('admin', good)).status, 0);
     assert.deepEqual(fs.readdirSync(dat).filter((name) => /^users\../.test(name)), ['users.lock'], 'the next change clears up');
   });
@@ -233,7 +233,7 @@ async function onSmallDisk(work) {
 
 test('On a full disk the password stays as it was, and the page says why', {}, async (page, context) => {
   await keepingAccounts(async (before) => onSmallDisk(async () => {
-    fs.writeFileSync(`${dat}/attempts`, `10.20.0.77/1 1 ${Math.floor(Date.now() / 1000)}\n`);
+    writeAsPages(`${dat}/attempts`, `10.20.0.77/1 1 ${Math.floor(Date.now() / 1000)}\n`);
     await signIn(page, 'admin', 'account.php');
     spawnSync('sh', ['-c', `cat /dev/zero >${dat}/filler`]);
     await changeOwn(page, accounts.get('admin'), good);
@@ -268,7 +268,7 @@ test('On a disk that cannot be written the password stays as it was', {}, async 
 
 test('Lines of the accounts that are damaged stay as they are, and harm no other', {}, async () => {
   await keepingAccounts(async (before) => {
-    fs.writeFileSync(users, `# note\n\n${before}half:\n`);
+    writeAsPages(users, `# note\n\n${before}half:\n`);
     assert.equal(spawnSync('php', changing('monitor', good)).status, 0);
     const text = fs.readFileSync(users, 'utf8');
     assert.match(text, /^# note\n\nadmin:admin:.*\nmonitor:monitor:.*\nhalf:\n$/);
@@ -276,7 +276,7 @@ test('Lines of the accounts that are damaged stay as they are, and harm no other
     const {status, stdout} = spawnSync('php', changing('half', good), {encoding: 'utf8'});
     assert.equal(status, 1);
     assert.match(stdout, /no account of this name/);
-    fs.writeFileSync(users, '');
+    writeAsPages(users, '');
     assert.equal(spawnSync('php', changing('monitor', good)).status, 1);
     assert.equal(fs.readFileSync(users, 'utf8'), '');
   });
@@ -291,8 +291,8 @@ test('The sessions are listed with address and time, this one marked; signing ou
   await signIn(third, 'admin');
   await signIn(page, 'monitor', 'account.php');
   // One that nobody has used for long, and a file that is none.
-  fs.writeFileSync(`${dat}/sessions/sess_${'c'.repeat(32)}`, fs.readFileSync(await sessionFile(context), 'utf8').replace(/seen\|i:\d+/, 'seen|i:1'));
-  fs.writeFileSync(`${dat}/sessions/sess_${'d'.repeat(32)}`, '\0damaged');
+  writeAsPages(`${dat}/sessions/sess_${'c'.repeat(32)}`, fs.readFileSync(await sessionFile(context), 'utf8').replace(/seen\|i:\d+/, 'seen|i:1'));
+  writeAsPages(`${dat}/sessions/sess_${'d'.repeat(32)}`, '\0damaged');
   await page.reload();
   const rows = page.locator('[aria-labelledby=sessions] tbody tr');
   const listed = await rows.allInnerTexts();

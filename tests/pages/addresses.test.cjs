@@ -5,8 +5,8 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const http = require('node:http');
-const {addresses, applianceFolder, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until,
-  withScript} = require('./appliance.cjs');
+const {addresses, applianceFolder, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until, withScript,
+  writeAsPages} = require('./appliance.cjs');
 const {base, enterPassword, messages, open, press, sessionCookie, signIn, test} = require('./browser.cjs');
 
 async function fillStatic(page, ip, gateway = '10.20.0.1') {
@@ -34,7 +34,7 @@ function timeIsOver() {
   const path = `${applianceFolder}/HTTPService/dat/trial`;
   const change = fs.readFileSync(path, 'utf8');
   const [, began] = change.match(/"began";i:(\d+);/);
-  fs.writeFileSync(path, change.replace(began, String(began - 45)));
+  writeAsPages(path, change.replace(began, String(began - 45)));
 }
 
 // As without a page: for the state a test begins with.

@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const {spawn} = require('node:child_process');
 const fs = require('node:fs');
-const {applianceFolder, fromLan, inAppliance, php, until, web} = require('./appliance.cjs');
+const {applianceFolder, asPages, fromLan, inAppliance, php, until, web, writeAsPages} = require('./appliance.cjs');
 const {base, messages, open, press, sessionCookie, showCommunity, test} = require('./browser.cjs');
 
 const folder = `${applianceFolder}/HTTPService/dat`;
@@ -222,7 +222,7 @@ auditTest('A flood of refused sign-ins from everywhere pushes no change and no s
 });
 
 auditTest('Of the changes the newest 500 are kept, whatever stood in the file', {user: 'admin'}, async (page) => {
-  fs.writeFileSync(files.changes, Buffer.alloc(3000000, 'x'));
+  writeAsPages(files.changes, Buffer.alloc(3000000, 'x'));
   write(`for ($i = 1; $i <= 520; $i++) write_audit('admin', '10.20.0.1', 'Set the DNS servers.', "number $i", 'dns');`);
   const lines = fs.readFileSync(files.changes, 'utf8').trim().split('\n');
   assert.equal(lines.length, 500);
@@ -235,20 +235,20 @@ auditTest('Of the changes the newest 500 are kept, whatever stood in the file', 
 auditTest('Damaged lines are left out and said, and a line that was cut off swallows no other', {user: 'admin'}, async (page) => {
   write(`for ($i = 1; $i <= 3; $i++) write_audit('admin', '10.20.0.1', 'Set the DNS servers.', "number $i", 'dns');`);
   const [one, two, three] = fs.readFileSync(files.changes, 'utf8').split('\n');
-  fs.writeFileSync(files.changes, `${one}\n${two.replace('number 2', 'number 9')}\n\n\xff\x00\t\t\n${three.slice(0, -12)}`, 'latin1');
+  writeAsPages(files.changes, `${one}\n${two.replace('number 2', 'number 9')}\n\n\xff\x00\t\t\n${three.slice(0, -12)}`, 'latin1');
   write(`write_audit('admin', '10.20.0.1', 'Set the DNS servers.', 'number 4', 'dns');`);
   const shown = await rows(page, '&subject=dns');
   assert.deepEqual(shown.map(([, , outcome]) => outcome), ['Done | number 4', 'Done | number 1']);
   assert.match(await page.innerText('[aria-labelledby=audit]'), /3 lines of the audit are damaged and are left out\./);
   // What an earlier version has written is none of them.
-  fs.writeFileSync(files.changes, '1790000000\tadmin\t10.20.0.1\tIPv4 settings kept\tAddress 10.20.0.7\n');
+  writeAsPages(files.changes, '1790000000\tadmin\t10.20.0.1\tIPv4 settings kept\tAddress 10.20.0.7\n');
   assert.deepEqual(await rows(page, '&subject=other&user=admin'), [['admin | 10.20.0.1', 'IPv4 settings kept', 'Done | Address 10.20.0.7']]);
 });
 
 auditTest('Many writers at once lose no line, and one that is killed damages none but its own', {user: 'admin'}, async (page) => {
   const writer = `require '${web}/shared/page.php'; for ($i = 0; $i < 10; $i++)
     write_audit('admin', '10.20.0.1', 'Set the DNS servers.', "writer $argv[1] line $i", 'dns');`;
-  const start = (number) => spawn('php', ['-r', writer, String(number)], {stdio: 'ignore'});
+  const start = (number) => spawn(asPages[0], [...asPages.slice(1), 'php', '-r', writer, String(number)], {stdio: 'ignore'});
   await Promise.all(Array.from({length: 6}, (_, number) => new Promise((resolve) => start(number).on('exit', resolve))));
   assert.equal(new Set(fs.readFileSync(files.changes, 'utf8').match(/writer \d line \d/g)).size, 60);
   for (let round = 0; round < 10; round += 1) {
@@ -310,7 +310,7 @@ auditTest('A full disk leaves no part of a line behind, and the lines of before'
   fs.appendFileSync(files.changes, before.repeat(Math.floor(500 / before.length) - 1));
   const full = fs.readFileSync(files.changes, 'utf8');
   assert.ok(full.length <= 512 && full.length + before.length > 512);
-  const said = inAppliance('sh', '-c', `trap '' XFSZ; ulimit -f 1; exec php -r "$0"`, `require '${web}/shared/page.php';
+  const said = inAppliance(...asPages, 'sh', '-c', `trap '' XFSZ; ulimit -f 1; exec php -r "$0"`, `require '${web}/shared/page.php';
     echo write_audit('admin', '10.20.0.1', 'Set the DNS servers.', 'behind', 'dns') ? 'written' : 'not written';`);
   assert.match(said, /not written/);
   assert.equal(fs.readFileSync(files.changes, 'utf8'), full);

@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const {spawnSync} = require('node:child_process');
 const fs = require('node:fs');
 const path = require('node:path');
-const {applianceFolder, ask, fromLan, ipv4Address, php, traceLog, until, withScript} = require('./appliance.cjs');
+const {applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, web, withScript} = require('./appliance.cjs');
 const {accessibilityFaults, base, errorOf, messages, open, press, signIn, test} = require('./browser.cjs');
 const {answersAt, keepWhatIs, reaches, setStatic, trial} = require('./on_trial.cjs');
 
@@ -281,11 +281,38 @@ test('A file with something wrong is refused at the field, with its lines, and n
   assert.doesNotMatch(traceLog().slice(logged), /ntering (set|create|delete|restart)_/);
 });
 
-test('A file that is longer than the interpreter takes is said to be too long', {user: 'admin', expected: /exceeds the limit/}, async (page) => {
+async function compareFileOf(page, bytes) {
   await open(page, 'backup.php');
-  await page.setInputFiles('#file', {name: 'big', mimeType: 'text/plain', buffer: Buffer.alloc(9 << 20, 35)}, {timeout: 60000});
+  await page.setInputFiles('#file', {name: 'big', mimeType: 'text/plain', buffer: Buffer.alloc(bytes, 35)}, {timeout: 60000});
   await press(page, 'Compare');
-  assert.match(await errorOf(page, 'file'), /longer than 64 KiB/);
+}
+
+test('A file that is longer than the web server takes does not come to the page, and one that is not is said to be too long', {user: 'admin'},
+  async (page) => {
+    await compareFileOf(page, 1000 << 10);
+    assert.match(await errorOf(page, 'file'), /longer than 64 KiB/);
+    for (const bytes of [1100 << 10, 9 << 20]) {
+      await compareFileOf(page, bytes);
+      assert.equal(await page.innerText('h1'), 'This is too much at once');
+    }
+  });
+
+// A device may have another web server.
+test('A file that is longer than the interpreter takes is said to be too long', {user: 'admin', expected: /exceeds the limit/}, async (page) => {
+  const own = `${web}/conf/extra/long.conf`;
+  const restart = () => inAppliance('sh', '-c', 'kill -USR1 "$(cat /run/appmanager/webServer.pid)"');
+  const statusOfLong = async () => (await fetch(`${base()}backup.php`, {method: 'POST', body: 'x'.repeat(2 << 20)})).status;
+  fs.writeFileSync(own, '$HTTP["url"] =~ "^/backup\\.php$" { server.max-request-size = 16384 }\n');
+  try {
+    restart();
+    await until(async () => await statusOfLong() !== 413, 'a web server that takes long files');
+    await compareFileOf(page, 9 << 20);
+    assert.match(await errorOf(page, 'file'), /longer than 64 KiB/);
+  } finally {
+    fs.unlinkSync(own);
+    restart();
+    await until(async () => await statusOfLong() === 413, 'the web server of before');
+  }
 });
 
 test('Two windows: what somebody has changed meanwhile is not overwritten unseen', {user: 'admin'}, async (page, context) => {

@@ -4,7 +4,8 @@
 const assert = require('node:assert/strict');
 const {spawn} = require('node:child_process');
 const fs = require('node:fs');
-const {applianceFolder, datagramsTo, fromLan, inAppliance, php, traceLog, until, web, withScript} = require('./appliance.cjs');
+const {applianceFolder, datagramsTo, fromLan, inAppliance, php, traceLog, until, web, withScript,
+  writeAsPages} = require('./appliance.cjs');
 const {base, errorOf, messages, open, pages, press, sessionCookie, test} = require('./browser.cjs');
 
 const scripts = `${applianceFolder}/AppManager/bin`;
@@ -159,7 +160,7 @@ test('Who is not signed in has the module do nothing, however often and whatever
     assert.match(await refused.text(), /password is wrong|Too many|out of date/);
   }
   assert.ok(traceLog() === before, traceLog().slice(before.length));
-  fs.writeFileSync(`${applianceFolder}/HTTPService/dat/attempts`, '');
+  writeAsPages(`${applianceFolder}/HTTPService/dat/attempts`, '');
 });
 
 test('What the address asks for and there is not gives an empty list, and no fault', {user: 'admin'}, async (page) => {

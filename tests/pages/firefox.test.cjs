@@ -2,8 +2,7 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const fs = require('node:fs');
-const {accounts, addresses, applianceFolder, datagramsTo, ipv4Address, php, until} = require('./appliance.cjs');
+const {accounts, addresses, applianceFolder, datagramsTo, ipv4Address, php, until, writeAsPages} = require('./appliance.cjs');
 const {asksToSignIn, base, beside, enterPassword, messages, open, press, served, signIn, test,
   sessionCookie, useFirefox} = require('./browser.cjs');
 const {answersAt, apply, fillStatic, passes, reaches, setStatic} = require('./on_trial.cjs');
@@ -18,7 +17,7 @@ test('Firefox: signing in and out, with a wrong password first', {}, async (page
   await page.fill('#password', 'wrong');
   await press(page, 'Sign in');
   assert.equal(await asksToSignIn(page), 'The name or the password is wrong.');
-  fs.writeFileSync(`${applianceFolder}/HTTPService/dat/attempts`, ''); // nobody waits here
+  writeAsPages(`${applianceFolder}/HTTPService/dat/attempts`, ''); // nobody waits here
   await page.fill('#password', accounts.get('admin'));
   await page.keyboard.press('Enter');
   await page.waitForSelector('h1:text-is("DNS")');

@@ -3,7 +3,8 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
-const {applianceFolder, fromLan, ipv4Address, php, until, web, withScript} = require('./appliance.cjs');
+const {applianceFolder, fromLan, ipv4Address, php, until, web, withScript,
+  writeAsPages} = require('./appliance.cjs');
 const {accessibilityFaults, asksToSignIn, base, enterPassword, markupFaults, messages, open, pages, press, served, showCommunity,
   signIn, test} = require('./browser.cjs');
 const {fillStatic, passes, reaches} = require('./on_trial.cjs');
@@ -149,7 +150,7 @@ test('States that are seldom seen are valid and accessible, and fit', {}, async 
   await page.fill('#password', 'wrong');
   await press(page, 'Sign in');
   await judge(page, 'signin.php with an error');
-  fs.writeFileSync(`${applianceFolder}/HTTPService/dat/attempts`, '');
+  writeAsPages(`${applianceFolder}/HTTPService/dat/attempts`, '');
 
   await enterPassword(page);
   await open(page, 'dns.php');

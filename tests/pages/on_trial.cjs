@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const http = require('node:http');
-const {accounts, applianceFolder, ask, fromLan, inAppliance, ipv4Address, until, web} = require('./appliance.cjs');
+const {accounts, applianceFolder, ask, fromLan, inAppliance, ipv4Address, until, web, writeAsPages} = require('./appliance.cjs');
 const {open, press} = require('./browser.cjs');
 
 const record = `${applianceFolder}/HTTPService/dat/trial`;
@@ -45,7 +45,7 @@ function shift(field, difference) {
   const text = fs.readFileSync(record, 'utf8');
   const changed = text.replace(new RegExp(`"${field}";i:(\\d+);`), (all, number) => `"${field}";i:${Math.max(1, number - difference)};`);
   assert.notEqual(changed, text, field);
-  fs.writeFileSync(`${record}.test`, changed);
+  writeAsPages(`${record}.test`, changed);
   fs.renameSync(`${record}.test`, record);
 }
 

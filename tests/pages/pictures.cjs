@@ -3,14 +3,14 @@
 
 const fs = require('node:fs');
 const path = require('node:path');
-const {applianceFolder, php} = require('./appliance.cjs');
+const {applianceFolder, php, writeAsPages} = require('./appliance.cjs');
 const {press, signIn, test} = require('./browser.cjs');
 
 // The rest of the trial is not to be waited for.
 function passes(seconds) {
   const record = `${applianceFolder}/HTTPService/dat/trial`;
   const text = fs.readFileSync(record, 'utf8');
-  fs.writeFileSync(record, text.replace(/"began";i:(\d+);/, (all, began) => `"began";i:${began - seconds};`));
+  writeAsPages(record, text.replace(/"began";i:(\d+);/, (all, began) => `"began";i:${began - seconds};`));
 }
 
 const folder = path.resolve(__dirname, '../../doc/pictures');

@@ -5,7 +5,8 @@ const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {execFile} = require('node:child_process');
 const {promisify} = require('node:util');
-const {accounts, addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, web} = require('./appliance.cjs');
+const {accounts, addresses, applianceFolder, asPages, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, web,
+  writeAsPages} = require('./appliance.cjs');
 const {errorOf, messages, open, press, signIn, test} = require('./browser.cjs');
 const {answersAt, apply, audit, beginModes, Client, fillStatic, isUndone, isUndoneWithTabClosed, keepWhatIs, passes, reaches, record,
   setStatic, shift, trial} = require('./on_trial.cjs');
@@ -37,7 +38,7 @@ test('A record that is emptied or damaged during the trial does not end it', {},
   await page.goto('about:blank');
   await reaches('trial');
   for (const damage of ['', 'a:1:{', 's:4:"none";', 'b:1;']) {
-    fs.writeFileSync(record, damage);
+    writeAsPages(record, damage);
     await reaches('trial');
   }
   fs.unlinkSync(record);
@@ -48,7 +49,7 @@ test('A record that is emptied or damaged during the trial does not end it', {},
 test('A record that nobody can read is none: the pages go on, and another trial begins', {}, async (page) => {
   await signIn(page);
   for (const damage of ['', 'a:1:{', 'a:3:{s:2:"id";i:1;s:5:"state";i:1;s:5:"lines";i:1;}', '\0\0\0\0']) {
-    fs.writeFileSync(record, damage);
+    writeAsPages(record, damage);
     await open(page, 'index.php');
     assert.equal(await messages(page), '', JSON.stringify(damage));
     await open(page, 'applying.php');
@@ -331,7 +332,7 @@ test('Keep of a person, and the end of the time, at the same instant: exactly on
     const before = audit().length;
     passes(299);
     // The time is over within the next second; the watcher looks twice in each.
-    const watcher = watched('nsenter', ['--net=/run/appliance/appliance.net', '--', 'php', '-r',
+    const watcher = watched('nsenter', ['--net=/run/appliance/appliance.net', '--', ...asPages, 'php', '-r',
       `require "${web}/shared/page.php"; watch_trial();`]);
     await new Promise((resolve) => setTimeout(resolve, 60 * round));
     await client.ask('http://10.20.0.7/applying.php', {token, id, seen: 'trial', change: 'keep'});

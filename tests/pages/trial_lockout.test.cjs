@@ -3,7 +3,7 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
-const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, until, web, withScript} = require('./appliance.cjs');
+const {addresses, applianceFolder, asPages, ask, fromLan, inAppliance, ipv4Address, php, until, web, withScript} = require('./appliance.cjs');
 const {enterPassword, press, served, signIn, test} = require('./browser.cjs');
 const {answersAt, apply, audit, beginWatchedModes, Client, fillStatic, isUndone, keepWhatIs, pages, passes, reaches, record, setStatic,
   shift, trial, withOtherDevice} = require('./on_trial.cjs');
@@ -147,7 +147,7 @@ test('A start goes on when undoing hangs, and the record of an older program is 
         "values" => array("mode" => "Static", "ip" => "10.99.0.7", "netmask" => "255.255.255.0", "gateway" => "10.99.0.1")));`);
     const start = Date.now();
     // Without the pipes, which the device script would hold open.
-    inAppliance('sh', '-c', `php -r 'define("START_SECONDS", 3); require "${web}/shared/page.php"; undo_at_start();' >/dev/null 2>&1 || true`);
+    inAppliance(...asPages, 'sh', '-c', `php -r 'define("START_SECONDS", 3); require "${web}/shared/page.php"; undo_at_start();' >/dev/null 2>&1 || true`);
     assert.ok(Date.now() - start < 35000, 'it goes on');
     assert.equal(trial('state'), 'undoing');
     // The watcher may be writing the record just now: then it is the real minute that passes.

@@ -58,6 +58,27 @@ test('What is no request, and what the web server does not do', {}, async () => 
   }
 });
 
+test('A form that is too long: refused by what it says of itself, and by what comes', {}, async (page) => {
+  const head = `POST /signin.php HTTP/1.1\r\nHost: ${ipv4Address()}\r\nConnection: close\r\n`;
+  const chunk = `4000\r\n${'x'.repeat(0x4000)}\r\n`;
+  for (const rest of ['Content-Length: 70000\r\n\r\n', `Transfer-Encoding: chunked\r\n\r\n${chunk.repeat(5)}`]) {
+    const answer = await answerTo(head + rest);
+    assert.match(answer, /^HTTP\/1\.1 413 /);
+    assert.ok(answer.endsWith(fs.readFileSync(`${web}/errors/413.html`, 'utf8')), answer);
+  }
+  // As a browser shows it that was led to send too much.
+  await page.goto(`${base()}signin.php`);
+  await page.evaluate(() => {
+    const form = document.querySelector('form[action="signin.php"]');
+    form.append(Object.assign(document.createElement('input'), {type: 'hidden', name: 'more', value: 'x'.repeat(70000)}));
+    form.noValidate = true;
+    HTMLFormElement.prototype.submit.call(form);
+  });
+  await page.waitForURL(/signin\.php/);
+  await page.waitForFunction(() => document.title.startsWith('Error: '));
+  await looksLikeThePages(page, 'This is too much at once');
+});
+
 test('While the interpreter is gone the pages say so, and afterwards they are back', {}, async (page) => {
   const [socket] = fs.readFileSync(`${web}/conf/lighttpd.conf`, 'utf8').match(/\/run\/\S+php\.sock/);
   fs.renameSync(socket, `${socket}.away`);

@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const net = require('node:net');
-const {applianceFolder, ipv4Address, php, until, withScript} = require('./appliance.cjs');
+const {applianceFolder, ipv4Address, php, until, withScript, writeAsPages} = require('./appliance.cjs');
 const {base, beside, certificate, enterPassword, messages, open, press, served, sessionCookie, signIn, test} = require('./browser.cjs');
 
 // Of somebody who was signed in when HTTPS was switched on; whoever listened in knows it.
@@ -53,7 +53,7 @@ test('A session that has travelled unencrypted is of no use under HTTPS, whateve
   assert.equal(await asks(`${base('https')}dns.php`, `${name}=${value}`), false);
   // As if it had been made before HTTPS was switched on.
   const file = `${applianceFolder}/HTTPService/dat/sessions/sess_${value}`;
-  fs.writeFileSync(file, fs.readFileSync(file, 'utf8').replace('https|b:1;', 'https|b:0;'));
+  writeAsPages(file, fs.readFileSync(file, 'utf8').replace('https|b:1;', 'https|b:0;'));
   assert.equal(await asks(`${base('https')}dns.php`, `${name}=${value}`), true);
 });
 

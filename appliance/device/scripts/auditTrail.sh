@@ -11,5 +11,5 @@ COUNT=100
 
 [ $# = 0 ] || refuse_call 'none' "$@"
 [ -s "$DATABASE" ] || exit 0 # nothing was changed yet
-exec sqlite3 -readonly -batch -ascii -cmd '.timeout 10000' "$DATABASE" \
+as_its_owner sqlite3 -readonly -batch -ascii -cmd '.timeout 10000' "$DATABASE" \
   "SELECT time, user, operation, \"values\", result FROM audit ORDER BY number DESC LIMIT $COUNT"

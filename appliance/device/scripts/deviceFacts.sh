@@ -13,10 +13,10 @@
 . "$BIN/name_servers.sh"
 # shellcheck source=SCRIPTDIR/ipv6.sh
 . "$BIN/ipv6.sh"
+# shellcheck source=SCRIPTDIR/certificate.sh
+. "$BIN/certificate.sh"
 
 WEB_CONFIGURATION=$LIBRARY/HTTPService/lighttpd/conf
-CERTIFICATE=$WEB_CONFIGURATION/certificate.pem
-CERTIFICATE_CACHE=$RUN/certificate.facts # the certificate on the first line, what it says on the others
 DATABASE=$LIBRARY/CoreService/dat/management.db
 DAMAGED=11 # of sqlite3
 NO_DATABASE=26
@@ -25,11 +25,6 @@ NO_DATABASE=26
 # communities and versions there are, so that no secret is needed here, nor to be seen in the list of processes.
 AGENT_QUESTION='\060\076\002\001\003\060\021\002\004\021\042\063\104\002\003\000\377\343\004\001\004\002\001\003\004\020\060\016\004\000\002\001\000\002\001\000\004\000\004\000\004\000\060\024\004\000\004\000\240\016\002\004\021\042\063\104\002\001\000\002\001\000\060\000'
 SECONDS_TO_ANSWER=1
-
-# fact NAME VALUE
-fact() {
-  [ -z "$2" ] || printf '%s %s\n' "$1" "$2"
-}
 
 print_agent() {
   command -v socat >/dev/null || return
@@ -64,36 +59,6 @@ print_stored() {
       (SELECT * FROM audit WHERE operation = 'restoreSettings' OR result = 'stored' ORDER BY number DESC LIMIT 1)
       WHERE operation = 'restoreSettings'" 2>/dev/null
   case $? in "$DAMAGED" | "$NO_DATABASE") fact services.readable no ;; esac
-}
-
-# Taking it apart takes longer than all the rest: once for each certificate.
-print_certificate() {
-  [ -s "$CERTIFICATE" ] && [ -r "$CERTIFICATE" ] || return
-  certificate=
-  while IFS= read -r line; do certificate="$certificate$line "; done <"$CERTIFICATE"
-  read_line known "$CERTIFICATE_CACHE"
-  if [ "$known" != "$certificate" ]; then
-    facts=$(certificate_facts)
-    [ -n "$facts" ] || return
-    replace_file "$CERTIFICATE_CACHE" "$certificate
-$facts" 2>/dev/null # somebody without rights takes it apart each time
-    printf '%s\n' "$facts"
-    return
-  fi
-  while IFS= read -r line; do
-    [ "$line" = "$certificate" ] || printf '%s\n' "$line"
-  done <"$CERTIFICATE_CACHE"
-}
-
-certificate_facts() {
-  /bin/sh "$BIN/certificateFacts.sh" | while IFS= read -r line; do
-    text=${line#*=}
-    case $line in
-    'SHA-256 fingerprint='*) fact certificate.fingerprint "$text" ;;
-    'For='*) fact certificate.names "$text" ;;
-    'Valid until='*) fact certificate.end "$(date -u -d "$text" +%s)" ;;
-    esac
-  done
 }
 
 # Whether the name server comes from the setting or with a lease.

@@ -12,12 +12,13 @@
 refuse_overlong "$@"
 has_program ping || exit 1
 [ "$1" != -q ] || exit 0
+behind_the_door "$@"
 judge_address "$1"
 one_at_a_time
 # A link-local address needs the port.
 case $1 in [fF][eE][89aAbB]?:*) port="-I $PRIMARY" ;; *) port= ;; esac
 # shellcheck disable=SC2086 # none or two words
-said=$(within_time ping -n -c 3 -i 0.5 -W 1 $port "$1")
+said=$(within_time with_rights ,+net_raw ping -n -c 3 -i 0.5 -W 1 $port "$1")
 status=$?
 answer=$(printf '%s\n' "$said" |
   sed -n -e 's/^\([0-9]*\) packets transmitted, \([0-9]*\).* received.*/sent \1\nreceived \2/p' \

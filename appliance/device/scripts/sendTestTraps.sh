@@ -17,7 +17,7 @@ CLOSED='Nothing listens at this port.'
 test_receiver() {
   said=$(
     { ! is_port_closed "$2" || line "$CLOSED"; } &
-    send_test_trap "$1" "$community" "$2" 2>&1
+    send_test_trap "$1" "$2" 2>&1
     wait
   )
   wrong=$(line "$said" | grep -vxF -e "$CLOSED" -e '')
@@ -46,7 +46,7 @@ is_port_closed() {
 
 [ $# = 0 ] || refuse_call 'none' "$@"
 rm -f "$TEST_RESULTS" 2>/dev/null
-restart_agent # sets receivers, trap1, trap2 and community
+restart_agent # sets receivers, trap1 and trap2
 [ -n "$receivers" ] || exit 0
 [ "$trap1$trap2" != 00 ] || fail 'no version of traps is on: nothing can be sent to the registered receivers'
 trap 'rm -f "$RESULTS_OF_NOW"' EXIT
