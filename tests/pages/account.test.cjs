@@ -499,7 +499,7 @@ test('A damaged file of a session is no fault of the page, and goes', {}, async 
   await signIn(page, 'admin', 'account.php');
   const file = await sessionFile(context);
   for (const text of ['rubbish', 'user|s:5:"adm', 'user|O:8:"stdClass":1:{', '']) {
-    fs.writeFileSync(file, text);
+    writeAsPages(file, text);
     await open(page, 'dns.php');
     assert.equal(await page.locator('form[action="signin.php"]').count(), 1, text);
     assert.doesNotMatch(await page.innerText('body'), /This page has a fault/, text);
