@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const {execFileSync, spawn, spawnSync} = require('node:child_process');
 const fs = require('node:fs');
-const {accounts, applianceFolder, fromLan, inAppliance, php, until, web, writeAsPages} = require('./appliance.cjs');
+const {accounts, applianceFolder, fromLan, inAppliance, php, until, web, withScript, writeAsPages} = require('./appliance.cjs');
 const {asksToSignIn, base, enterPassword, errorOf, messages, open, press, sessionCookie, showCommunity, signIn, test} = require('./browser.cjs');
 
 const dat = `${applianceFolder}/HTTPService/dat`;
@@ -435,6 +435,85 @@ test('Marks, choices and the time of a trial come back as well, only once, and o
   await enterPassword(page);
   assert.equal(await page.isChecked('#trap2'), !traps);
   assert.equal(await page.inputValue('#community_name'), community);
+});
+
+test('A question to the network comes back, too', {}, async (page, context) => {
+  await signIn(page, 'admin', 'diagnostics.php');
+  for (const [field, button, value, other] of [['#lookup', 'Look up', 'printer.lan.test', '#ping'], ['#ping', 'Ping', '10.20.0.1', '#lookup']]) {
+    await page.fill(field, value);
+    await endSession(context);
+    await press(page, button);
+    await enterPassword(page);
+    assert.match(await messages(page), /^You are signed in again\. What you had typed is in the form below/);
+    assert.equal(await page.inputValue(field), value);
+    assert.equal(await page.inputValue(other), '');
+    assert.equal(await page.locator('[aria-labelledby=network] .message').count(), 0, 'nothing was asked');
+  }
+});
+
+test('Only what comes back after the sign-in is said to do so', {}, async (page, context) => {
+  const saidOf = async (name, type) => {
+    await signIn(page, 'admin', name);
+    await type();
+    await age(context, 'seen', 901);
+    await page.clock.fastForward(901 * 1000);
+    await page.waitForSelector('#session >> text=You have been signed out.');
+    return page.innerText('#session');
+  };
+  await page.clock.install();
+  assert.match(await saidOf('dns.php', () => page.fill('#dnsPrimary', '10.20.0.66')), /is not lost: press the button/);
+  assert.match(await saidOf('account.php', () => page.fill('#old_password', 'x')), /^You have been signed out\. Not all/);
+  assert.match(await saidOf('snmp.php', async () => {
+    await showCommunity(page);
+    await page.fill('#community_name', 'typed');
+  }), /^You have been signed out\. Not all/);
+  assert.match(await saidOf('dns.php', async () => {}), /^You have been signed out\. The next click asks for the password\.$/);
+});
+
+test('Whose session is ended while the page asks the device is asked to sign in', {}, async (page, context) => {
+  await withScript('ipv6Manager.sh', 'sleep 2; exec sh "$ORIGINAL" "$@"', async () => {
+    await signIn(page, 'admin', 'account.php');
+    const file = await sessionFile(context);
+    const opened = open(page, 'dns.php');
+    await new Promise((resolve) => setTimeout(resolve, 1000));
+    fs.unlinkSync(file);
+    await opened;
+    assert.equal(await asksToSignIn(page), 'Your session has ended.');
+    assert.doesNotMatch(await page.innerText('body'), /This page has a fault/);
+    assert.ok(!fs.existsSync(file));
+    assert.deepEqual(fs.readdirSync(`${dat}/sessions`).filter((name) => fs.statSync(`${dat}/sessions/${name}`).size === 0), []);
+    // A change whose maker was signed out meanwhile is not made.
+    await enterPassword(page);
+    await page.fill('#dnsPrimary', '10.20.0.66');
+    const again = await sessionFile(context);
+    const sent = press(page, 'Save');
+    await new Promise((resolve) => setTimeout(resolve, 1000));
+    fs.unlinkSync(again);
+    await sent;
+    assert.match(await asksToSignIn(page), /^Your session has ended\. What you sent was not saved\./);
+  });
+  assert.equal(inAppliance('sh', `${applianceFolder}/AppManager/bin/ipv6Manager.sh`, '-g', 'dns'), 'disabled');
+});
+
+test('A damaged file of a session is no fault of the page, and goes', {}, async (page, context) => {
+  await signIn(page, 'admin', 'account.php');
+  const file = await sessionFile(context);
+  for (const text of ['rubbish', 'user|s:5:"adm', 'user|O:8:"stdClass":1:{', '']) {
+    writeAsPages(file, text);
+    await open(page, 'dns.php');
+    assert.equal(await page.locator('form[action="signin.php"]').count(), 1, text);
+    assert.doesNotMatch(await page.innerText('body'), /This page has a fault/, text);
+    assert.ok(!fs.existsSync(file), text);
+  }
+});
+
+test('Where no process is free for the guard the session is taken up again all the same', {}, async () => {
+  const said = inAppliance('sh', '-c', 'ulimit -n 64; exec php -r "$1"', 'sh', `require '${applianceFolder}/HTTPService/lighttpd/shared/page.php';
+    begin_session(array('user' => 'admin')); $id = session_id();
+    $held = array(); while (count($held) < 64 && ($file = @fopen('/dev/null', 'r'))) $held[] = $file;
+    ask_device(); echo $asked['process'] ? 'it has begun' : 'none', ' '; $held = array(); end_asking();
+    $_SESSION['later'] = 'kept'; session_write_close(); readfile(session_file($id)); unlink(session_file($id));`);
+  assert.match(said, /^none .*later\|s:4:"kept";$/);
 });
 
 test('What was typed is shown to its user alone, and no other site fills in a form', {}, async (page, context) => {

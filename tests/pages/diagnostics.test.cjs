@@ -329,6 +329,31 @@ test('A device without a script lacks its question alone', {user: 'admin'}, asyn
   }));
 });
 
+test('What hangs does not hold up the page: a question or the audit of the services is missing', {user: 'admin'}, async (page, context) => {
+  await withScript('pingAddress.sh', 'exec sleep 984', () => withScript('auditTrail.sh', 'exec sleep 984', async () => {
+    const began = Date.now();
+    await open(page, 'diagnostics.php');
+    assert.ok(Date.now() - began < 8000, `${Date.now() - began} milliseconds`);
+    assert.equal(await page.locator('#ping').count(), 0);
+    assert.match(await page.innerText('main'), /management services[^.]* cannot be read/);
+    assert.equal(await messages(page), '');
+    const asked = Date.now();
+    const answer = await fetch(`${base()}audit.php`, {headers: {cookie: await cookieOf(context)}});
+    assert.equal(answer.status, 200);
+    assert.ok(Date.now() - asked < 8000, `${Date.now() - asked} milliseconds`);
+  }));
+  assert.equal(fromLan('sh', '-c', 'pgrep -fc "^sleep 984$" || true'), '0');
+});
+
+test('Who could not be asked is not said to be silent', {user: 'admin'}, async (page) => {
+  await withScript('pingAddress.sh', '[ "$1" = -q ] || exit 1', async () => {
+    await open(page, 'diagnostics.php');
+    await page.fill('#ping', '10.20.0.1');
+    await press(page, 'Ping');
+    assert.equal(await page.innerText('[aria-labelledby=network] .message'), 'The appliance could not ask.');
+  });
+});
+
 // What stands beside each receiver, by its address and port.
 async function testResults(page) {
   const rows = await page.locator('[aria-labelledby=list] tbody tr:not(.question)').evaluateAll((all) => all.map((row) =>

@@ -17,8 +17,9 @@
 . "$BIN/certificate.sh"
 
 WEB_CONFIGURATION=$LIBRARY/HTTPService/lighttpd/conf
-WEB_SERVER_PROCESS=$RUN/web/lighttpd.pid # written anew each time that the server has taken up its configuration
 DATABASE=$LIBRARY/CoreService/dat/management.db
+DAMAGED=11 # of sqlite3
+NO_DATABASE=26
 
 # In the terms of version 3: a question of somebody who does not know the agent yet. It is answered whatever users,
 # communities and versions there are, so that no secret is needed here, nor to be seen in the list of processes.
@@ -35,8 +36,7 @@ print_agent() {
   [ -n "$reply" ] || fact snmp.answers no
 }
 
-# What the web server is configured for, and has been since its start. While the file is younger than that, the server may
-# be in another mode.
+# What the web server is configured for.
 print_web_mode() {
   [ -r "$WEB_CONFIGURATION/mode.conf" ] || return
   mode=http
@@ -44,18 +44,21 @@ print_web_mode() {
     case $line in ssl.*) mode=https ;; esac
   done <"$WEB_CONFIGURATION/mode.conf"
   fact web.configured-mode "$mode"
-  # shellcheck disable=SC3013 # every shell that a Debian system has as /bin/sh compares times
-  [ ! -s "$WEB_SERVER_PROCESS" ] || [ "$WEB_CONFIGURATION/mode.conf" -nt "$WEB_SERVER_PROCESS" ] || fact web.mode "$mode"
 }
 
-# The stored mode, and what a start says about settings that it found damaged, until one of them is changed.
+# Whether the management services find their settings, the stored mode, and what a start says about settings that it found
+# damaged, until one of them is changed. A database that cannot be opened, or is in use for long, may be a good one.
 print_stored() {
   [ -s "$DATABASE" ] || return
   sqlite3 -readonly -batch -cmd '.timeout 500' "$DATABASE" "
+    SELECT 'services.readable ' || CASE count(*) WHEN 3 THEN 'yes' ELSE 'no' END FROM sqlite_master
+      WHERE type = 'table' AND name IN ('settings', 'snmp_versions', 'trap_registrations');
+    SELECT 'services.readable no' WHERE (SELECT count(*) FROM settings) <> 1;
     SELECT 'web.stored-mode ' || CASE ssl_enabled WHEN 0 THEN 'http' WHEN 1 THEN 'https' END FROM settings;
     SELECT 'settings.restored ' || replace(\"values\", char(10), ' ') FROM
       (SELECT * FROM audit WHERE operation = 'restoreSettings' OR result = 'stored' ORDER BY number DESC LIMIT 1)
-      WHERE operation = 'restoreSettings'"
+      WHERE operation = 'restoreSettings'" 2>/dev/null
+  case $? in "$DAMAGED" | "$NO_DATABASE") fact services.readable no ;; esac
 }
 
 # Whether the name server comes from the setting or with a lease.
@@ -162,3 +165,4 @@ elif command -v ip >/dev/null; then
   print_name_servers
 fi
 wait
+fact end yes # without it something was not said

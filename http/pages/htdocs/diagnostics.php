@@ -5,6 +5,9 @@ require dirname(dirname(__FILE__)) . '/shared/network_questions.php';
 
 $session = signed_in();
 $log_alone = is_background() && text_of($_GET, 'parts') == 'log';
+if (!$log_alone) {
+    ask_device(false);
+}
 $questions = may_change($session) && !$log_alone ? possible_questions() : array();
 $answer = false;
 $errors = array();
@@ -13,7 +16,9 @@ $value = posted('value');
 if (is_post() && isset($questions[$question])) {
     $error = question_error($question, $value);
     if ($error == '') {
+        end_asking(); // a question may take longer than a page waits
         $answer = ask_question($question, $value);
+        ask_device(false);
     } else {
         $errors[$question] = $error;
     }

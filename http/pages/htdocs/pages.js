@@ -392,9 +392,14 @@ function warn(place, seconds, inAnyCase, stay) {
   place.firstChild.append(button);
 }
 
+// What is said of what was typed: a form with a proof goes through the sign-in, but for passwords and communities.
 function overText() {
-  return `You have been signed out. ${unsavedForms().length > 0
-    ? 'What you have typed is not lost: press the button of the form, sign in, and it is there again.' : 'The next click asks for the password.'}`;
+  const unsaved = unsavedForms();
+  const comesBack = unsaved.every((form) => form.elements.proof
+    && ![...form.elements].some((field) => /password|passphrase|community/i.test(field.name) && isChanged(field)));
+  const rest = comesBack ? 'What you have typed is not lost: press the button of the form, sign in, and it is there again.'
+    : 'Not all that you have typed comes back after the sign-in: copy what you still need.';
+  return `You have been signed out. ${unsaved.length > 0 ? rest : 'The next click asks for the password.'}`;
 }
 
 // `what` is there so that nothing is read out twice.
