@@ -497,6 +497,9 @@ test('The key is good for one use, for the right address, and for nobody who gue
   assert.equal(await use('10.20.0.8', key), true);
   assert.equal(trial('state'), 'kept');
   assert.equal(await use('10.20.0.8', key), false);
+  const signIns = fs.readFileSync(`${applianceFolder}/HTTPService/dat/audit.sign-ins`, 'utf8').trim().split('\n');
+  assert.deepEqual(signIns.filter((line) => line.includes('the key of a change')).map((line) => line.split('\t').slice(1, 4)).at(-1),
+    ['admin', '10.20.0.1', 'Signed in with the key of a change on trial.']);
   await setStatic('10.20.0.7');
 });
 

@@ -28,7 +28,7 @@ async function looksLikeThePages(page, title) {
 }
 
 test('Each error has a page with a way back, and none is like another', {}, () => {
-  const titles = ['400', '403', '404', '405', '413', '414', '421', '431', '500', '501', '503'].map((status) => {
+  const titles = ['400', '403', '404', '405', '413', '414', '416', '421', '431', '500', '501', '503'].map((status) => {
     const text = fs.readFileSync(`${web}/errors/${status}.html`, 'utf8');
     assert.match(text, /^<!DOCTYPE html>[^]*<link rel="stylesheet" href="\/style\.css">[^]*<a href="\/">To the overview<\/a>/, status);
     assert.doesNotMatch(text, /<script|style=|https?:/, status);
@@ -56,6 +56,17 @@ test('What is no request, and what the web server does not do', {}, async () => 
     const [, status] = answer.match(/^HTTP\/1\.[01] ([45]\d\d) /) ?? assert.fail(`${request.slice(0, 30)}: ${answer}`);
     assert.ok(answer.endsWith(fs.readFileSync(`${web}/errors/${status}.html`, 'utf8')), `${request.slice(0, 30)}: ${answer}`);
   }
+});
+
+test('A part of a file that is not there', {}, async (page) => {
+  const answer = await fetch(`${base()}style.css`, {headers: {range: 'bytes=99999999-'}});
+  assert.equal(answer.status, 416);
+  assert.equal(await answer.text(), fs.readFileSync(`${web}/errors/416.html`, 'utf8'));
+  await page.setExtraHTTPHeaders({range: 'bytes=99999999-'});
+  await page.route('**/*', (route) => route.continue({headers: {...route.request().headers(),
+    ...route.request().isNavigationRequest() ? {} : {range: ''}}}));
+  await page.goto(`${base()}icon.svg`);
+  await looksLikeThePages(page, 'There is no such part');
 });
 
 test('A form that is too long: refused by what it says of itself, and by what comes', {}, async (page) => {

@@ -7,7 +7,8 @@
 # shellcheck source=SCRIPTDIR/management.sh
 . "$BIN/management.sh"
 
-COUNT=100
+# A page keeps 500 changes, and the services note three operations for one of the SNMP agent.
+COUNT=1500
 
 [ $# = 0 ] || refuse_call 'none' "$@"
 [ -s "$DATABASE" ] || exit 0 # nothing was changed yet

@@ -7,6 +7,6 @@ signed_in();
 ask_device(false);
 $services = audit_entries();
 end_asking();
-list($entries) = whole_audit($services);
+list($entries, $gaps) = whole_audit($services);
 send_file('audit.csv', 'text/csv', audit_as_csv(filtered_audit($entries, array('user' => text_of($_GET, 'user'),
-    'subject' => text_of($_GET, 'subject'), 'outcome' => text_of($_GET, 'outcome')))));
+    'subject' => text_of($_GET, 'subject'), 'outcome' => text_of($_GET, 'outcome'))), $gaps));

@@ -322,7 +322,7 @@ function isChanged(field) {
     const chosen = [...field.options].findIndex((option) => option.defaultSelected);
     return field.selectedIndex !== Math.max(0, chosen);
   }
-  return ['text', 'password'].includes(field.type) && field.value !== field.defaultValue;
+  return ['text', 'password', 'file'].includes(field.type) && field.value !== field.defaultValue;
 }
 
 // Who is about to be signed out is told in time. The focus stays where it is: the place is read out when something is put there.

@@ -51,10 +51,7 @@ function test_receivers($session)
     begin_change();
     restart_snmp($session);
     $results = results_of_test($began);
-    $texts = array();
-    foreach ($results as $receiver => $result) {
-        $texts[$receiver] = outcome_of_trap($result);
-    }
+    $texts = outcomes_for_audit($results);
     audit_change($session, 'traps', 'Send', 'a test trap to every receiver', labels_of($texts), array(), $texts);
     if (!change_failed()) {
         return_to_session();
