@@ -6,6 +6,7 @@ define('CHECKOUT', dirname(__DIR__));
 define('PROGRAMS', CHECKOUT . '/build/bench');
 define('MODULE', CHECKOUT . '/build/network.so');
 define('TRACE_LOG', '/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log');
+define('ERRORS', '/tmp/bench.errors'); // where the errors of the last command are
 define('QUICK', getenv('BENCH_QUICK') == 'yes');
 
 // The first number for a whole run, the second for a quick one.
@@ -25,12 +26,12 @@ function fail($sentence)
 function last_line($command, $folder = null)
 {
     $process = proc_open($command, array(0 => array('file', '/dev/null', 'r'), 1 => array('pipe', 'w'),
-        2 => array('file', '/tmp/bench.errors', 'w')), $pipes, $folder);
+        2 => array('file', ERRORS, 'w')), $pipes, $folder);
     $lines = explode("\n", rtrim(stream_get_contents($pipes[1])));
     fclose($pipes[1]);
     $status = proc_close($process);
     if ($status != 0) {
-        $errors = substr((string) @file_get_contents('/tmp/bench.errors'), -400);
+        $errors = substr((string) @file_get_contents(ERRORS), -400);
         fail(implode(' ', (array) $command) . " ended with $status: $errors");
     }
     return end($lines);

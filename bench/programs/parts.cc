@@ -73,6 +73,18 @@ void DequeAppend(benchmark::State& state) {
   }
 }
 
+// What of the appending is the heap's: a block for each page behind the first four elements.
+void ListBlocks(benchmark::State& state) {
+  const unsigned int blocks = (sizeOf(state) - 1) / 4;
+  std::vector<void*> taken(blocks);
+  const TarnAbstract::sp<TarnAbstract::IHeap> from = heap();
+  using Page = TarnAbstract::ListElementPage<int, 4>;
+  for (auto _ : state) {
+    for (void*& block : taken) TarnAbstract::TarnMemoryMgmt::Alloc_and_Link(from, sizeof(Page), 4, block);
+    for (void* block : taken) TarnAbstract::TarnMemoryMgmt::UnLink_and_Free(block);
+  }
+}
+
 // The same order for both.
 std::vector<unsigned int> indices(unsigned int size, bool shuffled) {
   std::vector<unsigned int> order(size);
@@ -122,6 +134,7 @@ BENCHMARK(CommandBare)->UseRealTime();
 #define SIZES Arg(4)->Arg(20)->Arg(100)->Arg(1000)->Arg(10000)
 BENCHMARK(ListAppend)->SIZES;
 BENCHMARK(DequeAppend)->SIZES;
+BENCHMARK(ListBlocks)->Arg(10000);
 BENCHMARK(ListInOrder)->SIZES;
 BENCHMARK(DequeInOrder)->SIZES;
 BENCHMARK(ListShuffled)->SIZES;

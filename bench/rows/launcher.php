@@ -18,7 +18,7 @@ function seconds_until_it_answers()
         $page = @file_get_contents("http://127.0.0.1:$port/signin.php");
     }
     $time = hrtime(true) - $start;
-    proc_terminate($process, SIGTERM);
+    proc_terminate($process);
     proc_close($process);
     last_line(array('rm', '-rf', $state));
     if ($page === false) {
@@ -34,7 +34,6 @@ function nanoseconds_of($command)
     return hrtime(true) - $start;
 }
 
-define('SIGTERM', 15);
 $samples = in_turn(array('seconds_until_it_answers', function () { return nanoseconds_of(array(CHECKOUT . '/run', '--exec', 'true')); }),
     amount(9, 2));
 value_row('./run, built, until a page answers', 'ns', at_most(1e9), $samples[0]);

@@ -9,4 +9,9 @@ foreach (array('Append' => 'append', 'InOrder' => 'read in order', 'Shuffled' =>
             $samples["Deque$benchmark/$size"]);
     }
 }
+// Where the time goes: each page of four elements is a block of the heap; an element is reached page by page.
+ratio_row('... the blocks of 10000 alone', 'the list', 'ns', null, $samples['ListBlocks/10000'], $samples['ListAppend/10000']);
+$pages = 10000 / 4 / 2;
+$steps = array_map(function ($time) use ($pages) { return $time / 10000 / $pages; }, $samples['ListShuffled/10000']);
+value_row('... a page passed on the way to one of 10000', 'ns', null, $steps);
 value_row('list of 4: blocks from the heap', '', at_most(0), array(program('parts', 'allocations', 4)()));

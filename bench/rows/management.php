@@ -10,17 +10,18 @@ $snmp = array('SELECT version FROM snmp_versions ORDER BY version', 'SELECT auth
     'SELECT read_community FROM settings');
 $traps = array('SELECT identifier, transport, address, port FROM trap_registrations ORDER BY number');
 
-// Beside the rows, and beside the rows and as many bare lines of the trace as the function writes.
+// Beside the rows, and beside the rows and as many bare lines as the function writes into the trace and the error log.
 function beside_rows($what, $function, $queries)
 {
     global $times, $rounds;
     file_put_contents(TRACE_LOG, '');
     calls($function, 1)(); // which calls twice
     $lines = (int) (count(file(TRACE_LOG)) / 2);
-    $samples = in_turn(array(calls($function, $times), program('rows_of_sqlite', $times, 0, ...$queries),
-        program('rows_of_sqlite', $times, $lines, ...$queries)), $rounds);
+    $errors = (int) (count(file(ERRORS)) / 2);
+    $samples = in_turn(array(calls($function, $times), program('rows_of_sqlite', $times, 0, 0, ...$queries),
+        program('rows_of_sqlite', $times, $lines, $errors, ...$queries)), $rounds);
     ratio_row($what, 'SQLite reads', 'ns', at_most(1.3), $samples[0], $samples[1]);
-    ratio_row("... $what", "SQLite reads, $lines bare lines", 'ns', null, $samples[0], $samples[2]);
+    ratio_row("... $what", "SQLite reads, $lines bare lines of the trace" . ($errors ? ", $errors of the error log" : ''), 'ns', null, $samples[0], $samples[2]);
     return $samples[0];
 }
 

@@ -1,0 +1,16 @@
+<?php
+// count_calls.php FUNCTION START END: calls the function from START to END, in nanoseconds of the clock that hrtime()
+// shows, and prints how often.
+list(, $function, $start, $end) = $argv;
+$function();
+if (hrtime(true) >= $start) {
+    fwrite(STDERR, "It was too late to start.\n");
+    exit(1);
+}
+while (hrtime(true) < $start) {
+    usleep(500);
+}
+for ($count = 0; hrtime(true) < $end; $count++) {
+    $function();
+}
+echo $count, "\n";
