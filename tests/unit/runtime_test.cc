@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "libdovan_util/command_words.h"
+#include "libdovan_util/commands_at_once.h"
 
 namespace {
 
@@ -417,6 +418,48 @@ Words split(std::string command) {
 }
 
 }  // namespace
+
+// Each waits until the other one is there: one after the other, neither would come to its end.
+TEST(RunAtOnce, CommandsRunAtTheSameTime) {
+  char folder[] = "/tmp/runtime_test.XXXXXX";
+  ASSERT_NE(nullptr, mkdtemp(folder));
+  const std::string fifo = std::string(folder) + "/fifo";
+  ASSERT_EQ(0, mkfifo(fifo.c_str(), 0600));
+  const std::vector<CommandAnswer> answers = runAtOnce(
+      {"timeout 20 sh -c \"cat " + fifo + "\"", "timeout 20 sh -c \"echo met >" + fifo + "; echo said\""});
+  ASSERT_EQ(2U, answers.size());
+  EXPECT_TRUE(answers[0].succeeded);
+  EXPECT_EQ("met", answers[0].output);
+  EXPECT_TRUE(answers[1].succeeded);
+  EXPECT_EQ("said", answers[1].output);
+  EXPECT_EQ(0, std::system(("rm -r " + std::string(folder)).c_str()));
+}
+
+TEST(RunAtOnce, AnswersAreInTheOrderOfTheCommandsWhateverEndsFirst) {
+  const std::vector<CommandAnswer> answers =
+      runAtOnce({"sh -c \"sleep 0.2; echo slow\"", "echo fast", "false", ""});
+  ASSERT_EQ(4U, answers.size());
+  EXPECT_EQ("slow", answers[0].output);
+  EXPECT_EQ("fast", answers[1].output);
+  EXPECT_TRUE(answers[1].succeeded);
+  EXPECT_FALSE(answers[2].succeeded);
+  EXPECT_FALSE(answers[3].succeeded);
+}
+
+// More than a pipe holds, of one that is read late.
+TEST(RunAtOnce, NoneWaitsForeverForItsReader) {
+  const std::vector<CommandAnswer> answers =
+      runAtOnce({"head -c 3000000 /dev/zero", "head -c 2000000 /dev/zero"});
+  ASSERT_EQ(2U, answers.size());
+  EXPECT_EQ(3000000U, answers[0].output.size());
+  EXPECT_EQ(2000000U, answers[1].output.size());
+}
+
+TEST(RunAtOnce, NoneIsLeftBehind) {
+  runAtOnce({"true", "false", "/no/such/program", "echo"});
+  EXPECT_EQ(-1, waitpid(-1, nullptr, WNOHANG));
+  EXPECT_EQ(ECHILD, errno);
+}
 
 TEST(SplitCommand, BlanksAndTabsPartWordsHoweverManyTheyAre) {
   EXPECT_EQ((Words{"a", "bc", "d"}), split("a bc d"));
