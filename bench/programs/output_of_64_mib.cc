@@ -45,14 +45,30 @@ std::size_t readBare(char** words) {
   return bare::finish(command) == 0 ? length : 0;
 }
 
+std::size_t readGrowing(char** words) {
+  std::string text;
+  const bare::Command command = bare::start(words);
+  char piece[16384];
+  ssize_t length = 0;
+  do {
+    length = read(command.output, piece, sizeof(piece));
+    if (length > 0) text.append(piece, static_cast<std::size_t>(length));
+  } while (length > 0);
+  return bare::finish(command) == 0 ? text.size() : 0;
+}
+
+std::size_t readBy(const std::string& way, char** words) {
+  if (way == "runtime") return readByRuntime(words);
+  return way == "growing" ? readGrowing(words) : readBare(words);
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
   if (count < 4) return 2;
   const long before = mostMemory();
   const double start = bare::nanoseconds();
-  const bool byRuntime = std::strcmp(arguments[1], "runtime") == 0;
-  if ((byRuntime ? readByRuntime(arguments + 3) : readBare(arguments + 3)) != Size) return 1;
+  if (readBy(arguments[1], arguments + 3) != Size) return 1;
   const double time = bare::nanoseconds() - start;
   std::printf("%.1f\n",
               std::strcmp(arguments[2], "time") == 0 ? time : static_cast<double>(mostMemory() - before));

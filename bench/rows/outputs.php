@@ -31,3 +31,6 @@ foreach (array(array('time', 'ns', 1.5), array('memory', 'bytes', 2.2)) as list(
     compare("64 MiB of output: $what", 'read, reserved buffer', $unit, at_most($target), program('output_of_64_mib', 'runtime', $what, ...$output),
         program('output_of_64_mib', 'bare', $what, ...$output), amount(15, 3));
 }
+// Where the time goes: the length is not known before.
+compare('... a text that grows, without Runtime', 'read, reserved buffer', 'ns', null, program('output_of_64_mib', 'growing', 'time', ...$output),
+    program('output_of_64_mib', 'bare', 'time', ...$output), amount(15, 3));
