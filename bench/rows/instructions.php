@@ -43,6 +43,7 @@ $groups = array(
     'management' => array('get_ssl_settings' => $session, 'get_snmp_settings' => $session, 'get_snmp_trap_regs' => $session),
 );
 foreach ($groups as $group => $functions) {
+    $functions = array_slice($functions, 0, amount(count($functions), 2)); // loading is what takes long
     $ratios = $emulated_counts = $native_counts = array();
     foreach ($functions as $function => $arguments) {
         $emulated_counts[$function] = per_call($emulated, '/instructions: (\d+)/', $function, $arguments);
