@@ -1,5 +1,7 @@
 <?php
-// Shows what was measured: table.php heading | rows FILE | json FOLDER | markdown FOLDER
+// Shows what was measured: table.php heading | rows FILE | json FOLDER | markdown FOLDER [FILE]
+//
+// The last one puts the table into the file, between its two lines that say so; a file without those becomes the table.
 
 define('LINE', "%-54s %11s %11s  %-21s %-9s %s\n");
 
@@ -66,7 +68,7 @@ function circumstances()
     preg_match('/^model name\s*: (.*)$/m', (string) file_get_contents('/proc/cpuinfo'), $processor);
     return array('time' => gmdate('Y-m-d H:i:s') . ' UTC', 'processor' => isset($processor[1]) ? $processor[1] : php_uname('m'),
         'processors' => substr_count(file_get_contents('/proc/cpuinfo'), "processor\t"), 'kernel' => php_uname('r'),
-        'interpreter' => PHP_VERSION, 'load' => sys_getloadavg()[0], 'quick' => getenv('BENCH_QUICK') == 'yes');
+        'interpreter' => PHP_VERSION, 'load' => round(sys_getloadavg()[0], 1), 'quick' => getenv('BENCH_QUICK') == 'yes');
 }
 
 function markdown($rows)
@@ -94,8 +96,18 @@ switch ($argv[1]) {
         break;
     case 'markdown':
         $facts = circumstances();
+        ob_start();
         echo "{$facts['time']}; {$facts['processors']} processors ({$facts['processor']}), Linux {$facts['kernel']}, ",
             "PHP {$facts['interpreter']}, load average {$facts['load']}.\n\n";
         markdown(all_rows($argv[2]));
+        $table = ob_get_clean();
+        if (!isset($argv[3])) {
+            echo $table;
+            break;
+        }
+        $place = '/(^<!-- table -->\n).*(^<!-- end of the table -->$)/ms';
+        $text = (string) @file_get_contents($argv[3]);
+        $put = function ($lines) use ($table) { return "{$lines[1]}\n$table\n{$lines[2]}"; };
+        file_put_contents($argv[3], preg_match($place, $text) ? preg_replace_callback($place, $put, $text) : $table);
         break;
 }
