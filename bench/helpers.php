@@ -134,7 +134,7 @@ function google_samples($pattern, $unit = 'real_time', $mode = array())
 {
     $command = array_merge(array(PROGRAMS . '/parts'), $mode, array("--benchmark_filter=$pattern",
         '--benchmark_format=console', '--benchmark_out=/tmp/bench.json', '--benchmark_out_format=json',
-        '--benchmark_enable_random_interleaving=true', '--benchmark_repetitions=' . amount(21, 5),
+        '--benchmark_enable_random_interleaving=true', '--benchmark_repetitions=' . amount(11, 5),
         '--benchmark_min_time=' . amount(0.05, 0.005)));
     last_line($command);
     file_put_contents(TRACE_LOG, '');
