@@ -76,7 +76,7 @@ build() {
   if [[ $2 != to-test ]]; then
     [[ -e $folder/CMakeCache.txt ]] || configure "$1" -D WITH_TESTS=OFF || return
     [[ $2 != to-bench ]] || grep -qx 'WITH_BENCH:BOOL=ON' "$folder/CMakeCache.txt" || configure "$1" -D WITH_BENCH=ON || return
-    compile --target "${targets[@]}"
+    compile "${targets[@]}"
   else
     grep -qx 'WITH_TESTS:BOOL=ON' "$folder/CMakeCache.txt" 2>/dev/null || configure "$1" -D WITH_TESTS=ON || return
     compile
@@ -102,4 +102,10 @@ configure() {
   (cd "$checkout" && cmake --preset default "$@") >"$log" 2>&1 || { cat "$log" >&2; return 1; }
 }
 
-compile() { cmake --build "$folder" --parallel "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }; }
+# compile [TARGET...]
+compile() { run_builder "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }; }
+
+# Mostly there is nothing to do, and asking cmake to ask ninja takes twice as long.
+run_builder() {
+  if [[ -e $folder/build.ninja ]]; then ninja -C "$folder" "$@"; else cmake --build "$folder" --parallel ${1:+--target "$@"}; fi
+}

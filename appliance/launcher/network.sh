@@ -11,6 +11,7 @@
 #
 # Each returns 1 after one sentence on standard error when the kernel or the program refuses.
 
+IPV6_OFF_AT_FIRST=/proc/sys/net/ipv6/conf/default/disable_ipv6
 LAN_ADDRESSES=('10.20.0.1/24' '2001:db8:20::1/64 nodad')
 
 network_create() {
@@ -20,17 +21,20 @@ network_create() {
       { echo "The kernel allows no network namespace: $error" >&2; return 1; }
   done
   error=$(_network_connect "$folder" 2>&1) ||
-    { echo "The kernel allows no virtual Ethernet: $error" >&2; return 1; }
+    { echo "The kernel allows no virtual Ethernet: ${error%%$'\n'*}" >&2; return 1; }
 }
 
+# IPv6 stays off on the appliance's side until its settings switch it on.
 _network_connect() {
-  local folder=$1 address
-  _network_in appliance ip link set lo up && _network_in lan ip link set lo up && _network_open_to_users &&
-    _network_link eth0 lan0 00 && _network_link eth2 lan2 02 || return
-  for address in "${LAN_ADDRESSES[@]}"; do
-    # shellcheck disable=SC2086 # an address and its flags
-    _network_in lan ip address add dev lan0 $address || return
-  done
+  local folder=$1
+  _network_open_to_users && _network_in appliance sh -c "echo 1 >$IPV6_OFF_AT_FIRST && ip -batch - && echo 0 >$IPV6_OFF_AT_FIRST" < <(
+    echo link set lo up
+    _network_link eth0 lan0 00
+    _network_link eth2 lan2 02
+  ) && _network_in lan ip -batch - < <(
+    printf 'link set %s up\n' lo lan0 lan2
+    printf 'address add dev lan0 %s\n' "${LAN_ADDRESSES[@]}"
+  )
 }
 
 # There the web service has no rights: its ports are open to it, and ping to everybody. In a user namespace without a
@@ -58,11 +62,10 @@ _network_in() {
 }
 
 # The hardware addresses are the same at every start, as a real device's: leases and addresses that are
-# derived from them come back. IPv6 stays off on the appliance's side until its settings switch it on.
+# derived from them come back.
 _network_link() {
   local near=$1 far=$2 number=$3
-  _network_in appliance ip link add "$near" address "02:00:0a:14:$number:07" type veth \
-    peer name "$far" address "02:00:0a:14:$number:01" netns "$folder/lan.net" &&
-    _network_in appliance sh -c "echo 1 >/proc/sys/net/ipv6/conf/$near/disable_ipv6" &&
-    _network_in appliance ip link set "$near" up && _network_in lan ip link set "$far" up
+  echo "link add $near address 02:00:0a:14:$number:07 type veth" \
+    "peer name $far address 02:00:0a:14:$number:01 netns $folder/lan.net"
+  echo "link set $near up"
 }
