@@ -455,6 +455,51 @@ TEST(RunAtOnce, NoneWaitsForeverForItsReader) {
   EXPECT_EQ(2000000U, answers[1].output.size());
 }
 
+// Room for one pipe, of which the reader keeps one end.
+TEST(RunAtOnce, WithTooFewDescriptorsForAllTheyRunOneAfterTheOther) {
+  rlimit before = {};
+  ASSERT_EQ(0, getrlimit(RLIMIT_NOFILE, &before));
+  rlimit few = before;
+  few.rlim_cur = 64;
+  testing::internal::CaptureStderr();
+  ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &few));
+  std::vector<int> filling;
+  for (int number = dup(STDERR_FILENO); number >= 0; number = dup(STDERR_FILENO)) filling.push_back(number);
+  ASSERT_LE(2U, filling.size());
+  for (int i = 0; i < 2; ++i, filling.pop_back()) close(filling.back());
+  const std::vector<CommandAnswer> answers = runAtOnce({"echo 1", "echo 2", "echo 3", "/no/such/program"});
+  for (const int number : filling) close(number);
+  const std::string complaints = testing::internal::GetCapturedStderr();
+  ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &before));
+  ASSERT_EQ(4U, answers.size());
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_TRUE(answers[i].succeeded);
+    EXPECT_EQ(std::to_string(i + 1), answers[i].output);
+  }
+  EXPECT_FALSE(answers[3].succeeded);
+  EXPECT_EQ("command '/no/such/program' failed: No such file or directory\n", complaints);
+}
+
+TEST(RunAtOnce, WithoutAnyDescriptorEachIsRefused) {
+  rlimit before = {};
+  ASSERT_EQ(0, getrlimit(RLIMIT_NOFILE, &before));
+  rlimit few = before;
+  few.rlim_cur = 64;
+  testing::internal::CaptureStderr();
+  ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &few));
+  std::vector<int> filling;
+  for (int number = dup(STDERR_FILENO); number >= 0; number = dup(STDERR_FILENO)) filling.push_back(number);
+  const std::vector<CommandAnswer> answers = runAtOnce({"echo 1", "echo 2"});
+  for (const int number : filling) close(number);
+  ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &before));
+  EXPECT_EQ("command 'echo 1' failed: Too many open files\ncommand 'echo 2' failed: Too many open files\n",
+            testing::internal::GetCapturedStderr());
+  ASSERT_EQ(2U, answers.size());
+  EXPECT_FALSE(answers[0].succeeded);
+  EXPECT_FALSE(answers[1].succeeded);
+  EXPECT_EQ("", answers[0].output + answers[1].output);
+}
+
 TEST(RunAtOnce, NoneIsLeftBehind) {
   runAtOnce({"true", "false", "/no/such/program", "echo"});
   EXPECT_EQ(-1, waitpid(-1, nullptr, WNOHANG));

@@ -25,7 +25,7 @@ constexpr int NoSuchProgram = W_EXITCODE(127, 0);
 constexpr int CannotBeRun = W_EXITCODE(126, 0);
 
 constexpr const char* NullDevice = "/dev/null";
-constexpr std::size_t ReadSize = 16384;
+constexpr std::size_t ReadSize = 65536;  // what a pipe holds
 constexpr int ShownCharacters = 400;
 
 class Descriptor {
@@ -159,8 +159,16 @@ class RunningCommand {
   RunningCommand(const RunningCommand&) = delete;
   RunningCommand& operator=(const RunningCommand&) = delete;
 
+  // It has not been started, for want of what others may give back when they end.
+  bool LacksRoom() const {
+    return spawnError_ == EAGAIN || spawnError_ == ENOMEM || spawnError_ == EMFILE || spawnError_ == ENFILE;
+  }
+
   // The raw wait status. What the command printed comes behind the output.
   int WaitFor(std::string* output) try {
+    if (spawnError_ != 0) {
+      return refuse(words_, std::strerror(spawnError_), spawnError_ == ENOENT ? NoSuchProgram : CannotBeRun);
+    }
     if (child_ < 0) return waitStatus_;
     const char* fault = output == nullptr ? nullptr : readAll(reader_, *output);
     reader_.Close();  // a command that still writes ends by that
@@ -182,10 +190,10 @@ class RunningCommand {
     Descriptor writer;
     int error = output == Output::Dropped ? 0 : openPipe(reader_, writer);
     if (error == 0) error = spawn(words_, writer, child_);
-    if (error != 0) {
-      child_ = -1;
-      waitStatus_ = refuse(words_, std::strerror(error), error == ENOENT ? NoSuchProgram : CannotBeRun);
-    }
+    if (error == 0) return;
+    child_ = -1;
+    reader_.Close();
+    spawnError_ = error;
   }
 
   std::string command_;
@@ -193,6 +201,7 @@ class RunningCommand {
   const TarnAbstract::ChildStatuses statuses_;
   Descriptor reader_;
   pid_t child_ = -1;  // below 0: none runs
+  int spawnError_ = 0;
   int waitStatus_ = 0;
 };
 
@@ -224,9 +233,13 @@ std::vector<CommandAnswer> runAtOnce(const std::vector<std::string>& commands) {
   std::vector<CommandAnswer> answers(commands.size());
   std::deque<RunningCommand> running;
   for (const std::string& command : commands) running.emplace_back(command, RunningCommand::Output::Read);
+  int waitStatus = 0;
   for (std::size_t i = 0; i < commands.size(); ++i) {
-    int waitStatus = 0;
-    answers[i].succeeded = answer(running[i], answers[i].output, waitStatus);
+    if (!running[i].LacksRoom()) answers[i].succeeded = answer(running[i], answers[i].output, waitStatus);
+  }
+  for (std::size_t i = 0; i < commands.size(); ++i) {
+    if (!running[i].LacksRoom()) continue;
+    answers[i].succeeded = Runtime::getInstance()->execute(commands[i], answers[i].output, waitStatus);
   }
   return answers;
 }
