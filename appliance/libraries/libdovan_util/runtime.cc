@@ -25,7 +25,7 @@ constexpr int NoSuchProgram = W_EXITCODE(127, 0);
 constexpr int CannotBeRun = W_EXITCODE(126, 0);
 
 constexpr const char* NullDevice = "/dev/null";
-constexpr std::size_t ReadSize = 65536;  // what a pipe holds
+constexpr std::size_t ReadSize = 16384;
 constexpr int ShownCharacters = 400;
 
 class Descriptor {
