@@ -11,7 +11,6 @@
 #
 # Each returns 1 after one sentence on standard error when the kernel or the program refuses.
 
-IPV6_OFF_AT_FIRST=/proc/sys/net/ipv6/conf/default/disable_ipv6
 LAN_ADDRESSES=('10.20.0.1/24' '2001:db8:20::1/64 nodad')
 
 network_create() {
@@ -24,14 +23,17 @@ network_create() {
     { echo "The kernel allows no virtual Ethernet: ${error%%$'\n'*}" >&2; return 1; }
 }
 
-# IPv6 stays off on the appliance's side until its settings switch it on.
+# IPv6 stays off on the appliance's side until its settings switch it on. The folder's path may have blanks, which the lines
+# for ip cannot.
 _network_connect() {
   local folder=$1
-  _network_open_to_users && _network_in appliance sh -c "echo 1 >$IPV6_OFF_AT_FIRST && ip -batch - && echo 0 >$IPV6_OFF_AT_FIRST" < <(
-    echo link set lo up
-    _network_link eth0 lan0 00
-    _network_link eth2 lan2 02
-  ) && _network_in lan ip -batch - < <(
+  # shellcheck disable=SC2016 # the inner shell's
+  _network_open_to_users && _network_in appliance sh -c 'cd "$1" && echo 1 >"$2" && ip -batch - && echo 0 >"$2"' sh \
+    "$folder" /proc/sys/net/ipv6/conf/default/disable_ipv6 < <(
+      echo link set lo up
+      _network_link eth0 lan0 00
+      _network_link eth2 lan2 02
+    ) && _network_in lan ip -batch - < <(
     printf 'link set %s up\n' lo lan0 lan2
     printf 'address add dev lan0 %s\n' "${LAN_ADDRESSES[@]}"
   )
@@ -66,6 +68,6 @@ _network_in() {
 _network_link() {
   local near=$1 far=$2 number=$3
   echo "link add $near address 02:00:0a:14:$number:07 type veth" \
-    "peer name $far address 02:00:0a:14:$number:01 netns $folder/lan.net"
+    "peer name $far address 02:00:0a:14:$number:01 netns ./lan.net"
   echo "link set $near up"
 }
