@@ -29,7 +29,7 @@ page_can() { is "a page can $1" 0 "$(as_page "$2" | tail -n 1)"; }
 # keep_house: as it is done each minute; without_housekeeping FUNCTION: until the function is over it is not done by itself.
 keep_house() { /bin/sh "$APP_MANAGER/bin/housekeeping.sh" once; }
 without_housekeeping() {
-  pkill --signal STOP --full '^/bin/sh .*/housekeeping\.sh$'
+  pkill --signal STOP --full '^/bin/sh .*/housekeeping\.sh$' || fail 'there is no housekeeping to wait'
   "$1"
   pkill --signal CONT --full '^/bin/sh .*/housekeeping\.sh$'
 }
