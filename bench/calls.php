@@ -70,6 +70,9 @@ function plain_get_network_dns()
         'dnsSecondary' => isset($servers[1]) ? $servers[1] : '');
 }
 
+if (basename($argv[0]) != basename(__FILE__)) {
+    return; // for count_calls.php
+}
 $function = $argv[1];
 $arguments = preg_match('/^(is_|get_network_hostname|get_all_|plain_)/', $function) ? array() : array(new stdClass());
 $times = (int) $argv[2];

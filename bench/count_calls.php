@@ -1,6 +1,7 @@
 <?php
 // count_calls.php FUNCTION START END: calls the function from START to END, in nanoseconds of the clock that hrtime()
-// shows, and prints how often.
+// shows, and prints how often. Besides the module's functions there are those of calls.php.
+require __DIR__ . '/calls.php';
 list(, $function, $start, $end) = $argv;
 $function();
 if (hrtime(true) >= $start) {
