@@ -386,6 +386,16 @@ TEST(Runtime, AStatusThatTheHostsOwnHandlerTookIsAFailure) {
   EXPECT_EQ(CannotBeRun, outcome.waitStatus);
 }
 
+TEST(Runtime, ACommandFindsTheSameEnvironmentWhateverTheHostHas) {
+  ASSERT_EQ(0, setenv("LD_PRELOAD_OF_SOMEBODY", "x", 1));
+  EXPECT_EQ("PATH=/usr/sbin:/usr/bin:/sbin:/bin", run("/usr/bin/env").output);
+  unsetenv("LD_PRELOAD_OF_SOMEBODY");
+  char** const own = environ;
+  environ = nullptr;  // as a library may see it
+  EXPECT_EQ("PATH=/usr/sbin:/usr/bin:/sbin:/bin", run("/usr/bin/env").output);
+  environ = own;
+}
+
 TEST(Runtime, ManyThreadsGetTheirOwnAnswersAndLeaveNothingBehind) {
   const int before = openDescriptors();
   runOnManyThreads();

@@ -17,6 +17,7 @@
 #include "libdovan_util/command_words.h"
 #include "libdovan_util/commands_at_once.h"
 #include "libtarn/child_statuses.h"
+#include "libtarn/command_environment.h"
 
 namespace {
 
@@ -100,7 +101,10 @@ int spawn(const std::vector<char*>& words, const Descriptor& output, pid_t& chil
   posix_spawnattr_init(&attributes);
   int error = arrangeDescriptors(actions, output);
   arrangeSignals(attributes);
-  if (error == 0) error = posix_spawnp(&child, words[0], &actions, &attributes, words.data(), environ);
+  if (error == 0) {
+    error = posix_spawnp(&child, words[0], &actions, &attributes, words.data(),
+                         TarnAbstract::commandEnvironment());
+  }
   posix_spawnattr_destroy(&attributes);
   posix_spawn_file_actions_destroy(&actions);
   return error;
