@@ -17,7 +17,7 @@ LIBRARIES=(libTarn.so libVelm.so libdovan_util.so)
 describe_address() {
   compiler_options=(-O0 -fsanitize='address,undefined' -fno-sanitize-recover=all)
   command=()
-  preloaded=$(library asan):$(library ubsan)
+  preloaded=$(library ubsan):$(library asan) # in the other order the reports of the first are lost
   faults=(
     [overflow]=heap-buffer-overflow
     [use_after_free]=heap-use-after-free
@@ -118,11 +118,11 @@ refer() {
 }
 
 build_interpreters() {
-  local name forget=$work/forget_preload.so
-  mkdir -p "$work/bin" && gcc -O1 -Wall -Wextra -Werror -shared -fPIC -o "$forget" "$HERE/forget_preload.c" || return
+  local name beside=$work/beside_sanitizer.so
+  mkdir -p "$work/bin" && gcc -O1 -Wall -Wextra -Werror -shared -fPIC -o "$beside" "$HERE/beside_sanitizer.c" || return
   use_settings "$KEPT"
   for name in "${INTERPRETERS[@]}"; do
-    wrap "$(type -P "$name")" "$work/bin/$name" "${preloaded:+$preloaded:}$forget" || return
+    wrap "$(type -P "$name")" "$work/bin/$name" "${preloaded:+$beside:$preloaded}" || return
   done
 }
 
