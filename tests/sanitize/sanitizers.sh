@@ -9,6 +9,7 @@
 #   settings           the sanitizer's environment variables (use_settings FOLDER sets them, with the folder of reports)
 #   command            what a program is run with; none: by itself
 #   preloaded          what is to be loaded into an interpreter
+#   interpreter_options  what an interpreter is called with
 #   faults             which planted faults it has to find, and by which words its report is known
 
 INTERPRETERS=(php php-cgi)
@@ -51,6 +52,7 @@ describe_thread() {
 describe_valgrind() {
   compiler_options=()
   preloaded=''
+  interpreter_options=(-d pcre.jit=0) # what is compiled while it runs reads more than there is, on purpose
   faults=(
     [overflow]='Invalid write'
     [use_after_free]='Invalid read'
@@ -78,6 +80,9 @@ describe_coverage() {
   use_settings() { settings=("LLVM_PROFILE_FILE=$1/%p.%m.profraw"); }
 }
 
+# What is looked at takes its time.
+export CONTRACT_SECONDS=600
+
 library() { realpath "$(g++ -print-file-name="lib$1.so")"; }
 
 # False after it has been counted as a failure.
@@ -94,16 +99,17 @@ build_sources() {
 
 # Of warnings the build proper speaks: instruments bring warnings of their own.
 build_instrumented() {
-  [[ -e $built/build.ninja ]] ||
-    cmake -S "$CHECKOUT" -B "$built" -G Ninja -D CMAKE_BUILD_TYPE=None -D "CMAKE_CXX_COMPILER=${compiler:-g++}" \
-      -D "CMAKE_CXX_FLAGS=${compiler_options[*]} -g1 -fno-omit-frame-pointer -Wno-error" || return
+  local options="${compiler:-g++} ${compiler_options[*]} -g1 -fno-omit-frame-pointer -w"
+  [[ $(cat "$work/options" 2>/dev/null) == "$options" && -e $built/build.ninja ]] ||
+    { cmake --fresh -S "$CHECKOUT" -B "$built" -G Ninja -D CMAKE_BUILD_TYPE=None -D "CMAKE_CXX_COMPILER=${options%% *}" \
+      -D "CMAKE_CXX_FLAGS=${options#* }" && echo "$options" >"$work/options"; } || return
   cmake --build "$built" --parallel --target network velm dovan_util cmdwrap tests/contract/scripted_platform/all "${targets[@]}"
 }
 
 # The files of the build proper; in place of a program of unit tests one that runs it.
 refer_to_build() {
   local program
-  refer "$built" "$BUILD" && ln -sf "$BUILD/network.so" "$BUILD/cmdwrap" "$built" || return
+  refer "$built" "$BUILD" && ln -sf "$BUILD/network.so" "$built" || return
   use_settings "$reports/unit"
   for program in "$BUILD"/tests/*unit_tests; do
     wrap "$program" "$built/tests/${program##*/}" || return
@@ -113,7 +119,7 @@ refer_to_build() {
 # refer FOLDER BUILT: makes a build folder with what the module needs in another one.
 refer() {
   mkdir -p "$1/tests/scripted_platform" &&
-    ln -sf "${LIBRARIES[@]/#/$2/}" "$1" &&
+    ln -sf "${LIBRARIES[@]/#/$2/}" "$2/cmdwrap" "$1" &&
     ln -sf "$2"/tests/scripted_platform/{libdovan_util.so,command_texts} "$1/tests/scripted_platform"
 }
 
@@ -122,14 +128,14 @@ build_interpreters() {
   mkdir -p "$work/bin" && gcc -O1 -Wall -Wextra -Werror -shared -fPIC -o "$beside" "$HERE/beside_sanitizer.c" || return
   use_settings "$KEPT"
   for name in "${INTERPRETERS[@]}"; do
-    wrap "$(type -P "$name")" "$work/bin/$name" "${preloaded:+$beside:$preloaded}" || return
+    wrap "$(type -P "$name")" "$work/bin/$name" "${preloaded:+$beside:$preloaded}" ${interpreter_options[@]+"${interpreter_options[@]}"} || return
   done
 }
 
-# wrap PROGRAM RESULT [PRELOADED]: makes RESULT, a program that runs PROGRAM under the sanitizer.
+# wrap PROGRAM RESULT [PRELOADED [OPTION...]]: makes RESULT, a program that runs PROGRAM under the sanitizer.
 wrap() {
   gcc -O1 -Wall -Wextra -Werror -static -o "$2" "$HERE/interpreter.c" -D "PRELOADED=\"${3-}\"" \
-    -D "PROGRAM=$(listed ${command[@]+"${command[@]}"} "$1")" -D "SETTINGS=$(listed "${settings[@]}")"
+    -D "PROGRAM=$(listed ${command[@]+"${command[@]}"} "$1" "${@:4}")" -D "SETTINGS=$(listed "${settings[@]}")"
 }
 
 # As C writes them.
@@ -142,10 +148,13 @@ listed() {
 # A build folder with a module and unit tests that are the planted ones.
 build_planted() {
   local planted=$work/planted
-  local -a engine compile=(g++ ${compiler_options[@]+"${compiler_options[@]}"} -g -fno-omit-frame-pointer)
+  local -a engine compile=("${compiler:-g++}" ${compiler_options[@]+"${compiler_options[@]}"} -g -fno-omit-frame-pointer)
   read -ra engine <<<"$(php-config --includes)"
-  refer "$planted" "$built" &&
-    "${compile[@]}" -shared -fPIC "${engine[@]}" -o "$planted/network.so" "$PLANTED/network.cc" &&
+  refer "$planted" "$built" || return
+  is_made "$planted/network.so" "$PLANTED/network.cc" ||
+    "${compile[@]}" -shared -fPIC "${engine[@]}" -o "$planted/network.so" "$PLANTED/network.cc" || return
+  [[ ${#targets[@]} != 0 ]] || return 0
+  is_made "$planted/faults" "$PLANTED/faults_test.cc" ||
     "${compile[@]}" -o "$planted/faults" "$PLANTED/faults_test.cc" -lgtest -lgtest_main || return
   if [[ ${#command[@]} == 0 ]]; then
     ln -sf ../faults "$planted/tests/planted_unit_tests"
@@ -154,3 +163,6 @@ build_planted() {
     wrap "$planted/faults" "$planted/tests/planted_unit_tests"
   fi
 }
+
+# is_made RESULT SOURCE: since the source or how it is compiled was changed.
+is_made() { [[ $1 -nt $2 && $1 -nt $HERE/sanitizers.sh ]]; }

@@ -1,5 +1,7 @@
 --TEST--
 Two threads that change the same number without a lock are reported.
+--PLATFORM--
+development
 --FILE--
 <?php
 include 'scripted_platform.inc';
