@@ -17,8 +17,8 @@ foreach ($workers as $worker) {
   if (proc_close($worker) != 0) ++$ended_badly;
 }
 
-$sums = ['wrong' => 0, 'warnings' => 0, 'descriptors_more' => 0, 'children' => 0];
-$firsts = ['first_wrong' => 'none', 'first_warning' => 'none'];
+$sums = ['wrong' => 0, 'refused' => 0, 'warnings' => 0, 'descriptors_more' => 0, 'children' => 0];
+$firsts = ['first_wrong' => 'none', 'first_failure' => 'none'];
 $calls = $written = $receivers = [];
 $reports = 0;
 for ($i = 0; $i < $processes; ++$i) {

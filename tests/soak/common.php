@@ -30,10 +30,12 @@ function resident_kib() {
 
 // Warnings are what the module reports a failure with. They are counted, and the first is shown.
 $warnings = 0;
-$first_warning = 'none';
+$first_warning = $last_warning = 'none';
 set_error_handler(function ($level, $message) {
-  global $warnings, $first_warning;
-  if (++$warnings == 1) $first_warning = $message;
+  global $warnings, $first_warning, $last_warning;
+  ++$warnings;
+  $last_warning = $message;
+  if ($first_warning == 'none') $first_warning = $message;
 });
 
 function found_warnings() {
