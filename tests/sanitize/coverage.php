@@ -60,6 +60,7 @@ foreach (json_decode(file_get_contents($branches), true)['data'][0]['files'] as 
   $source = file($file['filename'], FILE_IGNORE_NEW_LINES);
   $row = array_fill(0, 6, 0);
   foreach ($counts[$file['filename']] as $line => $count) {
+    if (trim($source[$line - 1]) == '}') continue;  // no statement
     ++$row[0];
     if ($count > 0) ++$row[1];
     elseif (not_covered($name, $source, $line, 'line')) ++$row[2];
