@@ -5,12 +5,16 @@ include __DIR__ . '/common.php';
 
 $calls = (int)$argv[1];
 const SECONDS_AT_MOST = 400;
+const LOCK_OF_SETTINGS = '/run/appmanager/settings.lock';
 $session = new Session();
 set_ipv6_enabled($session, true);
 
 $descriptors = descriptors();
 $addresses = [];
 $begin = microtime(true);
+// As if another change were under way: so none of them is done before the last has begun.
+$lock = fopen(LOCK_OF_SETTINGS, 'a');
+flock($lock, LOCK_EX);
 for ($i = 0; $i < $calls; ++$i) {
   if ($i % 2 == 0) {
     $address = '10.20.0.' . (160 + $i / 2 % 80);
@@ -23,6 +27,7 @@ for ($i = 0; $i < $calls; ++$i) {
 }
 found('seconds_of_calls', round(microtime(true) - $begin, 1));
 found('threads_at_once', threads() - 1);
+fclose($lock);
 while (threads() > 1 && microtime(true) - $begin < SECONDS_AT_MOST) usleep(50000);
 found('seconds', round(microtime(true) - $begin));
 found('threads_left', threads() - 1);
@@ -30,7 +35,7 @@ found('descriptors_more', descriptors() - $descriptors);
 found('children', children());
 found_warnings();
 
-$judged = judge_log(LOG);
+$judged = judge_log();
 found_log($judged);
 function messages($names) {
   global $judged;

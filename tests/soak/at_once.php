@@ -17,8 +17,8 @@ foreach ($workers as $worker) {
   if (proc_close($worker) != 0) ++$ended_badly;
 }
 
-$sums = ['wrong' => 0, 'refused' => 0, 'warnings' => 0, 'descriptors_more' => 0, 'children' => 0];
-$firsts = ['first_wrong' => 'none', 'first_failure' => 'none'];
+$sums = ['wrong' => 0, 'warnings' => 0, 'descriptors_more' => 0, 'children' => 0];
+$firsts = ['first_wrong' => 'none', 'first_warning' => 'none'];
 $calls = $written = $receivers = [];
 $reports = 0;
 for ($i = 0; $i < $processes; ++$i) {
@@ -35,7 +35,7 @@ found('ended_badly', $ended_badly);
 found('reports', $reports);
 foreach ($sums + $firsts as $name => $value) found($name, $value);
 
-$judged = judge_log(LOG);
+$judged = judge_log();
 found_log($judged);
 ksort($calls);
 ksort($judged['calls']);

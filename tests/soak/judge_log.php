@@ -1,6 +1,6 @@
 <?php
-// Counts the entries of a trace log, how many calls of each function it tells of and how often each message is in it,
-// and what is no whole entry: judge_log.php FILE. The answer is a line of JSON.
+// Counts the entries of trace logs, how many calls of each function they tell of and how often each message is in them,
+// and what is no whole entry: judge_log.php FILE... The answer is a line of JSON.
 
 // An entry is one line, unless its message has line ends of its own: these.
 const MESSAGES_WITH_LINE_ENDS = ["Mode\nSetting SSL to " => 'Mode Setting SSL to ', "\n\n:<>" => ':<>'];
@@ -21,16 +21,33 @@ function count_message($message) {
   if (preg_match('/^entering (get|set|is|create|delete|restart)(_\w+)$/i', $message, $name)) @++$judged['calls'][$name[1] . $name[2]];
 }
 
-ini_set('memory_limit', '-1');
-$text = strtr(file_get_contents($argv[1]), MESSAGES_WITH_LINE_ENDS);
-if (substr($text, -1) !== "\n") complain('the last line has no end');
-foreach (explode("\n", substr($text, 0, -1)) as $line) {
-  if (preg_match(ENTRY, $line, $parts)) {
-    count_message($parts[1]);
-  } else {
-    complain($line);
+function judge($text) {
+  foreach (explode("\n", substr(strtr($text, MESSAGES_WITH_LINE_ENDS), 0, -1)) as $line) {
+    if (preg_match(ENTRY, $line, $parts)) {
+      count_message($parts[1]);
+    } else {
+      complain($line);
+    }
   }
 }
+
+// Piece by piece, each up to where an entry begins: a log can be large.
+function judge_file($name) {
+  $file = fopen($name, 'r');
+  for ($rest = ''; !feof($file); $rest = substr($rest, $end)) {
+    $rest .= fread($file, 1 << 20);
+    $end = (int)strrpos($rest, "\nTRACE[");
+    if ($end > 0) judge(substr($rest, 0, ++$end));
+  }
+  if ($rest === '') return;
+  if (substr($rest, -1) !== "\n") {
+    complain("no end: $rest");
+    $rest .= "\n";
+  }
+  judge($rest);
+}
+
+foreach (array_slice($argv, 1) as $name) judge_file($name);
 // The workers are no functions that a page calls.
 unset($judged['calls']['set_network_ipv4'], $judged['calls']['set_network_ipv6']);
 echo json_encode($judged);
