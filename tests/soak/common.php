@@ -51,12 +51,13 @@ function judge_files($files) {
 
 // When the log has grown, the device begins it anew and keeps the last few. While it does, one file has two names.
 function judge_log() {
-  @unlink(LOG_HELD);
   clearstatcache();
   link(LOG, LOG_HELD);
   $files = [fileinode(LOG_HELD) => LOG_HELD];
   foreach (glob(LOG . '.*') as $file) $files += [fileinode($file) => $file];
-  return judge_files($files);
+  $judged = judge_files($files);
+  unlink(LOG_HELD);
+  return $judged;
 }
 
 function found_log($judged) {

@@ -49,8 +49,10 @@ function take_logs_put_aside() {
   global $totals;
   foreach (glob(LOG . '.[1-9]') as $file) {
     clearstatcache();
-    if (@fileinode($file) == fileinode(LOG)) continue;  // is the log still, and will be no more the next time
-    if (@rename($file, LOG_HELD)) add_to($totals, judge_files([LOG_HELD]));  // else it has another number now
+    if (@fileinode($file) == fileinode(LOG)) continue;  // will be no more the next time
+    if (!@rename($file, LOG_HELD)) continue;                // has another number now
+    add_to($totals, judge_files([LOG_HELD]));
+    unlink(LOG_HELD);
   }
 }
 
