@@ -147,7 +147,10 @@ volatile std::sig_atomic_t alarms = 0;
 class Alarms {
  public:
   Alarms() { Set(1000); }
-  ~Alarms() { Set(0); }
+  ~Alarms() {
+    Set(0);
+    std::signal(SIGALRM, SIG_IGN);  // forgets one that has not been delivered yet
+  }
   Alarms(const Alarms&) = delete;
   Alarms& operator=(const Alarms&) = delete;
 
