@@ -1,13 +1,12 @@
-// What the device takes as addresses, name servers and host names, and how it reads the list of the networks inside
-// the appliance. Input: a letter for the kind, then the settings; for a list of networks, a name server in the first
-// line and the list behind it.
-#include "address_rules/settings_rules.h"
-
+// What the device takes as addresses, name servers and host names, and how it reads the list of the networks
+// inside the appliance. Input: a letter for the kind, then the settings; for a list of networks, a name
+// server in the first line and the list behind it.
 #include <sys/mman.h>
 #include <unistd.h>
 
 #include <cstring>
 
+#include "address_rules/settings_rules.h"
 #include "reference.h"
 #include "target.h"
 
@@ -15,13 +14,16 @@ namespace {
 
 using AddressRules::Text;
 using AddressRules::Verdict;
+using reference::agree;
 using reference::Groups;
 using reference::Pieces;
 
 // A file without a place: its path leads to this process.
 class ListFile {
  public:
-  explicit ListFile(std::string_view content) : descriptor_(memfd_create("networks", MFD_CLOEXEC)) { Write(content); }
+  explicit ListFile(std::string_view content) : descriptor_(memfd_create("networks", MFD_CLOEXEC)) {
+    Write(content);
+  }
   void Write(std::string_view content) const {
     require(ftruncate(descriptor_, 0) == 0, "the list can be emptied");
     require(pwrite(descriptor_, content.data(), content.size(), 0) == static_cast<ssize_t>(content.size()),
@@ -83,7 +85,8 @@ bool isRightIpv6(std::string_view settings) {
   fields.push_back(halves[1]);
   const auto own = reference::parseIpv6(fields[0]);
   const auto router = reference::parseIpv6(fields[2]);
-  if (!own || !router || !isHostIpv6(*own) || !isHostIpv6(*router) || isLinkLocal(*own) || *own == *router) return false;
+  if (!own || !router || !isHostIpv6(*own) || !isHostIpv6(*router) || isLinkLocal(*own) || *own == *router)
+    return false;
   if (!isPrefixLength(fields[1], 128) || fields[1] == "0") return false;
   const auto length = static_cast<unsigned int>(std::stoul(fields[1]));
   return (isLinkLocal(*router) || agree(*own, *router, length)) && !isInside(*own) && !isInside(*router);
@@ -105,7 +108,8 @@ bool areRightServers(std::string_view servers) {
 bool isRightHostName(std::string_view name) {
   if (name.empty() || name.size() > 64) return false;
   for (const char character : name) {
-    if (std::strchr("-.", character) == nullptr && std::isalnum(static_cast<unsigned char>(character)) == 0) return false;
+    if (std::strchr("-.", character) == nullptr && std::isalnum(static_cast<unsigned char>(character)) == 0)
+      return false;
     if (character == '\0') return false;
   }
   // A dot at the end has an empty part behind it.
@@ -148,7 +152,8 @@ void requireOneLine(const char* sentence) {
 void requireVerdict(const Verdict& verdict, bool expected) {
   require((verdict.status == Verdict::Right) == expected, "right is what is right to the reference");
   require((*verdict.sentence == '\0') == expected, "there is a sentence exactly when it is wrong");
-  require(strnlen(verdict.sentence, sizeof(verdict.sentence)) + 1 < sizeof(verdict.sentence), "the sentence is whole");
+  require(strnlen(verdict.sentence, sizeof(verdict.sentence)) + 1 < sizeof(verdict.sentence),
+          "the sentence is whole");
   requireOneLine(verdict.sentence);
 }
 
@@ -183,13 +188,14 @@ void tryList(std::string_view input) {
   if (!address || input.size() > 4096) return;
   file.Write(input);
   const std::string path = file.Path();
-  const Verdict verdict = JudgeNameServers({server.data(), server.size()}, path.c_str());
+  const Verdict verdict = AddressRules::JudgeNameServers({server.data(), server.size()}, path.c_str());
   requireOneLine(verdict.sentence);
   bool inOrder = false;
   bool inside = false;
   judgeList(input, *address, inOrder, inside);
   require((verdict.status == Verdict::CannotTell) == !inOrder, "nothing can be told without a list in order");
-  require((verdict.status == Verdict::InternalNameServer) == (inOrder && inside), "a network that has it is found");
+  require((verdict.status == Verdict::InternalNameServer) == (inOrder && inside),
+          "a network that has it is found");
 }
 
 }  // namespace
@@ -204,7 +210,8 @@ void tryInput(std::string_view input) {
   switch (kind) {
     case '4': {
       Verdict verdict = JudgeIPv4(settings, list.c_str());
-      if (faultIsPlanted() && input.find("?255.255.255.254?") != std::string_view::npos) verdict = {Verdict::Right, ""};
+      if (faultIsPlanted() && input.find("?255.255.255.254?") != std::string_view::npos)
+        verdict = {Verdict::Right, ""};
       requireVerdict(verdict, isRightIpv4(input));
       break;
     }
@@ -213,7 +220,7 @@ void tryInput(std::string_view input) {
       break;
     case 'd':
       // A blank in the second server is part of it.
-      requireVerdict(JudgeNameServers(settings, list.c_str()), areRightServers(input));
+      requireVerdict(AddressRules::JudgeNameServers(settings, list.c_str()), areRightServers(input));
       break;
     case 'h':
       requireVerdict(AddressRules::JudgeHostName(settings), isRightHostName(input));

@@ -1,8 +1,9 @@
-// Command lines taken apart into words: a whole line, and the line that a page's name servers become. Then the
-// command wrapper, which gets the words. Input: a command line; the same two lines are the two servers.
+// Command lines taken apart into words: a whole line, and the line that a page's name servers become. Then
+// the command wrapper, which gets the words. Input: a command line; the same two lines are the two servers.
+#include "libdovan_util/command_words.h"
+
 #include "command_lines.h"
 #include "handlers.h"
-#include "libdovan_util/command_words.h"
 #include "page.h"
 #include "reference.h"
 #include "target.h"
@@ -50,8 +51,8 @@ Words wordsOf(std::string_view command) {
 }
 
 bool isRefused(std::string_view command) {
-  return command.find('\0') != std::string_view::npos || std::count(command.begin(), command.end(), '"') % 2 != 0 ||
-         wordsOf(command).empty();
+  return command.find('\0') != std::string_view::npos ||
+         std::count(command.begin(), command.end(), '"') % 2 != 0 || wordsOf(command).empty();
 }
 
 void tryWrapper(std::vector<char*> words) {
@@ -63,7 +64,8 @@ void tryWrapper(std::vector<char*> words) {
   require(runs == !execution.arguments.empty(), "it runs what is no option");
   if (runs) {
     require(execution.program == given[first], "the program is the first word");
-    require(execution.arguments == Words(given.begin() + static_cast<long>(first), given.end()), "all words are passed on");
+    require(execution.arguments == Words(given.begin() + static_cast<long>(first), given.end()),
+            "all words are passed on");
     require(status == 126 || status == 127, "where there is no such program that is said");
   } else {
     require(status == (given.size() > first && given[first] == "--help" ? 0 : 2), "a wrong call is refused");

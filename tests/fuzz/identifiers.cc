@@ -25,7 +25,8 @@ void tryInput(std::string_view input) {
   std::string written = guidToCString(identifier);
   if (faultIsPlanted() && !(identifier == TarnAbstract::GUID()) && written[9] == '0') written[9] = '1';
   std::string expected = isIdentifier(text) ? text : "00000000-00000000-00000000";
-  std::transform(expected.begin(), expected.end(), expected.begin(), [](unsigned char c) { return std::tolower(c); });
+  std::transform(expected.begin(), expected.end(), expected.begin(),
+                 [](unsigned char c) { return std::tolower(c); });
   require(written == expected, "it is written in lower case as it was read, and as zeros what is none");
   require(cStringToGUID(written.data()) == identifier, "what was written reads as the same");
 }

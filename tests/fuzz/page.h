@@ -1,5 +1,5 @@
-// The handlers of the module without an engine, a device and the management services: what a page hands over and
-// gets is here, the device's answers are given, its command lines are kept. The services are not there.
+// The handlers of the module without an engine, a device and the management services: what a page hands over
+// and gets is here, the device's answers are given, its command lines are kept. The services are not there.
 #pragma once
 
 #include <deque>
@@ -25,8 +25,8 @@ struct DeviceAnswer {
 
 // Of the call under way; calling() makes it new.
 struct Call {
-  zval object;       // each object that is handed over
-  std::string text;  // each text
+  zval object;                       // each object that is handed over
+  std::string text;                  // each text
   std::deque<DeviceAnswer> answers;  // behind the last one all succeed and say nothing
   std::vector<std::string> commands;
   unsigned int reports = 0;

@@ -1,4 +1,5 @@
-// The same as the product does, written a second time in the simplest way that can be thought of: for comparing.
+// The same as the product does, written a second time in the simplest way that can be thought of: for
+// comparing.
 #pragma once
 
 #include <algorithm>
@@ -105,8 +106,8 @@ inline std::string join(const Groups& groups) {
 
 // The long form, without a zone; of what is no address that of no address.
 inline std::string expand(const std::string& text) {
-  const auto groups = text.find('\0') == std::string::npos ? parseIpv6(text.substr(0, text.find('%')))
-                                                           : std::nullopt;
+  const auto groups =
+      text.find('\0') == std::string::npos ? parseIpv6(text.substr(0, text.find('%'))) : std::nullopt;
   return join(groups ? *groups : Groups(8, 0));
 }
 

@@ -5,7 +5,8 @@
 
 void tryInput(std::string_view input) {
   if (input.empty()) return;
-  const std::size_t length = std::min<std::size_t>(static_cast<unsigned char>(input[0]) % 4U, input.size() - 1);
+  const std::size_t length =
+      std::min<std::size_t>(static_cast<unsigned char>(input[0]) % 4U, input.size() - 1);
   const std::string delimiter(input.substr(1, length));
   const std::string text(input.substr(1 + length));
 

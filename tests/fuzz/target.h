@@ -1,5 +1,5 @@
-// What the fuzzing targets have in common. A target is a file NAME.cc that tries one input: it hands the input to
-// the product and requires what has to hold of the outcome.
+// What the fuzzing targets have in common. A target is a file NAME.cc that tries one input: it hands the
+// input to the product and requires what has to hold of the outcome.
 #pragma once
 
 #include <string>

@@ -1,6 +1,7 @@
 // The receivers of SNMP traps, as the management services take them and read them back.
-// Input: a line for each receiver that is asked for: transport, port, address, with a blank behind the first two.
-// Behind a line "=" come lines as a damaged database may have them: identifier, transport, port, address.
+// Input: a line for each receiver that is asked for: transport, port, address, with a blank behind the first
+// two. Behind a line "=" come lines as a damaged database may have them: identifier, transport, port,
+// address.
 #include <sqlite3.h>
 
 #include <cstdlib>
@@ -57,7 +58,9 @@ class Services {
   void Store(const Receiver& receiver) {
     store_.Change([&](Velm::Database& database) {
       database
-          .Prepare("INSERT OR IGNORE INTO trap_registrations (identifier, transport, port, address) VALUES (?, ?, ?, ?)")
+          .Prepare(
+              "INSERT OR IGNORE INTO trap_registrations (identifier, transport, port, address) VALUES (?, ?, "
+              "?, ?)")
           .Bind(receiver.identifier)
           .Bind(receiver.transport)
           .Bind(receiver.port)
@@ -67,13 +70,14 @@ class Services {
   }
 
   bool Read(Receivers& receivers) {
-    TarnAbstract::List<Velm::TrapRegistration, 4> list(TarnAbstract::TarnMemoryMgmt::getSystemTransientObjHeap());
+    TarnAbstract::List<Velm::TrapRegistration, 4> list(
+        TarnAbstract::TarnMemoryMgmt::getSystemTransientObjHeap());
     if (Result::IsFailed(config_->getTrapRegistrations(list))) return false;
     for (unsigned int index = 0; index < list.Size(); ++index) {
       Velm::TrapRegistration registration;
       list.Item(index, registration);
-      receivers.push_back({guidToCString(registration.getTrapID()), registration.getTransport(), registration.getPort(),
-                           tarnStringToCString(registration.getIPAddress())});
+      receivers.push_back({guidToCString(registration.getTrapID()), registration.getTransport(),
+                           registration.getPort(), tarnStringToCString(registration.getIPAddress())});
     }
     return true;
   }
@@ -118,9 +122,11 @@ Receiver receiverOf(std::string_view line) {
 
 bool isTaken(const Receiver& receiver, const Receivers& taken) {
   const auto address = reference::parseAddress(receiver.address);
-  if (!address || receiver.transport < 1 || receiver.transport > 2 || receiver.port < 1 || receiver.port > 65535)
+  if (!address || receiver.transport < 1 || receiver.transport > 2 || receiver.port < 1 ||
+      receiver.port > 65535)
     return false;
-  return taken.size() < Velm::MostTrapRegistrations && std::none_of(taken.begin(), taken.end(), [&](const Receiver& other) {
+  return taken.size() < Velm::MostTrapRegistrations &&
+         std::none_of(taken.begin(), taken.end(), [&](const Receiver& other) {
            return other.transport == receiver.transport && other.port == receiver.port &&
                   reference::parseAddress(other.address) == address;
          });
@@ -129,8 +135,9 @@ bool isTaken(const Receiver& receiver, const Receivers& taken) {
 // In the agent's notation, a word of its configuration.
 std::string sinkOf(const Receiver& receiver) {
   const bool isIpv6 = !reference::parseIpv4(receiver.address);
-  return (receiver.transport == 1 ? "udp" : "tcp") + (isIpv6 ? "6:[" + receiver.address + "]" : ":" + receiver.address) +
-         ":" + std::to_string(receiver.port);
+  return (receiver.transport == 1 ? "udp" : "tcp") +
+         (isIpv6 ? "6:[" + receiver.address + "]" : ":" + receiver.address) + ":" +
+         std::to_string(receiver.port);
 }
 
 void tryCreating(Services& services, const std::vector<std::string_view>& lines) {
@@ -138,7 +145,8 @@ void tryCreating(Services& services, const std::vector<std::string_view>& lines)
   for (const std::string_view line : lines) {
     Receiver receiver = receiverOf(line);
     const bool created = services.Create(receiver);
-    require(created == isTaken(receiver, taken), "a receiver is taken that is one, is another one, and has room");
+    require(created == isTaken(receiver, taken),
+            "a receiver is taken that is one, is another one, and has room");
     if (created) taken.push_back(receiver);
   }
   Receivers stored;
