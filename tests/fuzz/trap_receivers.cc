@@ -23,7 +23,8 @@ namespace {
 
 using TarnAbstract::Result;
 
-constexpr std::size_t MostLines = 24;  // more than there can be receivers
+constexpr std::size_t MostLines = 6;
+constexpr unsigned int NearlyAll = Velm::MostTrapRegistrations - 3;
 
 struct Receiver {
   std::string identifier;
@@ -43,6 +44,21 @@ class Services {
 
   void Empty() { Run("DELETE FROM trap_registrations; DELETE FROM audit"); }
 
+  // With so many that there is room for few others.
+  Receivers Fill() {
+    Receivers receivers;
+    for (std::uint32_t port = 1; port <= NearlyAll; ++port) {
+      char identifier[] = "0000000f-0000000f-00000000";
+      identifier[sizeof(identifier) - 2] += static_cast<char>(port % 10);
+      identifier[sizeof(identifier) - 3] += static_cast<char>(port / 10);
+      receivers.push_back({identifier, 1, port, "::1"});
+    }
+    store_.Change([&](Velm::Database& database) {
+      for (const Receiver& receiver : receivers) Insert(database, receiver);
+    });
+    return receivers;
+  }
+
   // Whether it was taken; then it has its identifier.
   bool Create(Receiver& receiver) {
     Velm::TrapRegistration registration;
@@ -56,17 +72,7 @@ class Services {
   }
 
   void Store(const Receiver& receiver) {
-    store_.Change([&](Velm::Database& database) {
-      database
-          .Prepare(
-              "INSERT OR IGNORE INTO trap_registrations (identifier, transport, port, address) VALUES (?, ?, "
-              "?, ?)")
-          .Bind(receiver.identifier)
-          .Bind(receiver.transport)
-          .Bind(receiver.port)
-          .Bind(receiver.address)
-          .Step();
-    });
+    store_.Change([&](Velm::Database& database) { Insert(database, receiver); });
   }
 
   bool Read(Receivers& receivers) {
@@ -98,6 +104,17 @@ class Services {
   }
 
  private:
+  static void Insert(Velm::Database& database, const Receiver& receiver) {
+    database
+        .Prepare(
+            "INSERT OR IGNORE INTO trap_registrations (identifier, transport, port, address) VALUES (?, ?, "
+            "?, ?)")
+        .Bind(receiver.identifier)
+        .Bind(receiver.transport)
+        .Bind(receiver.port)
+        .Bind(receiver.address)
+        .Step();
+  }
   void Run(const char* commands) {
     store_.Change([&](Velm::Database& database) { database.Run(commands); });
   }
@@ -140,8 +157,8 @@ std::string sinkOf(const Receiver& receiver) {
          std::to_string(receiver.port);
 }
 
-void tryCreating(Services& services, const std::vector<std::string_view>& lines) {
-  Receivers taken;
+// Begins with the receivers that are there.
+void tryCreating(Services& services, Receivers taken, const std::vector<std::string_view>& lines) {
   for (const std::string_view line : lines) {
     Receiver receiver = receiverOf(line);
     const bool created = services.Create(receiver);
@@ -191,6 +208,11 @@ void tryReading(Services& services, const std::vector<std::string_view>& lines) 
 void tryInput(std::string_view input) {
   static auto* const services = new Services;
   services->Empty();
+  Receivers there;
+  if (!input.empty() && input[0] == '+') {
+    there = services->Fill();
+    takeLine(input);
+  }
   std::vector<std::string_view> asked;
   std::vector<std::string_view> damaged;
   auto* lines = &asked;
@@ -202,6 +224,6 @@ void tryInput(std::string_view input) {
       lines->push_back(line);
     }
   }
-  tryCreating(*services, asked);
+  tryCreating(*services, there, asked);
   tryReading(*services, damaged);
 }
