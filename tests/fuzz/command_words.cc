@@ -83,7 +83,7 @@ void tryCommand(std::string_view text) {
   }
   require(words.back() == nullptr, "the words have an end");
   Words found(words.begin(), words.end() - 1);
-  if (faultIsPlanted() && text.find("\"\"") != std::string_view::npos && found.size() > 2) found.pop_back();
+  if (faultIsPlanted() && text.substr(text.size() - 1) == " " && found.size() > 2) found.pop_back();
   require(found == wordsOf(text), "the words are the reference's");
   tryWrapper(words);
 }

@@ -14,7 +14,7 @@ bool expand(const std::string& text, std::string& full) {
   bool valid = ValidateIPv6address().convertToFullAddress(text, groups);
   require(groups.size() == 9 && groups.front() == "first", "eight groups are appended");
   groups.erase(groups.begin());
-  if (faultIsPlanted() && valid && text.find("::") != std::string::npos) groups.back() += '0';
+  if (faultIsPlanted() && valid && groups.front() == "1") groups.back() += '0';
   full = StringUtilities::listToString(groups, ":");
   return valid;
 }

@@ -14,7 +14,8 @@ void tryInput(std::string_view input) {
   StringUtilities::getDelimetedList(pieces, text, delimiter);
   require(pieces.front() == "first", "what the list holds stays");
   pieces.erase(pieces.begin());
-  if (faultIsPlanted() && text.find(delimiter + delimiter) != std::string::npos) pieces.pop_back();
+  // A delimiter at the end has an empty piece behind it.
+  if (faultIsPlanted() && pieces.size() > 2 && pieces.back().empty()) pieces.pop_back();
 
   require(pieces.empty() == text.empty(), "the empty text alone has no pieces");
   if (length == 1) require(pieces == reference::split(text, delimiter[0]), "the pieces are the reference's");

@@ -168,7 +168,7 @@ void tryCreating(Services& services, Receivers taken, const std::vector<std::str
   }
   Receivers stored;
   require(services.Read(stored), "what was taken can be read");
-  if (faultIsPlanted() && stored.size() > 1) stored[1].port ^= 1U;
+  if (faultIsPlanted() && stored.size() == 3) stored[1].port ^= 1U;
   require(stored == taken, "the receivers are those that were taken, in their order");
   std::set<std::string> identifiers;
   reference::Pieces sinks;
