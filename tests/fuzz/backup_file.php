@@ -92,7 +92,9 @@ function check_values($section, $values)
 {
     $names = $GLOBALS['backup_parts'][$section]['names'];
     foreach ($values as $name => $value) {
-        must(is_string($value) && strlen($value) <= BACKUP_LINE_BYTES && !preg_match('/[\x00-\x1f\x7f?"\']/', $value),
+        // What parts fields, on the way to the device, may stand in a community alone: that goes another way.
+        $parting = $name === 'community' ? '/[\x00-\x20\x7f"\']/' : '/[\x00-\x1f\x7f"\'?]/';
+        must(is_string($value) && strlen($value) <= BACKUP_LINE_BYTES && !preg_match($parting, $value),
             'a value has no character that would part it');
         must($section == 'traps' || isset($names[$name]), 'a name is one of the section');
         must(!isset($names[$name]['values']) || in_array($value, $names[$name]['values'], true), 'a value is one of those that it can have');
