@@ -45,10 +45,20 @@ install_missing_packages() {
       return 1
     }
     as_root=(sudo)
+    agree_to_installation || return
   fi
   echo "Installing Debian packages: ${missing[*]}" >&2
   # The list of packages has a lock of its own that nothing waits for.
   ${as_root[@]+"${as_root[@]}"} flock /var/lib/apt bash "$1/tools/install_switched_off" "${missing[@]}" >&2
+}
+
+# Whoever has no rights on the machine by themselves is asked before it changes, where there is somebody to ask.
+agree_to_installation() {
+  local answer=''
+  [[ -t 0 && -t 2 ]] || return 0
+  echo "These Debian packages are missing: ${missing[*]}" >&2
+  read -r -p 'Install them with sudo? [y/N] ' answer
+  [[ $answer == [yY]* ]] || { echo 'Nothing was installed.' >&2 && return 1; }
 }
 
 # By every name that they go by.

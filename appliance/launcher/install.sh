@@ -6,14 +6,19 @@ LIBRARY=$EMBEDDED/library
 APP_MANAGER=$LIBRARY/AppManager
 CORE_SERVICE=$LIBRARY/CoreService
 WEB_SERVER=$LIBRARY/HTTPService/lighttpd
+PAGES_DATA=$LIBRARY/HTTPService/dat # what the pages keep: accounts, sessions, changes under way
 PAGES_FOLDERS=(htdocs shared templates errors) # the document root, what its pages share, and the web server's own
 ELSEWHERE=testTrapRegistration.sh # the one script that the device keeps in $LIBRARY
 IN_PLACE=$APP_MANAGER/dat/in-place # tells the device scripts to leave the interfaces alone
 APP_RUN=/run/appmanager
 WEB_RUN=$APP_RUN/web
+PHP_RUN=$APP_RUN/php
+DOOR=$APP_RUN/door # through which the web service has the device scripts run
 COMMAND_WRAPPER=/usr/bin/cmdwrap
 MODULE_FILES=(network.so libTarn.so libVelm.so libdovan_util.so)
-BUILT_FILES=(cmdwrap checkSettings management_database "${MODULE_FILES[@]}") # all that is taken from the build folder
+APP_MANAGER_PROGRAMS=(checkSettings cmdwrapd connectionLimits)
+# All that is taken from the build folder:
+BUILT_FILES=(cmdwrap management_database "${APP_MANAGER_PROGRAMS[@]}" "${MODULE_FILES[@]}")
 MODULE_CONFIGURATION=50-network.ini # in the folders that the interpreters read settings from
 
 # Sets PHP_EXTENSION_DIR, and PHP_CONFIGURATION_DIRS of the command line and of the web service; returns 1 after one
@@ -46,7 +51,7 @@ install_program() {
   done
   mkdir -p "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat} "$root$WEB_SERVER"/{conf/extra,logs} &&
     mkdir -p "${PAGES_FOLDERS[@]/#/$root$WEB_SERVER/}" &&
-    install_changed 755 "$root$APP_MANAGER/bin" "${scripts[@]}" "$build/checkSettings" &&
+    install_changed 755 "$root$APP_MANAGER/bin" "${scripts[@]}" "${APP_MANAGER_PROGRAMS[@]/#/$build/}" &&
     install_changed 755 "$root$LIBRARY" "$source/appliance/device/scripts/$ELSEWHERE" &&
     install_changed 755 "$root$CORE_SERVICE/bin" "$build/management_database" &&
     install_changed 644 "$root$APP_MANAGER/etc" "$source/appliance/device/etc/internal_networks" &&

@@ -25,7 +25,7 @@ network_create() {
 
 _network_connect() {
   local folder=$1 address
-  _network_in appliance ip link set lo up && _network_in lan ip link set lo up &&
+  _network_in appliance ip link set lo up && _network_in lan ip link set lo up && _network_open_to_users &&
     _network_link eth0 lan0 00 && _network_link eth2 lan2 02 || return
   for address in "${LAN_ADDRESSES[@]}"; do
     # shellcheck disable=SC2086 # an address and its flags
@@ -33,12 +33,21 @@ _network_connect() {
   done
 }
 
+# There the web service has no rights: its ports are open to it, and ping to everybody. In a user namespace without a
+# second group there is only one that may.
+_network_open_to_users() {
+  _network_in appliance sh -c 'echo 80 >/proc/sys/net/ipv4/ip_unprivileged_port_start
+    echo 0 64999 >/proc/sys/net/ipv4/ping_group_range || echo 0 0 >/proc/sys/net/ipv4/ping_group_range' 2>/dev/null
+}
+
 network_start_lan() {
   local folder=$1 configuration=$2 error
   mkdir -p "$folder/lan.hosts" || return
   # No change of user or group: in a user namespace there is no other.
-  error=$(_network_in lan dnsmasq --conf-file="$configuration" --user=root --group= --pid-file= \
-    --dhcp-leasefile="$folder/lan.leases" --dhcp-hostsdir="$folder/lan.hosts" --log-facility="$folder/lan.log" 2>&1 </dev/null) ||
+  error=$(_network_in lan setpriv --no-new-privs --inh-caps=-all \
+    --bounding-set=-all,+net_admin,+net_raw,+net_bind_service dnsmasq --conf-file="$configuration" --user=root --group= \
+    --pid-file= --dhcp-leasefile="$folder/lan.leases" --dhcp-hostsdir="$folder/lan.hosts" \
+    --log-facility="$folder/lan.log" 2>&1 </dev/null) ||
     { echo "The LAN's services did not start: ${error##*$'\n'}" >&2; return 1; }
 }
 

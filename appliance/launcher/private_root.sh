@@ -7,7 +7,8 @@
 #       Mounts the private root on the existing directory ROOT. Each PATH (absolute, below the machine's
 #       root) is made writable also where the machine's owner of it is not mapped in the caller's user
 #       namespace: a file by copying it, anything else as a directory, created when it is missing.
-#       /etc, /home, /usr/bin, /var/lib and /var/tmp always are.
+#       /etc, /usr/bin, /var/lib and /var/tmp always are. The machine's secrets are not there: /home and /root start empty,
+#       and the files of passwords and keys in /etc are missing.
 #       /tmp, /run and /dev/shm start empty; /proc and /sys are those of the caller's namespaces.
 #   private_root_share ROOT PATH
 #       Makes the machine's own PATH (a directory) appear at its place in ROOT: what is written there
@@ -27,7 +28,7 @@ private_root_create() {
   mkdir "$layers" && mount -t tmpfs -o mode=700 private-layers "$layers" || return
   mkdir "$layers/upper" "$layers/work" || return
   local path
-  for path in /etc /home /usr/bin /var/lib /var/tmp "$@"; do
+  for path in /etc /usr/bin /var/lib /var/tmp "$@"; do
     _private_root_prepare "$layers/upper" "$path" || return
   done
   chmod 1777 "$layers/upper/var/tmp" || return
@@ -36,14 +37,24 @@ private_root_create() {
   shopt -s dotglob nullglob
   for entry in /*; do
     case $entry in
-      /proc | /sys | /dev | /run | /tmp) ;;
+      /proc | /sys | /dev | /run | /tmp | /home | /root) ;;
       *) _private_root_place "$root" "$layers" "$entry" || return ;;
     esac
   done
   shopt -u dotglob nullglob
   umount "$layers" && rmdir "$layers" || return
-  mkdir -p "$root"/{proc,sys,dev,run/lock,tmp} && chmod 1777 "$root/tmp" "$root/run/lock" || return
+  _private_root_hide "$root" || return
+  mkdir -p "$root"/{proc,sys,dev,home,root,run/lock,tmp} && chmod 1777 "$root/tmp" "$root/run/lock" || return
   _private_root_kernel_views "$root" && _private_root_devices "$root/dev"
+}
+
+# Where the caller is no root of the machine's, what cannot be removed is what it cannot read either.
+_private_root_hide() {
+  local root=$1 secret
+  for secret in /etc/{shadow,gshadow}{,-} /etc/security/opasswd /etc/ssl/private /etc/ssh; do
+    rm -rf "${root:?}$secret" 2>/dev/null || ! _private_root_has_all_users ||
+      { echo "The machine's $secret cannot be left out of the private root" >&2 && return 1; }
+  done
 }
 
 private_root_share() {
@@ -103,7 +114,7 @@ _private_root_place_directory() {
     local entry
     for entry in "$path"/*; do _private_root_place "$root" "$layers" "$entry" || return; done
     [[ ! -d $layers/upper$path ]] || _private_root_complete "$layers/upper$path" "$root$path"
-  elif [[ $path == /usr || $path == /etc || $path == /home ]]; then
+  elif [[ $path == /usr || $path == /etc ]]; then
     echo "The kernel refuses an overlay of $path, which the private root needs: ${error##*: }" >&2
     return 1
   else

@@ -89,7 +89,7 @@ expect_readings() {
 }
 
 await_agreement() {
-  local deadline=$((SECONDS + 12)) said
+  local deadline=$((SECONDS + 60)) said
   until said=$(agrees "$1"); do
     ((SECONDS < deadline)) || fail "$said"
     sleep 0.1

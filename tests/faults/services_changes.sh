@@ -77,7 +77,7 @@ power_off() {
   pkill -KILL -f '/bin/webServer.sh '
   pkill -KILL -x lighttpd
   pkill -KILL -x snmpd
-  rm -f /run/appmanager/snmpd.* /run/appmanager/web/lighttpd.pid /run/appmanager/web_mode.lock
+  rm -f /run/appmanager/snmpd.* /run/appmanager/web/lighttpd.pid /run/appmanager/webServer.pid /run/appmanager/web_mode.lock
 }
 
 # As run_services does it.

@@ -5,8 +5,8 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const http = require('node:http');
-const {addresses, applianceFolder, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until,
-  withScript} = require('./appliance.cjs');
+const {addresses, applianceFolder, ask, inAppliance, ipv4Address, ipv4ChangesOver, php, until, withScript,
+  writeAsPages} = require('./appliance.cjs');
 const {base, enterPassword, messages, open, press, sessionCookie, signIn, test} = require('./browser.cjs');
 
 async function fillStatic(page, ip, gateway = '10.20.0.1') {
@@ -34,7 +34,7 @@ function timeIsOver() {
   const path = `${applianceFolder}/HTTPService/dat/trial`;
   const change = fs.readFileSync(path, 'utf8');
   const [, began] = change.match(/"began";i:(\d+);/);
-  fs.writeFileSync(path, change.replace(began, String(began - 45)));
+  writeAsPages(path, change.replace(began, String(began - 45)));
 }
 
 // As without a page: for the state a test begins with.
@@ -60,7 +60,7 @@ test('From DHCP to a static address: the page follows to the new address and say
   assert.deepEqual((await rows(page)).slice(0, 2).map((row) => row.replace(/\d+\.\d+\.\d+\.1\d\d/, 'lease')),
     ['Obtained by|Static|DHCP|Not yet', 'Address|10.20.0.7|lease|Not yet']);
   assert.equal(await page.getAttribute('.message a', 'href'), 'http://10.20.0.7/applying.php', 'without the key');
-  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 60000});
   assert.deepEqual(addresses('inet'), ['10.20.0.7/24']);
   assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.1 /);
   assert.equal(await page.innerText('h1'), 'Applied');
@@ -78,7 +78,7 @@ test('A change that leaves the address alone is applied while one watches', {}, 
   await apply(page);
   assert.match(await page.title(), /^Applying/);
   assert.equal(await page.locator('.message a').count(), 0, 'there is no other address to go to');
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   assert.match(await page.innerText('#outcome'), /^The settings are in force\./);
   assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.2 /);
   await page.reload();
@@ -90,7 +90,7 @@ test('Without scripts the page goes to the new address too, to sign in there', {
   await fillStatic(page, '10.20.0.8');
   await apply(page);
   assert.equal(await page.innerText('h1'), 'Applying');
-  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 60000});
   await enterPassword(page);
   assert.equal(await page.innerText('h1'), 'Applied');
 });
@@ -99,7 +99,7 @@ test('Without scripts a change is watched as well', {javaScriptEnabled: false}, 
   await signIn(page);
   await fillStatic(page, ipv4Address(), '10.20.0.3');
   await apply(page);
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   await setStatic(ipv4Address());
   await ipv4ChangesOver();
 });
@@ -109,7 +109,7 @@ test('A change that fails: the old values are marked, and the trace log says why
   await withScript('ipv4Manager.sh', 'case "$*" in "-c -s "*) exit 2 ;; *) exec sh "$ORIGINAL" "$@" ;; esac', async () => {
     await fillStatic(page, '10.20.0.9');
     await apply(page);
-    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 20000});
+    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 60000});
     await ipv4ChangesOver();
   });
   const now = ipv4Address();
@@ -132,7 +132,7 @@ test('What only reads as wanted is not yet applied, and a change that fails at i
     await apply(page);
     await until(async () => (await rows(page))[3] === 'Gateway|10.20.0.2|10.20.0.2|As wanted', 'the stored gateway');
     assert.equal(await page.innerText('h1'), 'Applying');
-    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 20000});
+    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 60000});
   });
   assert.equal((await rows(page))[3], 'Gateway|10.20.0.2|10.20.0.1|Old value');
   const why = await page.innerText('pre');
@@ -148,7 +148,7 @@ test('The page goes to the new address also when the old one answers for some ti
   await withScript('ipv4Manager.sh', `case "$*" in "-c -s "*) ${slow} ;; *) exec sh "$ORIGINAL" "$@" ;; esac`, async () => {
     await fillStatic(page, '10.20.0.9');
     await apply(page);
-    await page.waitForURL('http://10.20.0.9/applying.php', {timeout: 30000});
+    await page.waitForURL('http://10.20.0.9/applying.php', {timeout: 60000});
   });
   await setStatic('10.20.0.8');
 });
@@ -210,8 +210,8 @@ test('Back to DHCP: the page finds the appliance again where it was with DHCP be
   await page.selectOption('#trial', '0');
   await apply(page);
   assert.deepEqual(await rows(page), ['Obtained by|DHCP|Static|Not yet', `Address|From the DHCP server|${old}|Not yet`]);
-  const lease = await until(() => ask('ipv4Manager.sh', '-d', 'status').match(/^(10\.20\.0\.1\d\d)\?/), 'a lease', 30);
-  await page.waitForURL(`http://${lease[1]}/applying.php`, {timeout: 30000});
+  const lease = await until(() => ask('ipv4Manager.sh', '-d', 'status').match(/^(10\.20\.0\.1\d\d)\?/), 'a lease');
+  await page.waitForURL(`http://${lease[1]}/applying.php`, {timeout: 60000});
   await page.waitForSelector('h1:text-is("Applied")');
   assert.deepEqual(await rows(page), ['Obtained by|DHCP|DHCP|As wanted', `Address|From the DHCP server|${lease[1]}|As wanted`]);
 });
@@ -225,7 +225,7 @@ test('A static IPv6 address comes and goes, and the others stay', {user: 'admin'
   await page.fill('#gateway', '2001:db8:20::1');
   await page.selectOption('#trial', '0');
   await apply(page);
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   assert.deepEqual((await rows(page))[1], 'Address|2001:DB8:20:0:0::7|2001:db8:20::7|As wanted');
   await until(() => addresses('inet6').includes('2001:db8:20::7/64'), 'the static address');
   await page.click('text=Back to the settings');
@@ -235,7 +235,7 @@ test('A static IPv6 address comes and goes, and the others stay', {user: 'admin'
   await page.uncheck('#static');
   await page.selectOption('#trial', '0');
   await apply(page);
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   assert.ok(!addresses('inet6').includes('2001:db8:20::7/64'));
   assert.equal(ask('ipv6Manager.sh', '-g', 'static'), '');
 });
@@ -248,7 +248,7 @@ test('A static IPv6 address that the appliance refuses', {user: 'admin'}, async 
     await page.fill('#gateway', 'fe80::1');
   await page.selectOption('#trial', '0');
   await apply(page);
-    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 20000});
+    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 60000});
   });
   assert.match(await page.innerText('pre'), /Failed to enable static IPv6 address: :<\d+>/);
   php('set_ipv6_enabled($session, false);');
@@ -265,9 +265,9 @@ test('From one static IPv6 address to another: the page follows', {}, async (pag
   await withScript('ipv6Manager.sh', 'case "$*" in "-c -s "*) sleep 2 ;; esac; exec sh "$ORIGINAL" "$@"', async () => {
   await page.selectOption('#trial', '0');
   await apply(page);
-    await page.waitForURL('http://[2001:db8:20::8]/applying.php', {timeout: 30000});
+    await page.waitForURL('http://[2001:db8:20::8]/applying.php', {timeout: 60000});
   });
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   assert.deepEqual(await rows(page), ['Address|2001:db8:20::8|2001:db8:20::8|As wanted', 'In use|Yes|Yes|As wanted']);
   ask('ipv6Manager.sh', '-r');
   php('set_ipv6_enabled($session, false);');
@@ -281,7 +281,7 @@ test('A static IPv6 address while IPv6 is off is stored, and said to be no more 
   await page.fill('#gateway', '2001:db8:20::1');
   await page.selectOption('#trial', '0');
   await apply(page);
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   assert.match(await page.innerText('#outcome'), /They come into force when IPv6 is switched on/);
   assert.equal(await page.locator('main a[href*="2001"]').count(), 0);
   ask('ipv6Manager.sh', '-r');

@@ -3,6 +3,7 @@
 
 const {execFileSync, spawn} = require('node:child_process');
 const fs = require('node:fs');
+const path = require('node:path');
 
 const applianceFolder = '/home/embedded/library';
 const web = `${applianceFolder}/HTTPService/lighttpd`;
@@ -14,9 +15,12 @@ function fromLan(...command) {
   return execFileSync(command[0], command.slice(1), {encoding: 'utf8', stdio: ['ignore', 'pipe', 'pipe']}).trim();
 }
 
+// Runs a program as the interpreter of the pages does: with its user, and no rights.
+const asPages = ['sh', `${applianceFolder}/AppManager/bin/asUser.sh`, 'pages'];
+
 // In the appliance's network; this process is on the LAN.
 function inAppliance(...command) {
-  return fromLan('nsenter', '--net=/run/appliance/appliance.net', '--', ...command);
+  return fromLan('nsenter', '--net=/run/appliance/appliance.net', '--', ...command[0] === 'php' ? asPages : [], ...command);
 }
 
 function addresses(family) {
@@ -48,7 +52,7 @@ function errorLog() {
 }
 
 // Resolves as soon as the condition holds; what it may wait for has no event to be told by.
-async function until(condition, what, seconds = 20) {
+async function until(condition, what, seconds = 60) {
   const end = Date.now() + seconds * 1000;
   for (;;) {
     const value = await condition();
@@ -65,18 +69,28 @@ function ipv4ChangesOver() {
     === times(/Leaving set_network_ipv4|Could not set library hostname:<0>|Could not set network settings/g), 'the changes of IPv4');
 }
 
+// Writes a file that is the pages' as they would have written it: this process is root's.
+function writeAsPages(file, text, options) {
+  fs.writeFileSync(file, text, options);
+  const folder = fs.statSync(path.dirname(file));
+  fs.chownSync(file, folder.uid, folder.gid);
+}
+
 // Puts another script in the place of a device script while the work is done; $ORIGINAL is that script.
 async function withScript(name, text, work) {
   // One of them lies elsewhere.
-  const path = [`${applianceFolder}/AppManager/bin/${name}`, `${applianceFolder}/${name}`].find((place) => fs.existsSync(place));
-  const original = fs.readFileSync(path);
-  fs.writeFileSync(`${path}.original.sh`, original, {mode: 0o755});
-  fs.writeFileSync(path, `#!/bin/sh\nORIGINAL=${path}.original.sh\n${text}\n`);
+  const place = [`${applianceFolder}/AppManager/bin/${name}`, `${applianceFolder}/${name}`].find((one) => fs.existsSync(one));
+  const original = fs.readFileSync(place);
+  fs.writeFileSync(`${place}.original.sh`, original, {mode: 0o755});
+  // One that needs root's rights gets them under its own name only.
+  const rights = original.includes('\nbehind_the_door ')
+    ? '[ -n "${BEHIND_THE_DOOR-}" ] || [ ! -S /run/appmanager/door ] || exec /usr/bin/cmdwrap /bin/sh "$0" "$@"\n' : '';
+  fs.writeFileSync(place, `#!/bin/sh\n${rights}ORIGINAL=${place}.original.sh\n${text}\n`);
   try {
     await work();
   } finally {
-    fs.writeFileSync(path, original);
-    fs.unlinkSync(`${path}.original.sh`);
+    fs.writeFileSync(place, original);
+    fs.unlinkSync(`${place}.original.sh`);
   }
 }
 
@@ -93,5 +107,5 @@ async function datagramsTo(port, work) {
   }
 }
 
-module.exports = {accounts, addresses, applianceFolder, ask, datagramsTo, errorLog, fromLan, inAppliance, ipv4Address,
-  ipv4ChangesOver, php, traceLog, until, web, withScript};
+module.exports = {accounts, addresses, applianceFolder, asPages, ask, datagramsTo, errorLog, fromLan, inAppliance, ipv4Address,
+  ipv4ChangesOver, php, traceLog, until, web, withScript, writeAsPages};

@@ -4,8 +4,8 @@
 const assert = require('node:assert/strict');
 const {spawn} = require('node:child_process');
 const fs = require('node:fs');
-const {applianceFolder, fromLan, inAppliance, php, until, web} = require('./appliance.cjs');
-const {base, messages, open, press, sessionCookie, showCommunity, test} = require('./browser.cjs');
+const {applianceFolder, asPages, fromLan, inAppliance, php, until, web, withScript, writeAsPages} = require('./appliance.cjs');
+const {base, messages, open, press, sessionCookie, showCommunity, signIn, test} = require('./browser.cjs');
 
 const folder = `${applianceFolder}/HTTPService/dat`;
 const files = {changes: `${folder}/audit`, signIns: `${folder}/audit.sign-ins`, refused: `${folder}/audit.refused`};
@@ -157,10 +157,17 @@ auditTest('What the services say of a change by a page is in its details and now
       'by its address, which the services do not say');
   });
 
+auditTest('What another program did is there after many other operations of the services', {user: 'admin'}, async (page) => {
+  php(`create_snmp_trap_reg($session, 7, "10.20.0.201", "162"); for ($i = 0; $i < 110; $i++) create_snmp_trap_reg($session, 7, "10.20.0.202", "162");`);
+  const table = await (await page.request.get(`${base()}audit.php?subject=traps&user=tests`)).text();
+  assert.equal(table.match(/"Tried to add the trap receiver 10\.20\.0\.201, port 162\."/g)?.length, 1);
+  assert.equal(table.match(/"Tried to add the trap receiver 10\.20\.0\.202, port 162\."/g).length, 110);
+});
+
 auditTest('Whoever changes the agent is named, whoever was served before', {user: 'admin'}, async (page, context) => {
   const other = await context.browser().newContext();
   const monitor = await other.newPage();
-  await require('./browser.cjs').signIn(monitor, 'monitor');
+  await signIn(monitor, 'monitor');
   await open(page, 'snmp.php');
   // More often than the interpreter has processes.
   for (let i = 0; i < 12; i += 1) await open(monitor, 'traps.php');
@@ -210,19 +217,94 @@ auditTest('Refused sign-ins of one address are one line with their count, and wh
     assert.match(shown[1][1], /^Signing in was refused\. 40 times since \d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.$/);
   });
 
+auditTest('Who does not know the own password is there, for both forms of the page Account', {}, async (page) => {
+  await signIn(page, 'admin', 'account.php');
+  const good = 'horse staple battery';
+  for (const [old, next, again, button] of [['old_password', 'new_password', 'password_again', 'Change password'],
+    ['own_password', 'other_password', 'other_password_again', 'Set password']]) {
+    await page.fill(`#${old}`, 'my secret guess');
+    await page.fill(`#${next}`, good);
+    await page.fill(`#${again}`, good);
+    await press(page, button);
+  }
+  const about = 'Changing the password of';
+  const [other, own, ...more] = await rows(page, '&outcome=refused&subject=account');
+  assert.deepEqual(own, ['admin | 10.20.0.1', `${about} admin was refused.`, 'Refused | wrong own password']);
+  assert.deepEqual(other.slice(0, 2), ['admin | 10.20.0.1', `${about} monitor was refused.`]);
+  assert.match(other[2], /^Refused \| (too many attempts|wrong own password)$/, 'by the time that has passed');
+  assert.deepEqual(more, []);
+  assert.doesNotMatch(fs.readFileSync(files.refused, 'utf8'), /secret/);
+});
+
+auditTest('What the role monitor was refused is there, and however often it asks pushes no change out', {user: 'monitor'}, async (page, context) => {
+  write(`write_audit('admin', '10.20.0.1', 'Set the DNS servers.', '', 'dns');`);
+  const {name, value} = await sessionCookie(context);
+  await open(page, 'account.php');
+  const token = await page.getAttribute('[name=token] >> nth=0', 'value');
+  const ask = (file, values) => fetch(base() + file, {method: 'POST', headers: {cookie: `${name}=${value}`}, redirect: 'manual',
+    body: new URLSearchParams({token, ...values})});
+  for (let i = 0; i < 3; i += 1) assert.equal((await ask('dns.php', {change: 'dns', dnsPrimary: '10.20.0.66'})).status, 403);
+  assert.equal((await ask('account.php', {change: 'other', name: 'admin'})).status, 403);
+  const shown = await rows(page, '&subject=rights');
+  assert.deepEqual(shown.map(([who, what, outcome]) => [who, what.replace(/ since .*/, ''), outcome]), [
+    ['monitor | 10.20.0.1', 'Changing the password of another account was refused.', 'Refused | the role may only look'],
+    ['monitor | 10.20.0.1', 'A request of the page "DNS" was refused. 3 times', 'Refused | the role may only look']]);
+  assert.equal(fs.readFileSync(files.changes, 'utf8').trim().split('\n').length, 1);
+});
+
+auditTest('Of a test to many receivers those that failed stand first, and what has no room is counted', {user: 'admin'}, async (page) => {
+  const receivers = Array.from({length: 20}, (_, i) => `10.20.0.${i + 1}`);
+  php(receivers.map((ip) => `create_snmp_trap_reg($session, 1, "${ip}", "162");`).join(''));
+  try {
+    const lines = receivers.map((ip) => `udp:${ip}:162 2c ${ip.endsWith('.17') ? 'refused' : 'sent'}`).reverse();
+    await withScript('testTrapResults.sh', `printf '%s\\n' "time $(date +%s)" '${lines.join("' '")}'`, async () => {
+      await open(page, 'traps.php');
+      await press(page, 'Send a test trap');
+    });
+    const [[, what]] = await rows(page);
+    const values = what.split(' | ')[1].split(', ');
+    assert.equal(values[0], 'udp:10.20.0.17:162 Refused');
+    const named = values.slice(1, -1);
+    assert.deepEqual(named, named.map((value) => value.match(/^udp:10\.20\.0\.\d+:162 Sent$/)[0]).sort(), 'whole, and in order');
+    assert.ok(named.length >= 5);
+    assert.equal(values.at(-1), `and ${20 - 1 - named.length} more`);
+  } finally {
+    php('foreach (get_snmp_trap_regs($session) as $receiver) delete_snmp_trap_reg($session, $receiver->id);');
+  }
+});
+
+auditTest('The last name that is tried hides none of those before', {user: 'admin'}, async (page) => {
+  write(`${refusedSignIn('10.20.0.6')} ${refusedSignIn('10.20.0.6')} ${refusedSignIn('10.20.0.6', 'monitor')} ${refusedSignIn('10.20.0.6', 'nobody')}
+    ${refusedSignIn('10.20.0.6')}`);
+  const shown = await rows(page, '&outcome=refused&subject=sign-in');
+  assert.deepEqual(shown.map(([who, what]) => [who, what.replace(/ since .*/, '')]), [
+    ['admin | 10.20.0.6', 'Signing in was refused. 3 times'], ['Not known | 10.20.0.6', 'Signing in was refused.'],
+    ['monitor | 10.20.0.6', 'Signing in was refused.']]);
+  assert.equal((await rows(page, '&user=admin&outcome=refused&subject=sign-in')).length, 1);
+});
+
+auditTest('A client with a whole network of IPv6 addresses pushes out nobody else\'s refused sign-ins', {user: 'admin'}, async (page) => {
+  write(`${refusedSignIn('10.20.0.6')} ${refusedSignIn('2001:db8:21::1')}
+    for ($i = 1; $i <= 700; $i++) write_audit('admin', '2001:db8:20::' . dechex($i), 'Signing in was refused.', '', 'sign-in', array(), array(),
+      'refused: wrong name or password');`);
+  const shown = await rows(page, '&outcome=refused&subject=sign-in');
+  assert.deepEqual(shown.map(([who]) => who), ['admin | 2001:db8:20::2bc', 'admin | 2001:db8:21::1', 'admin | 10.20.0.6']);
+  assert.match(shown[0][1], /^Signing in was refused\. 700 times since /);
+});
+
 auditTest('A flood of refused sign-ins from everywhere pushes no change and no sign-in out, and has its bounds', {user: 'admin'}, async (page) => {
   write(`write_audit('admin', '10.20.0.1', 'Set the DNS servers.', 'before', 'dns'); write_audit('admin', '10.20.0.1', 'Signed in.', '', 'sign-in');
-    for ($i = 0; $i < 300; $i++) { write_audit('admin', '10.21.' . (int) ($i / 200) . '.' . $i % 200, 'Signing in was refused.',
+    for ($i = 0; $i < 700; $i++) { write_audit('admin', '10.21.' . (int) ($i / 200) . '.' . $i % 200, 'Signing in was refused.',
       str_repeat('long ', 500), 'sign-in', array(), array(), 'refused: ' . str_repeat('reason ', 500)); }`);
   const text = fs.readFileSync(files.refused, 'utf8');
-  assert.equal(text.trim().split('\n').length, 200);
+  assert.equal(text.trim().split('\n').length, 600);
   assert.ok(text.split('\n').every((line) => line.length < 2048));
   assert.equal((await rows(page, '&subject=dns')).length, 1);
   assert.equal((await rows(page, '&subject=sign-in&outcome=done')).length, 1);
 });
 
 auditTest('Of the changes the newest 500 are kept, whatever stood in the file', {user: 'admin'}, async (page) => {
-  fs.writeFileSync(files.changes, Buffer.alloc(3000000, 'x'));
+  writeAsPages(files.changes, Buffer.alloc(3000000, 'x'));
   write(`for ($i = 1; $i <= 520; $i++) write_audit('admin', '10.20.0.1', 'Set the DNS servers.', "number $i", 'dns');`);
   const lines = fs.readFileSync(files.changes, 'utf8').trim().split('\n');
   assert.equal(lines.length, 500);
@@ -235,20 +317,20 @@ auditTest('Of the changes the newest 500 are kept, whatever stood in the file', 
 auditTest('Damaged lines are left out and said, and a line that was cut off swallows no other', {user: 'admin'}, async (page) => {
   write(`for ($i = 1; $i <= 3; $i++) write_audit('admin', '10.20.0.1', 'Set the DNS servers.', "number $i", 'dns');`);
   const [one, two, three] = fs.readFileSync(files.changes, 'utf8').split('\n');
-  fs.writeFileSync(files.changes, `${one}\n${two.replace('number 2', 'number 9')}\n\n\xff\x00\t\t\n${three.slice(0, -12)}`, 'latin1');
+  writeAsPages(files.changes, `${one}\n${two.replace('number 2', 'number 9')}\n\n\xff\x00\t\t\n${three.slice(0, -12)}`, 'latin1');
   write(`write_audit('admin', '10.20.0.1', 'Set the DNS servers.', 'number 4', 'dns');`);
   const shown = await rows(page, '&subject=dns');
   assert.deepEqual(shown.map(([, , outcome]) => outcome), ['Done | number 4', 'Done | number 1']);
   assert.match(await page.innerText('[aria-labelledby=audit]'), /3 lines of the audit are damaged and are left out\./);
   // What an earlier version has written is none of them.
-  fs.writeFileSync(files.changes, '1790000000\tadmin\t10.20.0.1\tIPv4 settings kept\tAddress 10.20.0.7\n');
+  writeAsPages(files.changes, '1790000000\tadmin\t10.20.0.1\tIPv4 settings kept\tAddress 10.20.0.7\n');
   assert.deepEqual(await rows(page, '&subject=other&user=admin'), [['admin | 10.20.0.1', 'IPv4 settings kept', 'Done | Address 10.20.0.7']]);
 });
 
 auditTest('Many writers at once lose no line, and one that is killed damages none but its own', {user: 'admin'}, async (page) => {
   const writer = `require '${web}/shared/page.php'; for ($i = 0; $i < 10; $i++)
     write_audit('admin', '10.20.0.1', 'Set the DNS servers.', "writer $argv[1] line $i", 'dns');`;
-  const start = (number) => spawn('php', ['-r', writer, String(number)], {stdio: 'ignore'});
+  const start = (number) => spawn(asPages[0], [...asPages.slice(1), 'php', '-r', writer, String(number)], {stdio: 'ignore'});
   await Promise.all(Array.from({length: 6}, (_, number) => new Promise((resolve) => start(number).on('exit', resolve))));
   assert.equal(new Set(fs.readFileSync(files.changes, 'utf8').match(/writer \d line \d/g)).size, 60);
   for (let round = 0; round < 10; round += 1) {
@@ -310,7 +392,7 @@ auditTest('A full disk leaves no part of a line behind, and the lines of before'
   fs.appendFileSync(files.changes, before.repeat(Math.floor(500 / before.length) - 1));
   const full = fs.readFileSync(files.changes, 'utf8');
   assert.ok(full.length <= 512 && full.length + before.length > 512);
-  const said = inAppliance('sh', '-c', `trap '' XFSZ; ulimit -f 1; exec php -r "$0"`, `require '${web}/shared/page.php';
+  const said = inAppliance(...asPages, 'sh', '-c', `trap '' XFSZ; ulimit -f 1; exec php -r "$0"`, `require '${web}/shared/page.php';
     echo write_audit('admin', '10.20.0.1', 'Set the DNS servers.', 'behind', 'dns') ? 'written' : 'not written';`);
   assert.match(said, /not written/);
   assert.equal(fs.readFileSync(files.changes, 'utf8'), full);
@@ -331,7 +413,9 @@ auditTest('The audit is downloaded as CSV, filtered, and no cell is a formula', 
   const answer = await fetch(`${base()}audit.php?subject=backup`, {headers});
   assert.match(answer.headers.get('content-type'), /^text\/csv/);
   assert.match(answer.headers.get('content-disposition'), /^attachment; filename="audit\.csv"$/);
-  const [head, second, first, ...more] = parsed(await answer.text());
+  const bytes = Buffer.from(await answer.arrayBuffer());
+  assert.equal(bytes.subarray(0, 3).toString('hex'), 'efbbbf', 'the mark of the encoding');
+  const [head, second, first, ...more] = parsed(bytes.subarray(3).toString());
   assert.deepEqual(head, ['Time (UTC)', 'User', 'From', 'Subject', 'What', 'Values', 'Outcome', 'Reason', 'How often', 'Operations']);
   assert.match(first[0], /^\d{4}-\d\d-\d\d \d\d:\d\d:\d\d$/);
   assert.deepEqual(first.slice(1), ['admin', '10.20.0.1', 'Backup', "'=1+1", 'Old -1 → @x', 'done', 'He said "no", twice', '1', '']);
@@ -339,6 +423,28 @@ auditTest('The audit is downloaded as CSV, filtered, and no cell is a formula', 
   assert.deepEqual(more, []);
   const anonymous = await fetch(`${base()}audit.php`);
   assert.match(await anonymous.text(), /action="signin\.php"/);
+});
+
+auditTest('What the audit lacks is said on the page and in the file', {user: 'admin'}, async (page) => {
+  write(`write_audit('admin', '10.20.0.1', 'Set the DNS servers.', 'kept', 'dns');`);
+  const services = 'The audit trail of the management services cannot be read: what they did without a page is missing.';
+  const own = 'What the pages have written down cannot all be read: missing are the sign-ins.';
+  const damaged = 'One line of the audit is damaged and is left out.';
+  fs.rmSync(files.signIns, {force: true});
+  fs.mkdirSync(files.signIns);
+  fs.appendFileSync(files.changes, 'damaged\n');
+  await withScript('auditTrail.sh', 'exit 1', async () => {
+    assert.equal((await rows(page, '&subject=dns')).length, 1);
+    const said = await page.innerText('[aria-labelledby=audit]');
+    const [, ...cells] = parsed(await (await page.request.get(`${base()}audit.php?subject=dns`)).text());
+    assert.deepEqual(cells.map((row) => row[4]), [services, own, damaged, 'Set the DNS servers.']);
+    assert.equal(cells[0][6], 'failed');
+    for (const sentence of [services, own, damaged]) assert.ok(said.includes(sentence), sentence);
+  });
+  fs.rmdirSync(files.signIns);
+  fs.rmSync(files.changes);
+  const [, ...cells] = parsed(await (await page.request.get(`${base()}audit.php?subject=dns`)).text());
+  assert.deepEqual(cells, [], 'what is not there yet lacks nothing');
 });
 
 auditTest('The role monitor reads the audit too', {user: 'monitor'}, async (page) => {

@@ -5,7 +5,7 @@ const assert = require('node:assert/strict');
 const {spawnSync} = require('node:child_process');
 const fs = require('node:fs');
 const path = require('node:path');
-const {applianceFolder, ask, fromLan, ipv4Address, php, traceLog, until, withScript} = require('./appliance.cjs');
+const {applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, web, withScript} = require('./appliance.cjs');
 const {accessibilityFaults, base, errorOf, messages, open, press, signIn, test} = require('./browser.cjs');
 const {answersAt, keepWhatIs, reaches, setStatic, trial} = require('./on_trial.cjs');
 
@@ -30,7 +30,12 @@ const wrongFiles = [
   [`${head}# a\rb`, {3: /control character/}],
   [`${head}# \x7f`, {3: /control character/}],
   [Buffer.from(`${head}# caf\xe9`, 'latin1'), {3: /not in UTF-8/}],
-  [Buffer.from([0xff, 0xfe, 0x5b, 0x00]), {1: /control character|UTF-8/}],
+  [Buffer.from([0xff, 0xfe, 0x5b, 0x00]), {1: /^The file is in UTF-16\. Save it as plain text in UTF-8\.$/}],
+  [Buffer.from(`\ufeff${head}`, 'utf16le').swap16(), {1: /in UTF-16/}],
+  [Buffer.from(head, 'utf16le'), {1: /in UTF-16/}],
+  [Buffer.from(head, 'utf16le').swap16(), {1: /in UTF-16/}],
+  [Buffer.from([0xff, 0xfe, 0, 0, 0x5b, 0, 0, 0]), {1: /in UTF-32/}],
+  [head.replaceAll('\n', '\r') + '[name]\rhost = a_b\r', {4: /only letters/}],
   [Buffer.from([...Buffer.from(`${head}# `), 0xc0, 0x80]), {3: /not in UTF-8/}],
   [Buffer.from([...Buffer.from(`${head}# `), 0xed, 0xa0, 0x80]), {3: /not in UTF-8/}],
   [`${head}# ${'x'.repeat(499)}`, {3: /longer than 500 bytes/}],
@@ -56,6 +61,8 @@ const wrongFiles = [
   [`${head}[name]\n= a\n`, {4: /neither a section/}],
   [`${head}[name]\nHost name = a\n`, {4: /neither a section/}],
   [`${head}[name]\n`, {3: /\[name\] lacks "host"/}],
+  ...['1e1', '010', '10.0', '+10'].map((speed) => [`${head}[port]\nautonegotiation = on\nspeed = ${speed}\nduplex = full\n`,
+    {5: /"speed" is one of: 10, 100\./}]),
   [`${head}[name]\nhost =\n`, {4: /Enter a name/}],
   [`${head}[name]\nhost = ${'a'.repeat(65)}\n`, {4: /too long: at most 64/}],
   [`${head}[name]\nhost = a_b\n`, {4: /only letters/}],
@@ -86,6 +93,15 @@ const wrongFiles = [
   [`${head}[ipv6-static]\nenabled = on\naddress = fe80::7\nprefix = 129\ngateway = ::1\n`,
     {5: /link-local/, 6: /1 to 128/, 7: /IPv6 address of the router/}],
   [`${head}[ipv6]\nenabled = 1\n`, {4: /one of: on, off/}],
+  // All that is wrong is said at once, and of each cause only what is sure.
+  [`${head}[name]\nhost = <b>x\n[port]\nautonegotiation = off\nspeed = 1000\nduplex = full\n[dns]\nprimary = 10.20.0.256\nsecondry = 10.20.0.1\n`,
+    {4: /only letters/, 7: /one of: 10, 100/, 10: /IPv4 or IPv6/, 11: /has no "secondry"/}],
+  [`${head}[nothing]\n[name]\nhost = a_b\n`, {3: /no such section/, 5: /only letters/}],
+  [`${head}[port]\nspeed = 1000\n`, {3: /lacks "autonegotiation"/, 4: /one of: 10, 100/}],
+  [`${head}[ipv4]\nmode = statik\naddress = 10.20.0.256\n`, {4: /one of: dhcp, static/}],
+  [`${head}[ipv4]\nmode = static\naddress = 10.20.0.256\n`, {3: /lacks "netmask"/, 5: /four numbers/}],
+  [`${head}[ipv6-static]\nenabled = yes\nprefix = 129\n`, {4: /one of: on, off/}],
+  [head + snmp.replace('public', 'two words').replace('traps-1 = on', 'traps-1 = yes'), {5: /without blanks/, 6: /one of: on, off/}],
   [`${head}[web]\nhttps = on\nport = 443\n`, {5: /\[web\] has no "port"/}],
 ];
 
@@ -104,6 +120,7 @@ test('What people make of a file is read all the same', {}, async () => {
     [head, {}],
     [`${head}[dns]\nprimary = 10.20.0.1\nsecondary =\n`, dns],
     [`${head}[dns]\nprimary = 10.20.0.1\nsecondary =\n`.replaceAll('\n', '\r\n'), dns],
+    [`${head}[dns]\nprimary = 10.20.0.1\nsecondary =\n`.replaceAll('\n', '\r'), dns],
     [`\ufeff# Größe: 5 µ 😀\n\n  ${head}\t[ DNS ]\n  Primary=10.20.0.1  \nSECONDARY =\n#primary = 10.20.0.2`, dns],
     [`${head}[dns]\nsecondary =\n# between\nprimary = 10.20.0.1`, dns],
     [`${head}# ${'x'.repeat(498)}\n`, {}],
@@ -166,8 +183,25 @@ async function applyOnTrial(page, text, title) {
   await choose(page, text);
   await press(page, `Apply ${title}`);
   if (await page.innerText('h1') === 'Before it is applied') await press(page, 'Apply');
-  await reaches('kept', 60);
+  await reaches('kept');
 }
+
+test('Leaving after a file was chosen asks; comparing it does not', {user: 'admin'}, async (page) => {
+  let asked = 0;
+  page.on('dialog', (dialog) => { if (dialog.type() === 'beforeunload') asked += 1; });
+  await open(page, 'backup.php');
+  await page.click('h1'); // a browser asks only where something was done
+  await open(page, 'backup.php');
+  assert.equal(asked, 0, 'nothing was chosen');
+  await page.setInputFiles('#file', {name: 'settings.txt', mimeType: 'text/plain', buffer: Buffer.from(head)});
+  await page.click('h1');
+  await open(page, 'index.php');
+  assert.equal(asked, 1);
+  asked = 0;
+  await choose(page, head);
+  assert.equal(await page.innerText('h1'), 'Compare and apply');
+  assert.equal(asked, 0, 'it is sent');
+});
 
 test('Download, change everything, upload: all is as before', {}, async (page) => {
   await setStatic('10.20.0.7');
@@ -226,7 +260,7 @@ test('Download, change everything, upload: all is as before', {}, async (page) =
   await press(page, 'Apply Automatic IPv6 addresses');
   assert.match(await messages(page), /^The sources of addresses are/);
   await applyOnTrial(page, text, 'IPv4 address');
-  await page.waitForURL(/10\.20\.0\.7/, {timeout: 30000});
+  await page.waitForURL(/10\.20\.0\.7/, {timeout: 60000});
   await page.waitForSelector('h1:text-is("Kept")');
   await answersAt('10.20.0.7');
   assert.equal(everything(), before);
@@ -261,9 +295,9 @@ test('A file with something wrong is refused at the field, with its lines, and n
   assert.match(await errorOf(page, 'file'), /^The file was refused: below/);
   assert.match(await messages(page), /^Nothing was changed/);
   assert.deepEqual(await page.locator('.wrong-lines tbody tr').allInnerTexts(),
-    ['7\tThis is neither a section, such as [dns], nor a setting, such as "primary = 10.20.0.1".']);
+    ['6\tEnter an IPv4 or IPv6 address, such as 10.20.0.1 or 2001:db8:20::1.', '7\tThis is neither a section, such as [dns], nor a setting, such as "primary = 10.20.0.1".']);
   assert.equal(audit().at(-1)[3], 'A file of settings was refused.');
-  assert.equal(audit().at(-1)[8], 'refused: line 7');
+  assert.equal(audit().at(-1)[8], 'refused: line 6');
   await choose(page, head + 'x\n'.repeat(30));
   assert.equal(await page.locator('.wrong-lines tbody tr').count(), 10);
   assert.match(await page.innerText('main'), /not listed: 20/);
@@ -281,11 +315,38 @@ test('A file with something wrong is refused at the field, with its lines, and n
   assert.doesNotMatch(traceLog().slice(logged), /ntering (set|create|delete|restart)_/);
 });
 
-test('A file that is longer than the interpreter takes is said to be too long', {user: 'admin', expected: /exceeds the limit/}, async (page) => {
+async function compareFileOf(page, bytes) {
   await open(page, 'backup.php');
-  await page.setInputFiles('#file', {name: 'big', mimeType: 'text/plain', buffer: Buffer.alloc(9 << 20, 35)}, {timeout: 60000});
+  await page.setInputFiles('#file', {name: 'big', mimeType: 'text/plain', buffer: Buffer.alloc(bytes, 35)}, {timeout: 60000});
   await press(page, 'Compare');
-  assert.match(await errorOf(page, 'file'), /longer than 64 KiB/);
+}
+
+test('A file that is longer than the web server takes does not come to the page, and one that is not is said to be too long', {user: 'admin'},
+  async (page) => {
+    await compareFileOf(page, 1000 << 10);
+    assert.match(await errorOf(page, 'file'), /longer than 64 KiB/);
+    for (const bytes of [1100 << 10, 9 << 20]) {
+      await compareFileOf(page, bytes);
+      assert.equal(await page.innerText('h1'), 'This is too much at once');
+    }
+  });
+
+// A device may have another web server.
+test('A file that is longer than the interpreter takes is said to be too long', {user: 'admin', expected: /exceeds the limit/}, async (page) => {
+  const own = `${web}/conf/extra/long.conf`;
+  const restart = () => inAppliance('sh', '-c', 'kill -USR1 "$(cat /run/appmanager/webServer.pid)"');
+  const statusOfLong = async () => (await fetch(`${base()}backup.php`, {method: 'POST', body: 'x'.repeat(2 << 20)})).status;
+  fs.writeFileSync(own, '$HTTP["url"] =~ "^/backup\\.php$" { server.max-request-size = 16384 }\n');
+  try {
+    restart();
+    await until(async () => await statusOfLong() !== 413, 'a web server that takes long files');
+    await compareFileOf(page, 9 << 20);
+    assert.match(await errorOf(page, 'file'), /longer than 64 KiB/);
+  } finally {
+    fs.unlinkSync(own);
+    restart();
+    await until(async () => await statusOfLong() === 413, 'the web server of before');
+  }
 });
 
 test('Two windows: what somebody has changed meanwhile is not overwritten unseen', {user: 'admin'}, async (page, context) => {

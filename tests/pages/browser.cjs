@@ -43,7 +43,7 @@ function test(name, options, work) {
     const {user, expected, ...contextOptions} = options;
     browser ??= await browsers[kind]();
     const context = await browser.newContext({reducedMotion: 'reduce', ignoreHTTPSErrors: true, ...contextOptions});
-    context.setDefaultTimeout(10000);
+    context.setDefaultTimeout(60000);
     // A form with changes asks before it is left.
     context.on('dialog', (dialog) => dialog.accept());
     const page = await context.newPage();

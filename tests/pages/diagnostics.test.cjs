@@ -2,9 +2,10 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const {spawn} = require('node:child_process');
+const {execFileSync, spawn} = require('node:child_process');
 const fs = require('node:fs');
-const {applianceFolder, datagramsTo, fromLan, inAppliance, php, traceLog, until, web, withScript} = require('./appliance.cjs');
+const {applianceFolder, datagramsTo, fromLan, inAppliance, php, traceLog, until, web, withScript,
+  writeAsPages} = require('./appliance.cjs');
 const {base, errorOf, messages, open, pages, press, sessionCookie, test} = require('./browser.cjs');
 
 const scripts = `${applianceFolder}/AppManager/bin`;
@@ -86,6 +87,26 @@ test('Only the calls that failed are shown when that is asked for', {user: 'admi
   php('set_eth2_port_settings($session, 1, 100, 1);');
 });
 
+test('A call that got no answer has failed, and where none says so that is all that is said', {user: 'admin'}, async (page) => {
+  const log = `${web}/logs/php_extension.log`;
+  const away = `${web}/logs/away.log`;
+  const {uid, gid} = fs.statSync(log);
+  fs.renameSync(log, away);
+  try {
+    fs.writeFileSync(log, 'TRACE[x]:Entering is_ipv6_enabled:<>\nTRACE[x]:Exiting is_ipv6_enabled:<>\n');
+    fs.chownSync(log, uid, gid);
+    await open(page, 'diagnostics.php?live=0&errors=1');
+    assert.equal(await page.innerText('#log'), 'No call says that it has failed. Not all do: what could not be read is said on its page.');
+    await withScript('ipv4Manager.sh', 'exit 1', async () => php('@get_eth2_port_settings($session); @get_network_hostname();'));
+    await open(page, 'diagnostics.php?live=0&errors=1');
+    const names = await page.locator('[data-call] > summary .address').allInnerTexts();
+    assert.deepEqual(names.sort(), ['get_eth2_port_settings', 'get_network_hostname']);
+  } finally {
+    fs.rmSync(log);
+    fs.renameSync(away, log);
+  }
+});
+
 test('The trace log is filtered as one types, and whatever is typed is only text', {user: 'admin'}, async (page) => {
   await open(page, 'diagnostics.php');
   await unfoldTrace(page);
@@ -121,6 +142,51 @@ test('The trace log is downloaded as a file', {user: 'admin'}, async (page, cont
   const text = await answer.text();
   assert.ok(traceLog().endsWith(text) || traceLog().includes(text.trim().split('\n').at(-1)));
   assert.match(text, /Entering get_network_hostname|Entering get_fw_settings/);
+});
+
+// Runs code of the pages with another trace log, and returns what it prints.
+function withTraceLog(text, code, ...options) {
+  const folder = fs.mkdtempSync('/tmp/trace-');
+  fs.mkdirSync(`${folder}/HTTPService/lighttpd/logs`, {recursive: true});
+  const log = `${folder}/HTTPService/lighttpd/logs/php_extension.log`;
+  fs.writeFileSync(log, text);
+  try {
+    return execFileSync('php', [...options, '-r', `define('APPLIANCE_FOLDER', '${folder}'); require '${web}/shared/page.php';
+      $admin = new Session(); $admin->role = 'admin'; $monitor = new Session(); $monitor->role = 'monitor'; ${code}`],
+    {encoding: 'utf8', maxBuffer: 1e8});
+  } finally {
+    fs.rmSync(folder, {recursive: true});
+  }
+}
+
+test('A long trace log is downloaded with 8 MB of memory', {}, async () => {
+  const line = 'TRACE[2026-11-22 04:16:09.704 +0000]:Entering get_network_hostname:<>\n';
+  const said = withTraceLog(line.repeat(100000), 'print_trace(open_end_of_trace(TRACE_DOWNLOAD_BYTES), $monitor);', '-d', 'memory_limit=8M');
+  assert.ok(said === line.repeat(Math.floor(4194304 / line.length)), `${said.length} characters: ${said.slice(0, 200)}`);
+});
+
+test('A trace log that is cut off, begun anew, goes or grows while it is read ends there, and is no fault', {}, async () => {
+  const text = Array.from({length: 1000}, (_, i) => `TRACE[x]:line ${i}:<>\n`).join('');
+  for (const [fault, expected] of [
+    ['fclose(fopen(TRACE_LOG, "wb"));', /^(TRACE\[x\]:line \d+:<>\n)+(TRACE.*)?$/],
+    ['rename(TRACE_LOG, TRACE_LOG . ".1"); file_put_contents(TRACE_LOG, "another\\n");', /line 999:<>\n$/],
+    ['unlink(TRACE_LOG);', /line 999:<>\n$/],
+    ['file_put_contents(TRACE_LOG, str_repeat("grown\\n", 100), FILE_APPEND);', /line 999:<>\n$/]]) {
+    const said = withTraceLog(text, `$trace = open_end_of_trace(TRACE_BYTES); echo next_of_trace($trace, $admin); ${fault} print_trace($trace, $admin);`);
+    assert.ok(said.startsWith('TRACE[x]:line 0:<>\n'), fault);
+    assert.match(said, expected, fault);
+    assert.doesNotMatch(said, /grown|another/, fault);
+  }
+});
+
+test('A line without an end and one of a megabyte are no fault, and show no more than they may', {}, async () => {
+  const print = (text, who) => withTraceLog(text, `print_trace(open_end_of_trace(TRACE_DOWNLOAD_BYTES), ${who});`);
+  const long = `TRACE[x]:setting community name::<${'s3cret'.repeat(200000)}>\nTRACE[x]:next:<>\nTRACE[x]:SNMP community:<s3cr`;
+  assert.equal(print(long, '$monitor'), 'TRACE[x]:setting community name::<not shown>\nTRACE[x]:next:<>\nTRACE[x]:SNMP community:<not shown>\n');
+  assert.ok(print(long, '$admin') === long);
+  // It begins in the middle of a line that is longer than all that is looked at.
+  assert.equal(print(`${'s3cret'.repeat(1000000)}\nTRACE[x]:next:<>\n`, '$monitor'), 'TRACE[x]:next:<>\n');
+  assert.equal(print('', '$admin'), '');
 });
 
 test('The read community in the trace log is for the role admin alone, the filter included', {user: 'monitor'}, async (page, context) => {
@@ -159,7 +225,7 @@ test('Who is not signed in has the module do nothing, however often and whatever
     assert.match(await refused.text(), /password is wrong|Too many|out of date/);
   }
   assert.ok(traceLog() === before, traceLog().slice(before.length));
-  fs.writeFileSync(`${applianceFolder}/HTTPService/dat/attempts`, '');
+  writeAsPages(`${applianceFolder}/HTTPService/dat/attempts`, '');
 });
 
 test('What the address asks for and there is not gives an empty list, and no fault', {user: 'admin'}, async (page) => {
@@ -263,6 +329,31 @@ test('A device without a script lacks its question alone', {user: 'admin'}, asyn
   }));
 });
 
+test('What hangs does not hold up the page: a question or the audit of the services is missing', {user: 'admin'}, async (page, context) => {
+  await withScript('pingAddress.sh', 'exec sleep 984', () => withScript('auditTrail.sh', 'exec sleep 984', async () => {
+    const began = Date.now();
+    await open(page, 'diagnostics.php');
+    assert.ok(Date.now() - began < 8000, `${Date.now() - began} milliseconds`);
+    assert.equal(await page.locator('#ping').count(), 0);
+    assert.match(await page.innerText('main'), /management services[^.]* cannot be read/);
+    assert.equal(await messages(page), '');
+    const asked = Date.now();
+    const answer = await fetch(`${base()}audit.php`, {headers: {cookie: await cookieOf(context)}});
+    assert.equal(answer.status, 200);
+    assert.ok(Date.now() - asked < 8000, `${Date.now() - asked} milliseconds`);
+  }));
+  assert.equal(fromLan('sh', '-c', 'pgrep -fc "^sleep 984$" || true'), '0');
+});
+
+test('Who could not be asked is not said to be silent', {user: 'admin'}, async (page) => {
+  await withScript('pingAddress.sh', '[ "$1" = -q ] || exit 1', async () => {
+    await open(page, 'diagnostics.php');
+    await page.fill('#ping', '10.20.0.1');
+    await press(page, 'Ping');
+    assert.equal(await page.innerText('[aria-labelledby=network] .message'), 'The appliance could not ask.');
+  });
+});
+
 // What stands beside each receiver, by its address and port.
 async function testResults(page) {
   const rows = await page.locator('[aria-labelledby=list] tbody tr:not(.question)').evaluateAll((all) => all.map((row) =>
@@ -298,7 +389,7 @@ test('A test trap says of each receiver what became of it, all at once', {user: 
 test('A device that keeps no results, or only those of an earlier test, says that the trap was sent', {user: 'admin'}, async (page) => {
   php('create_snmp_trap_reg($session, 1, "10.20.0.77", "162");');
   try {
-    for (const text of ['exit 1', 'printf "time 1\\nudp:10.20.0.77:162 2c sent\\n"', 'printf "\\377 rubbish"']) {
+    for (const text of ['exit 1', 'echo udp:10.20.0.77:162 2c sent', 'printf "time 1\\nudp:10.20.0.77:162 2c sent\\n"', 'printf "\\377 rubbish"']) {
       await withScript('testTrapResults.sh', text, async () => {
         await open(page, 'traps.php');
         await press(page, 'Send a test trap');

@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const {addresses, applianceFolder, ask, fromLan, inAppliance, ipv4Address, php, traceLog, until, withScript} = require('./appliance.cjs');
-const {accessibilityFaults, base, beside, certificate, messages, open, press, served, signIn, test} = require('./browser.cjs');
+const {accessibilityFaults, base, beside, certificate, errorOf, markupFaults, messages, open, press, served, signIn, test} = require('./browser.cjs');
 
 const scripts = `${applianceFolder}/AppManager/bin`;
 const script = `${scripts}/deviceFacts.sh`;
@@ -69,6 +69,9 @@ test('A dead SNMP agent is seen at once, and saving its page starts it', {user: 
   assert.match(said, /^The SNMP agent does not answer\.\n+.*Save the settings of the agent again/);
   assert.equal(await stateOf(page, 'snmp'), 'The agent does not answer');
   assert.deepEqual(await accessibilityFaults(page), []);
+  await open(page, 'traps.php');
+  assert.match(await page.innerText('[aria-labelledby=now]'), /^Now\s+The agent does not answer\s[^]*no traps are sent/);
+  await open(page, 'index.php');
   await page.click('#alarms a');
   assert.equal(await page.innerText('h1'), 'SNMP agent');
   assert.match(await page.innerText('[aria-labelledby=now]'), /The agent does not answer/);
@@ -98,6 +101,7 @@ test('A link that is down', {user: 'admin'}, async (page) => {
     assert.equal(said.length, 1);
     assert.match(said[0], /^Ethernet port 2 \(eth2\) has no link\.\n+Check the cable/);
     assert.equal(await stateOf(page, 'port'), 'No link');
+    assert.equal(await page.locator('main .bad').count(), 0, 'nothing may be plugged into it');
     await open(page, 'port.php');
     assert.equal(await beside(page, 'Link'), 'No link');
     assert.equal(await beside(page, 'Setting'), 'Autonegotiation');
@@ -126,7 +130,7 @@ test('A DHCP client without a lease', {}, async (page) => {
     } finally {
       await dhcpServerSays('');
     }
-    await until(() => ask('ipv4Manager.sh', '-d', 'status').startsWith('10.20.0.1'), 'a lease', 40);
+    await until(() => ask('ipv4Manager.sh', '-d', 'status').startsWith('10.20.0.1'), 'a lease');
     inAppliance('ip', 'address', 'replace', '10.20.0.88/24', 'dev', 'eth0');
     await open(page, 'index.php');
     assert.deepEqual(await alarms(page), []);
@@ -204,7 +208,7 @@ test('The certificate is shown as it is, and when it has expired', {}, async (pa
 test('A device without the script shows its settings, and says nothing about now', {user: 'admin'}, async (page) => {
   fs.renameSync(script, `${script}.away`);
   try {
-    for (const name of ['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php']) {
+    for (const name of ['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php', 'traps.php']) {
       await open(page, name);
       assert.equal(await messages(page), '', name);
       assert.doesNotMatch(await page.innerText('main'), /Unknown|Link up|The agent answers/, name);
@@ -218,7 +222,7 @@ test('A device without the script shows its settings, and says nothing about now
   }
 });
 
-const useless = {'hangs': 'sleep 1000', 'hangs with half a line': 'printf "eth0.li"; exec sleep 1000', 'prints rubbish': 'head -c 300000 /dev/urandom',
+const useless = {'says that the link is up, and hangs': 'echo "eth0.link up"; exec sleep 1000', 'hangs': 'sleep 1000', 'hangs with half a line': 'printf "eth0.li"; exec sleep 1000', 'prints rubbish': 'head -c 300000 /dev/urandom',
   'prints what is none of the facts': 'echo "eth0.link <b>up</b>"; echo "ipv4.address none"; echo snmp.answers; echo "clock 1e9"',
   'prints nothing': ':', 'ends with 1': 'exit 1', 'never stops printing': 'yes "eth2.link up and down"'};
 for (const [what, text] of Object.entries(useless)) {
@@ -229,9 +233,10 @@ for (const [what, text] of Object.entries(useless)) {
       assert.deepEqual(await alarms(page), []);
       for (const tile of ['ipv4', 'port', 'snmp']) assert.equal(await stateOf(page, tile), 'Unknown', tile);
       assert.equal(await page.innerText('.value >> nth=0'), ipv4Address());
+      assert.equal(await beside(page, 'In use now'), 'Unknown');
       assert.equal(await beside(page, 'Obtained by').catch(() => 'DHCP'), 'DHCP');
       assert.equal(await beside(page, 'Autonegotiation'), 'On');
-      for (const name of ['ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php']) {
+      for (const name of ['ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php', 'traps.php']) {
         assert.ok(await secondsToOpen(page, name) < 5, name);
         assert.equal(await messages(page), '', name);
         assert.match(await page.innerText('main'), /Unknown|HTTP/, name);
@@ -257,7 +262,7 @@ for (const [question, terms] of Object.entries(hanging)) {
       assert.equal(await other.innerText('.side .brand'), 'library');
       await other.close();
       const seconds = await loaded;
-      assert.ok(seconds > 2.5 && seconds < 6, `${seconds} seconds`);
+      assert.ok(seconds > 2.5 && seconds < 12, `${seconds} seconds`);
       for (const term of terms) assert.match(await beside(page, term), /^Unknown/, term);
       const all = ['Trap receivers', 'HTTPS', 'Link now', 'Versions', 'Autonegotiation', 'Host name', 'Primary', 'Netmask', 'Gateway'];
       for (const term of all.filter((one) => !terms.includes(one))) assert.doesNotMatch(await beside(page, term), /Unknown/, term);
@@ -265,7 +270,7 @@ for (const [question, terms] of Object.entries(hanging)) {
       assert.match(await messages(page), /^Could not get [^]*Code 0x/);
       assert.deepEqual(await accessibilityFaults(page), []);
     });
-    await until(() => fromLan('sh', '-c', 'pgrep -fc "^sleep 987$" || true') === '0', 'the end of what hung', 10);
+    await until(() => fromLan('sh', '-c', 'pgrep -fc "^sleep 987$" || true') === '0', 'the end of what hung');
     await open(page, 'index.php');
     assert.equal(await messages(page), '');
   });
@@ -278,7 +283,7 @@ test('A change that goes on in the same process is not ended with what hangs', {
     const seconds = inAppliance('php', '-r', `require "${applianceFolder}/HTTPService/lighttpd/shared/page.php"; $session = new Session();
       set_network_configuration_ipv4($session, ipv4_settings(get_network_hostname(), array("dhcp" => true, "ip" => "", "netmask" => "", "gateway" => "")));
       usleep(3500000); $began = seconds_now(); ask_device(); get_network_dns($session); end_asking(); echo seconds_now() - $began; usleep(4000000);`);
-    assert.ok(seconds > 2.5 && seconds < 5, `${seconds} seconds`);
+    assert.ok(seconds > 2.5 && seconds < 12, `${seconds} seconds`);
     assert.ok(fs.existsSync('/run/change.done'), 'the change came to its end');
     assert.equal(fromLan('sh', '-c', 'pgrep -fc "^sleep 986$" || true'), '0');
   }));
@@ -296,18 +301,134 @@ test('A page whose script hangs is there after three seconds, too', {user: 'admi
   });
 });
 
-test('What the management services do not say of the agent is unknown, never 0 or none', {user: 'admin'}, async (page) => {
-  // The interpreter has the database open, whatever becomes of its file.
+// The interpreter has the database open, whatever becomes of its file.
+async function withoutTables(work) {
   const rename = (from, to) => fromLan('sqlite3', database, ['settings', 'snmp_versions', 'trap_registrations']
     .map((table) => `ALTER TABLE ${from(table)} RENAME TO ${to(table)};`).join(' '));
   rename((table) => table, (table) => `${table}_away`);
   try {
-    await open(page, 'snmp.php');
-    assert.equal(await beside(page, 'Versions set'), 'Unknown');
-    assert.doesNotMatch(await page.innerText('main'), /port 0|Always on/);
+    await work();
   } finally {
     rename((table) => `${table}_away`, (table) => table);
   }
+}
+
+test('What the management services do not say of the agent is unknown, never 0 or none', {user: 'admin'}, async (page) => {
+  await withoutTables(async () => {
+    await open(page, 'snmp.php');
+    assert.equal(await beside(page, 'Versions set'), 'Unknown');
+    assert.doesNotMatch(await page.innerText('main'), /port 0|Always on/);
+    for (const mark of ['#version1', '#trap1', '#trap2', '#auth_traps_enabled']) {
+      assert.ok(!await page.isChecked(mark), mark);
+      assert.equal(await hintOf(page, mark), notRead, mark);
+    }
+    await open(page, 'index.php');
+    for (const term of ['HTTPS', 'Versions', 'Trap receivers']) assert.equal(await beside(page, term), 'Unknown', term);
+    await open(page, 'security.php');
+    assert.equal(await beside(page, 'Set'), 'Unknown');
+    assert.equal(await page.locator('[name=https]:checked').count(), 0);
+    await page.check('#https-0');
+    await press(page, 'Save');
+    assert.match(await errorOf(page, 'https'), /^What is set now cannot be read, so that it could not be put back/);
+    await open(page, 'traps.php');
+    assert.match(await page.innerText('[aria-labelledby=list]'), /Receivers:\s+Unknown/);
+    await page.fill('#ip', '10.20.0.1');
+    await press(page, 'Add');
+    assert.match(await errorOf(page, 'ip'), /cannot be read/);
+    await open(page, 'backup.php');
+    await press(page, 'Download');
+    assert.match(await page.innerText('main'), /No file was made: [^.]*Web security[^.]* cannot be read/);
+    const [file] = await Promise.all([page.waitForEvent('download'), page.click('button:text-is("Download without it")')]);
+    const text = fs.readFileSync(await file.path(), 'utf8');
+    assert.doesNotMatch(text, /^\[(web|snmp|traps)\]/m);
+    assert.match(text, /^\[dns\]/m);
+  });
+  await open(page, 'index.php');
+  assert.equal(await beside(page, 'HTTPS'), 'Off');
+  assert.equal(await beside(page, 'Trap receivers'), '0');
+});
+
+const notRead = 'What is set now cannot be read.';
+
+function hintOf(page, field) {
+  return page.innerText(`${field}-hint`).then((text) => text.slice(0, notRead.length));
+}
+
+test('No setting that could not be read is shown in the place of a form', {user: 'monitor'}, async (page) => {
+  const shown = () => page.locator('.shown').evaluateAll((all) => Object.fromEntries(all.map((one) => [...one.children].slice(0, 2)
+    .map((part) => part.innerText.trim()))));
+  await withScript('ipv4Manager.sh', 'exit 1', () => withScript('ipv6Manager.sh', 'exit 1', async () => {
+    await open(page, 'ipv4.php');
+    assert.deepEqual(await shown(), {Name: 'Unknown'});
+    await open(page, 'ipv6.php');
+    assert.deepEqual(await shown(), {'Use IPv6': 'Off', 'Router advertisements': 'Unknown', DHCP: 'Off',
+      'Use a static address': 'Unknown', Address: 'Unknown', 'Prefix length': 'Unknown', Gateway: 'Unknown'});
+  }));
+  await withoutTables(async () => {
+    await open(page, 'snmp.php');
+    assert.deepEqual([...new Set(Object.values(await shown()))], ['Unknown']);
+  });
+});
+
+test('A form whose settings cannot be read has no choice, and never says that nothing was changed', {user: 'admin'}, async (page) => {
+  php('$s = get_network_dns($session); $s->dnsPrimary = "10.20.0.9"; set_network_dns($session, $s);');
+  const unreadable = 'case $1 in -g) exit 1 ;; *) exec sh "$ORIGINAL" "$@" ;; esac';
+  await open(page, 'dns.php'); // the form shows what was set
+  const field = await page.inputValue('#dnsPrimary');
+  assert.equal(field, '10.20.0.9');
+  await withScript('ipv6Manager.sh', unreadable, async () => {
+    await page.fill('#dnsPrimary', '');
+    await press(page, 'Save');
+    assert.match(await messages(page), /^The DNS servers are removed\./);
+    assert.equal(await hintOf(page, '#dnsPrimary'), notRead);
+    await press(page, 'Save');
+    assert.doesNotMatch(await messages(page), /nothing was changed/);
+  });
+  assert.equal(ask('ipv6Manager.sh', '-g', 'dns'), 'disabled');
+  // Read again, nothing has changed since it was opened.
+  await page.fill('#dnsPrimary', '10.20.0.9');
+  await press(page, 'Save');
+  assert.equal(await messages(page), 'The DNS servers are set.');
+  await page.fill('#dnsPrimary', '');
+  await press(page, 'Save');
+  await withScript('ipv6Manager.sh', 'exit 1', async () => {
+    await open(page, 'ipv6.php');
+    for (const mark of ['#stateless', '#static']) assert.equal(await hintOf(page, mark), notRead, mark);
+    await press(page, 'Apply');
+    assert.match(await errorOf(page, 'enabled'), /^What is set now cannot be read, so that it could not be put back/);
+  });
+  await withScript('ipv4Manager.sh', 'exit 1', async () => {
+    await open(page, 'ipv4.php');
+    assert.equal(await page.locator('[name=mode]:checked').count(), 0);
+    assert.equal(await hintOf(page, '#mode'), notRead);
+    await open(page, 'port.php');
+    assert.equal(await hintOf(page, '#auto'), notRead);
+    for (const name of ['ipv4.php', 'port.php']) {
+      await open(page, name);
+      assert.deepEqual([...await accessibilityFaults(page), ...await markupFaults(page)], [], name);
+    }
+  });
+  await withScript('ipv4Manager.sh', 'case "$*" in "-g host") exec sh "$ORIGINAL" "$@" ;; *) exit 1 ;; esac', async () => {
+    await open(page, 'ipv4.php');
+    await page.check('#mode-dhcp');
+    await press(page, 'Apply');
+    assert.match(await errorOf(page, 'mode-dhcp'), /^What is set now cannot be read, so that it could not be put back/);
+  });
+});
+
+test('While all scripts of the network hang, no page takes longer than three seconds and some', {user: 'admin'}, async (page) => {
+  await withScript('ipv4Manager.sh', 'exec sleep 985', () => withScript('ipv6Manager.sh', 'exec sleep 985', async () => {
+    const overview = await secondsToOpen(page, 'index.php');
+    assert.ok(overview < 8, `${overview} seconds`);
+    for (const term of ['Host name', 'Netmask', 'Primary', 'Autonegotiation']) assert.equal(await beside(page, term), 'Unknown', term);
+    await open(page, 'backup.php');
+    const began = Date.now();
+    await press(page, 'Download');
+    const download = (Date.now() - began) / 1000;
+    assert.ok(download < 12, `${download} seconds`);
+    assert.match(await page.innerText('main'), /No file was made: Host name, .* cannot be read/);
+  }));
+  assert.equal(fromLan('sh', '-c', 'pgrep -fc "^sleep 985$" || true'), '0');
 });
 
 test('What could not be read is unknown, in one message with the codes folded', {user: 'admin'}, async (page) => {
@@ -359,12 +480,22 @@ test('IPv6: addresses appear on the open page, each with its source, and fill no
   try {
     await open(page, 'ipv6.php');
     await page.evaluate(() => { window.same = true; });
-    const logged = traceLog().length;
-    await page.waitForSelector('#addresses li:has-text("from router advertisements")', {timeout: 20000});
-    await page.waitForSelector('#addresses li:has-text("2001:db8:20::7 static")', {timeout: 20000});
+    let logged = traceLog().length;
+    await page.waitForSelector('#addresses li:has-text("from router advertisements")', {timeout: 60000});
+    await page.waitForSelector('#addresses li:has-text("2001:db8:20::7 static")', {timeout: 60000});
     await page.waitForSelector('#addresses li:has-text("link-local")');
+    assert.equal(traceLog().slice(logged), '');
+    const overview = await page.context().newPage();
+    await overview.setViewportSize({width: 390, height: 800});
+    await overview.goto(base());
+    const shown = await overview.innerText('[aria-labelledby=tile-ipv6]');
+    assert.match(shown, /2001:db8:20::7 static\n/);
+    assert.match(shown, /^2001:db8:20:[0-9a-f:]+ from router advertisements$/m);
+    assert.ok(await overview.evaluate(() => document.documentElement.scrollWidth <= innerWidth), 'on a phone, too');
+    await overview.close();
+    logged = traceLog().length;
     inAppliance('sh', `${scripts}/ipv6Manager.sh`, '-r');
-    await page.waitForSelector('#addresses:not(:has-text("2001:db8:20::7 static"))', {timeout: 10000});
+    await page.waitForSelector('#addresses:not(:has-text("2001:db8:20::7 static"))', {timeout: 60000});
     assert.ok(await page.evaluate(() => window.same), 'it was not loaded again');
     assert.equal(traceLog().slice(logged), '');
   } finally {

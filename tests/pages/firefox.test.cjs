@@ -2,8 +2,7 @@
 'use strict';
 
 const assert = require('node:assert/strict');
-const fs = require('node:fs');
-const {accounts, addresses, applianceFolder, datagramsTo, ipv4Address, php, until} = require('./appliance.cjs');
+const {accounts, addresses, applianceFolder, datagramsTo, ipv4Address, php, until, writeAsPages} = require('./appliance.cjs');
 const {asksToSignIn, base, beside, enterPassword, messages, open, press, served, signIn, test,
   sessionCookie, useFirefox} = require('./browser.cjs');
 const {answersAt, apply, fillStatic, passes, reaches, setStatic} = require('./on_trial.cjs');
@@ -18,7 +17,7 @@ test('Firefox: signing in and out, with a wrong password first', {}, async (page
   await page.fill('#password', 'wrong');
   await press(page, 'Sign in');
   assert.equal(await asksToSignIn(page), 'The name or the password is wrong.');
-  fs.writeFileSync(`${applianceFolder}/HTTPService/dat/attempts`, ''); // nobody waits here
+  writeAsPages(`${applianceFolder}/HTTPService/dat/attempts`, ''); // nobody waits here
   await page.fill('#password', accounts.get('admin'));
   await page.keyboard.press('Enter');
   await page.waitForSelector('h1:text-is("DNS")');
@@ -33,7 +32,7 @@ test('Firefox: the address is moved, the page arrives there with its session, an
   await signIn(page);
   await fillStatic(page, '10.20.0.8');
   await apply(page);
-  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 60000});
   await page.waitForSelector('h1:text-is("Kept")');
   assert.match(await page.innerText('#outcome'), /^Kept by admin: reached under the new settings\./);
   assert.deepEqual(addresses('inet'), ['10.20.0.8/24']);
@@ -51,13 +50,13 @@ test('Firefox: an address in a wrong network: the page counts down and shows tha
   await press(page, 'Apply');
   await until(() => ipv4Address() === '10.99.0.7', 'the wrong address');
   await reaches('trial');
-  await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+  await page.waitForSelector('[data-when-lost]:visible', {timeout: 60000});
   const left = Number(await page.innerText('[data-countdown]'));
   assert.ok(left > 10 && left < 60, `${left} seconds are left`);
   passes(50);
-  await reaches('undone', 40);
+  await reaches('undone');
   await answersAt('10.20.0.7');
-  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
   assert.match(await page.innerText('#outcome'), /because nobody was back under the new settings within 60 seconds\./);
 });
 
@@ -69,7 +68,7 @@ test('Firefox: HTTPS on, with its certificate shown, and off', {}, async (page, 
   const shown = await beside(page, 'SHA-256 fingerprint');
   assert.equal(shown, (await served('https')).fingerprint256);
   await page.click('text=Continue with HTTPS');
-  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 20000});
+  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 60000});
   await enterPassword(page);
   assert.equal(await page.innerText('h1'), 'Kept');
   const own = (await context.cookies()).find(({name}) => name === '__Host-settings');
@@ -77,7 +76,7 @@ test('Firefox: HTTPS on, with its certificate shown, and off', {}, async (page, 
   await open(page, 'security.php');
   await page.check('#https-0');
   await press(page, 'Save');
-  await page.waitForURL(`${base()}applying.php`, {timeout: 30000});
+  await page.waitForURL(`${base()}applying.php`, {timeout: 60000});
   await enterPassword(page);
   assert.equal(await page.innerText('h1'), 'Kept');
   await served('http');

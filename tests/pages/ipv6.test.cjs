@@ -106,12 +106,12 @@ test('IPv6 on, router advertisements off and a static address: one Apply, one tr
   await fillStatic(page);
   await press(page, 'Apply');
   assert.deepEqual(recorded('values'), {enabled: 'On', stateless: 'Off', mode: 'On', ip: '2001:db8:20::8', prefix: '64', gateway: '2001:db8:20::1'});
-  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 60000});
   assert.deepEqual(settings(), ['on', '0', 'off', '2001:db8:20::8/64?2001:db8:20::1']);
   assert.deepEqual(addresses('inet6'), ['2001:db8:20::8/64']);
   assert.deepEqual(audit().slice(before).map(([,, what]) => what), ['IPv6 settings begun', 'IPv6 settings kept']);
   await press(page, 'Undo now');
-  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
   assert.deepEqual(settings(), ['off', '1', 'off', '']);
 });
 
@@ -135,7 +135,7 @@ test('The appliance refuses the address: IPv6 is not left on either, and the pag
     await page.uncheck('#stateless');
     await fillStatic(page);
     await press(page, 'Apply');
-    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 20000});
+    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 60000});
   });
   assert.match(await page.innerText('pre'), /Failed to enable static IPv6 address: :<\d+>/);
   assert.equal(trial('state'), 'refused');
@@ -170,7 +170,7 @@ test('Undone while the address is still being set: it does not come after all', 
     await post(client, 'ipv6.php', wanted);
     assert.equal(trial('state'), 'applying');
     await post(client, 'applying.php', {id: trial('id'), seen: 'applying', change: 'undo'});
-    await reaches('undone', 40);
+    await reaches('undone');
   });
   assert.deepEqual(settings(), ['off', '1', 'off', '']);
 });
@@ -181,7 +181,7 @@ test('Without scripts the ways can be used while IPv6 is off: they are stored, a
   await page.uncheck('#stateless');
   await fillStatic(page);
   await press(page, 'Apply');
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   assert.match(await page.innerText('#outcome'), /They come into force when IPv6 is switched on/);
   assert.equal(trial('why'), 'no trial', 'what is only stored locks nobody out');
   assert.deepEqual(settings(), ['off', '0', 'off', '2001:db8:20::8/64?2001:db8:20::1']);
@@ -234,7 +234,7 @@ test('The record of a program that told the switch, the modes and the address ap
     await page.goto(`${base()}applying.php`);
     assert.equal(await page.innerText('h1'), 'On trial', kind);
     await press(page, 'Undo now');
-    await page.waitForSelector('h1:text-is("Undone")', {timeout: 30000}); // until then the page goes on by itself
+    await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000}); // until then the page goes on by itself
     assert.deepEqual(settings(), ['off', '1', 'off', ''], kind);
   }
 });

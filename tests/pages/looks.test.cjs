@@ -3,7 +3,8 @@
 
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
-const {applianceFolder, fromLan, ipv4Address, php, until, web, withScript} = require('./appliance.cjs');
+const {applianceFolder, fromLan, ipv4Address, php, until, web, withScript,
+  writeAsPages} = require('./appliance.cjs');
 const {accessibilityFaults, asksToSignIn, base, enterPassword, markupFaults, messages, open, pages, press, served, showCommunity,
   signIn, test} = require('./browser.cjs');
 const {fillStatic, passes, reaches} = require('./on_trial.cjs');
@@ -109,7 +110,7 @@ test('A change on trial is valid and accessible, and fits, until it is kept and 
   assert.equal(await page.innerText('h1'), 'Kept');
   await judge(page, 'applying.php when kept');
   await press(page, 'Undo now');
-  await page.waitForSelector('h1:text-is("Undone")', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
   await page.reload();
   await judge(page, 'applying.php when undone');
 });
@@ -123,7 +124,7 @@ test('An address in a wrong network is valid and accessible, and fits, from the 
   assert.deepEqual(await markupFaults(page), [], 'applying.php of an address is valid');
   await until(() => ipv4Address() === '10.99.0.7', 'the wrong address');
   await reaches('trial');
-  await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+  await page.waitForSelector('[data-when-lost]:visible', {timeout: 60000});
   await judge(page, 'applying.php that has lost the appliance');
   passes(50);
   await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
@@ -149,7 +150,7 @@ test('States that are seldom seen are valid and accessible, and fit', {}, async 
   await page.fill('#password', 'wrong');
   await press(page, 'Sign in');
   await judge(page, 'signin.php with an error');
-  fs.writeFileSync(`${applianceFolder}/HTTPService/dat/attempts`, '');
+  writeAsPages(`${applianceFolder}/HTTPService/dat/attempts`, '');
 
   await enterPassword(page);
   await open(page, 'dns.php');
@@ -165,7 +166,7 @@ test('States that are seldom seen are valid and accessible, and fit', {}, async 
     await page.fill('#prefix', '64');
     await page.fill('#gateway', 'fe80::1');
     await press(page, 'Apply');
-    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 20000});
+    await page.waitForSelector('h1:text-is("Refused by the appliance")', {timeout: 60000});
     await judge(page, 'applying.php when refused');
   });
 
@@ -176,7 +177,7 @@ test('States that are seldom seen are valid and accessible, and fit', {}, async 
   assert.notEqual(await page.evaluate(() => getComputedStyle(document.querySelector('.card')).borderRadius), '0px', 'it has its style');
   await served('https');
   await page.click('text=Continue with HTTPS');
-  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 20000});
+  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 60000});
   await enterPassword(page);
   await judge(page, 'applying.php under HTTPS');
   await open(page, 'security.php');
@@ -278,12 +279,12 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
   await page.fill('#ipStatic', '2001:db8:20::7');
   await page.fill('#gateway', '2001:db8:20::1');
   await press(page, 'Apply');
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   assert.match(await page.innerText('#outcome'), /^The settings are stored\. They come into force when IPv6 is switched on\./);
   await open(page, 'ipv6.php');
   await page.uncheck('#static');
   await press(page, 'Apply');
-  await page.waitForSelector('h1:text-is("Applied")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Applied")', {timeout: 60000});
   for (const auto of [false, true]) {
     await open(page, 'port.php');
     await page.setChecked('#auto', auto);
@@ -312,7 +313,7 @@ test('Everything works without scripts', {javaScriptEnabled: false}, async (page
   const loaded = page.waitForEvent('load');
   await page.click('a:text-is("Follow")');
   await loaded;
-  await page.waitForEvent('load', {timeout: 10000}); // by itself
+  await page.waitForEvent('load', {timeout: 60000}); // by itself
   assert.match(page.url(), /live=1&background=1&filter=entering/);
   await press(page, 'Sign out');
   await asksToSignIn(page);

@@ -4,16 +4,35 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const http = require('node:http');
-const {accounts, applianceFolder, ask, fromLan, ipv4Address, until} = require('./appliance.cjs');
+const {accounts, applianceFolder, ask, fromLan, inAppliance, ipv4Address, until, web, writeAsPages} = require('./appliance.cjs');
 const {open, press} = require('./browser.cjs');
 
 const record = `${applianceFolder}/HTTPService/dat/trial`;
+// What a program in PHP begins with that does what the pages do.
+const pages = `require "${web}/shared/page.php"; $session = new Session(); $session->user = "admin"; $session->role = "admin";`;
 
 // A field of the record of the change on trial.
 function trial(field) {
   const text = fs.existsSync(record) ? fs.readFileSync(record, 'utf8') : '';
   const found = text.match(new RegExp(`"${field}";(?:s:\\d+:"([^"]*)"|i:(\\d+))`));
   return found ? found[1] ?? found[2] : '';
+}
+
+// Begins a trial of a setting that nothing waits for: router advertisements, off. Returns its id.
+function beginModes(seconds = 300, watched = 'true') {
+  const said = inAppliance('php', '-r', `${pages} require "${web}/shared/applying.php";
+    $before = settings_of($session, "ipv6"); $wanted = $before; $wanted["stateless"] = false;
+    $record = new_trial($session, "ipv6", array("stateless" => "Off"), $before, "", "", ${seconds});
+    $record["wanted"] = $wanted;
+    if (!$before["stateless"] || !begin_trial($record) || !${watched}) { echo "no trial"; exit; }
+    put_back($session, "ipv6", $wanted); ended_at_once($record); echo $record["id"];`);
+  assert.match(said, /^[0-9a-f]{16}$/);
+  return said;
+}
+
+// With a watcher.
+function beginWatchedModes(seconds) {
+  return beginModes(seconds, 'is_being_watched($record)');
 }
 
 // Its lines: user, client, operation, details.
@@ -26,7 +45,7 @@ function shift(field, difference) {
   const text = fs.readFileSync(record, 'utf8');
   const changed = text.replace(new RegExp(`"${field}";i:(\\d+);`), (all, number) => `"${field}";i:${Math.max(1, number - difference)};`);
   assert.notEqual(changed, text, field);
-  fs.writeFileSync(`${record}.test`, changed);
+  writeAsPages(`${record}.test`, changed);
   fs.renameSync(`${record}.test`, record);
 }
 
@@ -37,7 +56,7 @@ function passes(seconds) {
 }
 
 // Until the trial is in this state.
-function reaches(state, seconds = 30) {
+function reaches(state, seconds = 60) {
   return until(() => trial('state') === state, `the trial to be ${state}`, seconds);
 }
 
@@ -53,7 +72,7 @@ async function answersAt(ip) {
 async function isUndone(ip = '10.20.0.7') {
   await reaches('trial');
   passes(55);
-  await reaches('undone', 40);
+  await reaches('undone');
   assert.equal(trial('why'), 'time');
   await answersAt(ip);
 }
@@ -98,7 +117,7 @@ async function applyDhcp(page) {
 // Nothing is on trial any longer.
 async function keepWhatIs() {
   if (trial('state') === 'trial' || trial('state') === 'applying') passes(400);
-  await until(() => ['', 'kept', 'undone', 'refused'].includes(trial('state')), 'the end of the trial', 40);
+  await until(() => ['', 'kept', 'undone', 'refused'].includes(trial('state')), 'the end of the trial');
 }
 
 // Another device of the LAN under an address, while the work is done; with a web server when there is an answer: a text, or a
@@ -153,7 +172,7 @@ class Client {
     const headers = {...this.headers, cookie: [...this.cookies].map((pair) => pair.join('=')).join('; ')};
     if (fields) headers['content-type'] = 'application/x-www-form-urlencoded';
     return new Promise((resolve, reject) => {
-      const request = http.request(address, {method: fields ? 'POST' : 'GET', headers, localAddress: this.localAddress, timeout: 15000,
+      const request = http.request(address, {method: fields ? 'POST' : 'GET', headers, localAddress: this.localAddress, timeout: 60000,
         agent: false}, (answer) => {
         let text = '';
         answer.setEncoding('utf8').on('data', (data) => { text += data; }).on('error', reject).on('end', () => {
@@ -178,5 +197,5 @@ class Client {
   }
 }
 
-module.exports = {answersAt, apply, applyDhcp, applyIfFree, audit, Client, fillStatic, isUndone, isUndoneWithTabClosed, keepWhatIs,
-  passes, reaches, record, setStatic, shift, trial, withDhcpServer, withOtherDevice};
+module.exports = {answersAt, apply, applyDhcp, applyIfFree, audit, beginModes, beginWatchedModes, Client, fillStatic, isUndone,
+  isUndoneWithTabClosed, keepWhatIs, pages, passes, reaches, record, setStatic, shift, trial, withDhcpServer, withOtherDevice};

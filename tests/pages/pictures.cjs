@@ -3,14 +3,14 @@
 
 const fs = require('node:fs');
 const path = require('node:path');
-const {applianceFolder, php} = require('./appliance.cjs');
+const {applianceFolder, php, writeAsPages} = require('./appliance.cjs');
 const {press, signIn, test} = require('./browser.cjs');
 
 // The rest of the trial is not to be waited for.
 function passes(seconds) {
   const record = `${applianceFolder}/HTTPService/dat/trial`;
   const text = fs.readFileSync(record, 'utf8');
-  fs.writeFileSync(record, text.replace(/"began";i:(\d+);/, (all, began) => `"began";i:${began - seconds};`));
+  writeAsPages(record, text.replace(/"began";i:(\d+);/, (all, began) => `"began";i:${began - seconds};`));
 }
 
 const folder = path.resolve(__dirname, '../../doc/pictures');
@@ -36,7 +36,7 @@ test('An address in a wrong network, on trial', {viewport: wide, colorScheme: 'l
   await page.selectOption('#trial', '60');
   await press(page, 'Apply');
   await press(page, 'Apply');
-  await page.waitForSelector('[data-when-lost]:visible', {timeout: 30000});
+  await page.waitForSelector('[data-when-lost]:visible', {timeout: 60000});
   await take(page, 'trial');
   passes(55);
   await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
@@ -48,7 +48,7 @@ test('An address that its maker has reached', {viewport: narrow, colorScheme: 'd
   await page.fill('#ip', '10.20.0.7');
   await press(page, 'Apply');
   await press(page, 'Apply'); // that the name servers go is said before
-  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 20000});
+  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 60000});
   await page.waitForSelector('h1:text-is("Kept")');
   await take(page, 'kept-narrow');
 });

@@ -6,7 +6,8 @@ const {spawnSync} = require('node:child_process');
 const fs = require('node:fs');
 const path = require('node:path');
 const {test} = require('node:test');
-const {base} = require('./browser.cjs');
+const {applianceFolder, fromLan, web} = require('./appliance.cjs');
+const {base, messages, open, press, test: pageTest} = require('./browser.cjs');
 
 const checkout = path.resolve(__dirname, '../..');
 const pages = `${checkout}/http/pages`;
@@ -56,6 +57,33 @@ test('Nothing is fetched from another host, and no script or style stands in a p
     assert.doesNotMatch(text, /(src|href|action)="(https?:)?\/\//, file);
     assert.doesNotMatch(text, /@import|url\(/, file);
     assert.doesNotMatch(text, /<style|\sstyle="|<script(?! src=)|\son[a-z]+="/, file);
+  }
+});
+
+pageTest('The page of the guide works as it stands there, and its change is in the audit', {user: 'admin'}, async (page) => {
+  const guide = fs.readFileSync(`${checkout}/doc/writing-a-page.md`, 'utf8');
+  const [code, template] = [...guide.matchAll(/^```php\n([^]*?)^```$/gm)].map(([, text]) => text);
+  assert.match(code, /name\.php/);
+  // In the place of a page that is there.
+  for (const [file, text] of [['htdocs/port.php', code.replaceAll('name.php', 'port.php').replace("show('name'", "show('port'")],
+    ['templates/port.php', template.replaceAll('name.php', 'port.php')]]) {
+    const copy = `/run/${file.replace('/', '-')}`;
+    fs.writeFileSync(copy, text, {mode: 0o644});
+    fromLan('mount', '--bind', copy, `${web}/${file}`);
+  }
+  try {
+    await open(page, 'port.php');
+    const name = await page.inputValue('#hostname');
+    for (const [old, next] of [[name, 'guided'], ['guided', name]]) {
+      await page.fill('#hostname', next);
+      await press(page, 'Save');
+      assert.equal(await messages(page), `The host name is now ${next}.`);
+      const last = fs.readFileSync(`${applianceFolder}/HTTPService/dat/audit`, 'utf8').trim().split('\n').at(-1).split('\t');
+      assert.deepEqual([last[1], last[3], last[6], last[7], last[8]],
+        ['admin', 'Set the host name.', `Name\x1f${old}`, `Name\x1f${next}`, 'done']);
+    }
+  } finally {
+    for (const file of ['htdocs/port.php', 'templates/port.php']) fromLan('umount', `${web}/${file}`);
   }
 });
 

@@ -10,7 +10,7 @@ $old = array('abs', 'array_fill', 'array_intersect', 'array_keys', 'array_merge'
     'clearstatcache', 'closedir', 'count', 'crc32', 'crypt', 'dechex', 'define', 'defined', 'dirname', 'end',
     'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof', 'fflush', 'fgetc', 'fgets',
     'file', 'file_exists', 'filegroup', 'filemtime', 'fileowner', 'filesize', 'flock', 'fopen', 'fread', 'fseek',
-    'ftruncate', 'function_exists', 'fwrite', 'getmypid', 'gmdate', 'gmmktime', 'header', 'headers_sent', 'hexdec',
+    'ftell', 'ftruncate', 'function_exists', 'fwrite', 'getmypid', 'gmdate', 'gmmktime', 'header', 'headers_sent', 'hexdec',
     'htmlspecialchars', 'implode', 'in_array', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable',
     'is_string', 'is_uploaded_file', 'ksort', 'ltrim', 'max', 'md5', 'microtime', 'min', 'mkdir', 'ob_get_clean',
     'ob_get_level', 'ob_start', 'opendir', 'ord', 'php_sapi_name', 'php_uname', 'preg_match', 'preg_replace',

@@ -15,7 +15,7 @@ test('A static address in the right network: the page arrives there with its ses
   await fillStatic(page, '10.20.0.8');
   await press(page, 'Apply');
   assert.equal(await page.innerText('h1'), 'Applying', 'nothing speaks against it: no further step');
-  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+  await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 60000});
   await page.waitForSelector('h1:text-is("Kept")');
   assert.match(await page.innerText('#outcome'), /^Kept by admin: reached under the new settings\./);
   assert.equal(trial('state'), 'kept');
@@ -25,8 +25,8 @@ test('A static address in the right network: the page arrives there with its ses
     [['admin', '10.20.0.1', 'IPv4 settings begun'], ['admin', '10.20.0.1', 'IPv4 settings kept']]);
   await press(page, 'Undo now');
   assert.equal(await page.innerText('h1'), 'Undoing');
-  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
-  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 60000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
   await answersAt('10.20.0.7');
 });
 
@@ -43,7 +43,7 @@ test('A static address in a wrong network: the settings of before come back by t
   await apply(page);
   await until(() => ipv4Address() === '10.99.0.7', 'the wrong address');
   await reaches('trial');
-  await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+  await page.waitForSelector('[data-when-lost]:visible', {timeout: 60000});
   assert.equal(await page.innerText('h1'), 'Waiting', 'nothing stale is shown');
   assert.ok(!await page.isVisible('#values') && !await page.isVisible('#steps'));
   assert.match(await page.innerText('[data-when-lost]'), new RegExp('You need do nothing: it answers here again at [\\d: APM]+\\. .*'
@@ -51,9 +51,9 @@ test('A static address in a wrong network: the settings of before come back by t
   const left = Number(await page.innerText('[data-countdown]'));
   assert.ok(left > 30 && left < 60, `${left} seconds are left`);
   passes(45);
-  await reaches('undone', 40);
+  await reaches('undone');
   await answersAt('10.20.0.7');
-  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
   assert.match(await page.innerText('#outcome'), /^Undone at [\d:]+ UTC, because nobody was back under the new settings within 60 seconds\./);
   assert.equal(audit().at(-1)[2], 'IPv4 settings undone');
 });
@@ -79,7 +79,7 @@ test('The right network and a wrong gateway: said before, and kept, as its maker
   assert.match(await page.innerText('main'), /The gateway 10\.20\.0\.66 does not answer/);
   assert.doesNotMatch(await page.innerText('main'), /Your computer|Another device/);
   await press(page, 'Apply');
-  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 60000});
   assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.66 /);
   await answersAt('10.20.0.7');
   await setStatic('10.20.0.7');
@@ -97,11 +97,11 @@ test('An address that another web server has: said before, and it gets neither t
     await press(page, 'Apply');
     assert.match(await page.innerText('main'), /Another device answers under 10\.20\.0\.9 already/);
     await press(page, 'Apply');
-    await page.waitForSelector('[data-when-lost]:visible', {timeout: 30000});
+    await page.waitForSelector('[data-when-lost]:visible', {timeout: 60000});
     await until(() => asked.length > 1, 'questions to the other web server');
     assert.ok(page.url().startsWith('http://10.20.0.7/'), page.url());
     passes(50);
-    await page.waitForSelector('h1:text-is("Undone")', {timeout: 40000});
+    await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
     assert.ok(asked.every((address) => /^\/trial\.php\?probe=[0-9a-f]{32}$/.test(address)), asked.join(' '));
     // Nor when the visitor takes the link.
     const links = await page.locator('main a').evaluateAll((all) => all.map((link) => link.href));
@@ -116,7 +116,7 @@ test('An address that another host has', {}, async (page) => {
     await fillStatic(page, '10.20.0.9');
     await apply(page);
     await isUndone();
-    await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+    await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
   });
 });
 
@@ -126,11 +126,11 @@ test('DHCP without a server: the page shows that the settings of before are back
     await applyDhcp(page);
     await reaches('trial');
     assert.equal(ipv4Address(), undefined);
-    await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+    await page.waitForSelector('[data-when-lost]:visible', {timeout: 60000});
     assert.match(await page.innerText('[data-when-lost]'), /Leave this page open: it shows when the settings of before are back/);
     await isUndone();
   });
-  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
 });
 
 test('Another web server, another host, DHCP without a server and with another lease, with the tab closed at once', {}, async (page) => {
@@ -159,13 +159,13 @@ test('DHCP with another lease than the page can know: kept by whoever signs in t
   await signIn(page);
   await fillStatic(page, '10.20.0.7');
   await apply(page);
-  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 60000});
   await withDhcpServer('10.20.0.142', async () => {
     await applyDhcp(page);
     assert.equal(await page.locator(`[data-origin="http://${earlier}"]`).count(), 1, 'it looks at the earlier one');
     await until(() => ipv4Address() === '10.20.0.142', 'the other lease');
     await reaches('trial');
-    await page.waitForSelector('[data-when-lost]:visible', {timeout: 20000});
+    await page.waitForSelector('[data-when-lost]:visible', {timeout: 60000});
     await page.context().clearCookies();
     await page.goto('http://10.20.0.142/index.php');
     await enterPassword(page);
@@ -286,11 +286,18 @@ test('The web server starts anew during a trial, and the watcher is killed: the 
   await fillStatic(page, '10.20.0.8');
   await press(page, 'Apply');
   await page.goto('about:blank');
-  const server = () => fs.readFileSync('/run/appmanager/web/lighttpd.pid', 'utf8').trim();
+  // There is no such file between the end of one web server and the start of the next.
+  const server = () => {
+    try {
+      return fs.readFileSync('/run/appmanager/web/lighttpd.pid', 'utf8').trim();
+    } catch {
+      return '';
+    }
+  };
   const before = server();
   // The service around it: that ends the server and starts another one.
   process.kill(Number(fs.readFileSync(`/proc/${before}/status`, 'utf8').match(/^PPid:\s+(\d+)$/m)[1]), 'SIGHUP');
-  await until(() => fs.existsSync('/run/appmanager/web/lighttpd.pid') && ![before, ''].includes(server()), 'another web server');
+  await until(() => ![before, ''].includes(server()), 'another web server');
   await until(() => !fs.existsSync(`/proc/${before}`), 'the end of the one of before');
   await reaches('trial');
   assert.equal(ipv4Address(), '10.20.0.8');
@@ -313,7 +320,7 @@ test('The web server starts anew during a trial, and the watcher is killed: the 
   await until(async () => {
     await fetch('http://10.20.0.7/index.php', {signal: AbortSignal.timeout(500)}).catch(() => {});
     return trial('state') === 'undone';
-  }, 'the undoing by a request', 40);
+  }, 'the undoing by a request');
   await answersAt('10.20.0.7');
 });
 
@@ -322,7 +329,7 @@ test('IPv6 is switched on by a visitor over IPv4: proved over IPv6, and kept', {
   await open(page, 'ipv6.php');
   await page.check('#enabled');
   await press(page, 'Apply');
-  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 60000});
   assert.ok(page.url().includes('10.20.0.7'), 'the page stays where it is');
   const [user, client, what] = audit().at(-1);
   assert.deepEqual([user, what], ['admin', 'IPv6 settings kept']);
@@ -337,7 +344,7 @@ test('IPv6 is switched off by a visitor over IPv6: offered before, and proved, o
   await page.uncheck('#enabled');
   await press(page, 'Apply');
   assert.match(await page.innerText('main'), /It goes on by itself to\s+http:\/\/10\.20\.0\.7\/, where you sign in again/);
-  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+  await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 60000});
   await page.waitForSelector('form[action="signin.php"]');
   assert.equal(trial('state'), 'kept');
   await enterPassword(page);
@@ -357,7 +364,7 @@ test('IPv6 modes: nobody proves them, so that they are undone; nothing of a part
   await reaches('trial');
   assert.equal(ask('ipv6Manager.sh', '-l'), '0');
   passes(85);
-  await reaches('undone', 40);
+  await reaches('undone');
   assert.equal(ask('ipv6Manager.sh', '-l'), '1');
   await page.goto(changed);
   await page.waitForSelector('h1:text-is("Undone")');
@@ -378,11 +385,11 @@ test('HTTPS, and a browser that refuses the certificate: HTTP is back, and the p
   await page.selectOption('#trial', '60');
   await press(page, 'Save');
   await served('https');
-  await page.click('text=Continue with HTTPS').catch(() => {});
+  await page.click('text=Continue with HTTPS', {timeout: 5000}).catch(() => {});
   await page.waitForURL(/^chrome-error|https:/, {timeout: 5000}).catch(() => {});
   assert.equal(trial('state'), 'trial');
   passes(57);
-  await reaches('undone', 40);
+  await reaches('undone');
   await served('http');
   await page.goto(`${base()}index.php`);
   assert.match(await messages(page), /^Web security: Undone at [\d:]+ UTC, because nobody was back/);
@@ -400,7 +407,7 @@ test('HTTPS that nobody goes to: the page that waits comes back to HTTP', {}, as
   assert.match(await page.innerText('[data-when-there]'), /HTTPS is there/);
   assert.equal(await page.locator('progress:visible').count(), 0, 'the web server restarts no longer');
   passes(57);
-  await page.waitForURL(`${base()}applying.php`, {timeout: 40000});
+  await page.waitForURL(`${base()}applying.php`, {timeout: 60000});
   assert.match(await page.innerText('#outcome'), /^Undone at/);
 });
 
@@ -410,7 +417,7 @@ test('Under HTTPS the session moves along to another address, too', {}, async (p
   await signIn(page, 'admin', 'ipv4.php', 'https');
   await fillStatic(page, '10.20.0.8');
   await press(page, 'Apply');
-  await page.waitForURL('https://10.20.0.8/applying.php', {timeout: 30000});
+  await page.waitForURL('https://10.20.0.8/applying.php', {timeout: 60000});
   await page.waitForSelector('h1:text-is("Kept")');
   php('set_ssl_settings($session, false);');
   await served('http');
@@ -423,14 +430,14 @@ test('Without scripts the page goes to a free address by itself, without the key
     await fillStatic(page, '10.20.0.8');
     await press(page, 'Apply');
     assert.match(await page.innerText('main'), /Your browser runs no scripts, so you sign in there again/);
-    await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 30000});
+    await page.waitForURL('http://10.20.0.8/applying.php', {timeout: 60000});
     await reaches('trial');
     await enterPassword(page);
     assert.equal(await page.innerText('h1'), 'Kept');
     assert.equal(trial('state'), 'kept');
     await answersAt('10.20.0.8');
     await press(page, 'Undo now');
-    await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 30000});
+    await page.waitForURL('http://10.20.0.7/applying.php', {timeout: 60000});
     assert.equal(await page.innerText('h1'), 'Undone');
     await answersAt('10.20.0.7');
   });
@@ -490,6 +497,9 @@ test('The key is good for one use, for the right address, and for nobody who gue
   assert.equal(await use('10.20.0.8', key), true);
   assert.equal(trial('state'), 'kept');
   assert.equal(await use('10.20.0.8', key), false);
+  const signIns = fs.readFileSync(`${applianceFolder}/HTTPService/dat/audit.sign-ins`, 'utf8').trim().split('\n');
+  assert.deepEqual(signIns.filter((line) => line.includes('the key of a change')).map((line) => line.split('\t').slice(1, 4)).at(-1),
+    ['admin', '10.20.0.1', 'Signed in with the key of a change on trial.']);
   await setStatic('10.20.0.7');
 });
 
@@ -516,11 +526,11 @@ test('The trial by the keyboard alone, read out, and 390 pixels wide', {viewport
   assert.equal(await page.getAttribute('[data-countdown]', 'aria-live'), 'off', 'the seconds are not');
   assert.deepEqual(await accessibilityFaults(page), []);
   assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth));
-  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 60000});
   await stop('Undo now');
   await page.keyboard.press('Enter');
   await reaches('undone');
-  await page.waitForSelector('h1:text-is("Undone")', {timeout: 20000});
+  await page.waitForSelector('h1:text-is("Undone")', {timeout: 60000});
   assert.deepEqual(await accessibilityFaults(page), []);
   assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth));
 });
@@ -572,7 +582,7 @@ test('Who may only look sees the trial, and no buttons', {}, async (page, contex
   assert.equal(await other.locator('[data-key]').evaluateAll((all) => all.map((way) => way.dataset.key).join('')), '', 'nor the key');
   await other.context().close();
   // The page goes on by itself meanwhile.
-  await page.waitForSelector('h1:text-is("Kept")', {timeout: 30000});
+  await page.waitForSelector('h1:text-is("Kept")', {timeout: 60000});
   await press(page, 'Undo now');
   await reaches('undone');
 });

@@ -28,7 +28,7 @@ async function looksLikeThePages(page, title) {
 }
 
 test('Each error has a page with a way back, and none is like another', {}, () => {
-  const titles = ['400', '403', '404', '405', '413', '414', '421', '431', '500', '501', '503'].map((status) => {
+  const titles = ['400', '403', '404', '405', '413', '414', '416', '421', '431', '500', '501', '503'].map((status) => {
     const text = fs.readFileSync(`${web}/errors/${status}.html`, 'utf8');
     assert.match(text, /^<!DOCTYPE html>[^]*<link rel="stylesheet" href="\/style\.css">[^]*<a href="\/">To the overview<\/a>/, status);
     assert.doesNotMatch(text, /<script|style=|https?:/, status);
@@ -56,6 +56,38 @@ test('What is no request, and what the web server does not do', {}, async () => 
     const [, status] = answer.match(/^HTTP\/1\.[01] ([45]\d\d) /) ?? assert.fail(`${request.slice(0, 30)}: ${answer}`);
     assert.ok(answer.endsWith(fs.readFileSync(`${web}/errors/${status}.html`, 'utf8')), `${request.slice(0, 30)}: ${answer}`);
   }
+});
+
+test('A part of a file that is not there', {}, async (page) => {
+  const answer = await fetch(`${base()}style.css`, {headers: {range: 'bytes=99999999-'}});
+  assert.equal(answer.status, 416);
+  assert.equal(await answer.text(), fs.readFileSync(`${web}/errors/416.html`, 'utf8'));
+  await page.setExtraHTTPHeaders({range: 'bytes=99999999-'});
+  await page.route('**/*', (route) => route.continue({headers: {...route.request().headers(),
+    ...route.request().isNavigationRequest() ? {} : {range: ''}}}));
+  await page.goto(`${base()}icon.svg`);
+  await looksLikeThePages(page, 'There is no such part');
+});
+
+test('A form that is too long: refused by what it says of itself, and by what comes', {}, async (page) => {
+  const head = `POST /signin.php HTTP/1.1\r\nHost: ${ipv4Address()}\r\nConnection: close\r\n`;
+  const chunk = `4000\r\n${'x'.repeat(0x4000)}\r\n`;
+  for (const rest of ['Content-Length: 70000\r\n\r\n', `Transfer-Encoding: chunked\r\n\r\n${chunk.repeat(5)}`]) {
+    const answer = await answerTo(head + rest);
+    assert.match(answer, /^HTTP\/1\.1 413 /);
+    assert.ok(answer.endsWith(fs.readFileSync(`${web}/errors/413.html`, 'utf8')), answer);
+  }
+  // As a browser shows it that was led to send too much.
+  await page.goto(`${base()}signin.php`);
+  await page.evaluate(() => {
+    const form = document.querySelector('form[action="signin.php"]');
+    form.append(Object.assign(document.createElement('input'), {type: 'hidden', name: 'more', value: 'x'.repeat(70000)}));
+    form.noValidate = true;
+    HTMLFormElement.prototype.submit.call(form);
+  });
+  await page.waitForURL(/signin\.php/);
+  await page.waitForFunction(() => document.title.startsWith('Error: '));
+  await looksLikeThePages(page, 'This is too much at once');
 });
 
 test('While the interpreter is gone the pages say so, and afterwards they are back', {}, async (page) => {

@@ -4,7 +4,7 @@
 const assert = require('node:assert/strict');
 const fs = require('node:fs');
 const net = require('node:net');
-const {applianceFolder, ipv4Address, php, until, withScript} = require('./appliance.cjs');
+const {applianceFolder, ipv4Address, php, until, withScript, writeAsPages} = require('./appliance.cjs');
 const {base, beside, certificate, enterPassword, messages, open, press, served, sessionCookie, signIn, test} = require('./browser.cjs');
 
 // Of somebody who was signed in when HTTPS was switched on; whoever listened in knows it.
@@ -27,7 +27,7 @@ test('HTTPS is switched on: the page comes back encrypted, with a cookie of its 
   assert.equal(shown, fingerprint256, 'what is to be compared is shown before the page goes on');
   assert.match(await beside(page, 'For'), new RegExp(`library.*${ipv4Address().replaceAll('.', '\\.')}`));
   await page.click('text=Continue with HTTPS');
-  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 20000});
+  await page.waitForURL(`https://${ipv4Address()}/applying.php`, {timeout: 60000});
   assert.equal(subject.CN, 'library');
   assert.ok(subjectaltname.includes(`IP Address:${ipv4Address()}`), subjectaltname);
   await enterPassword(page);
@@ -53,7 +53,7 @@ test('A session that has travelled unencrypted is of no use under HTTPS, whateve
   assert.equal(await asks(`${base('https')}dns.php`, `${name}=${value}`), false);
   // As if it had been made before HTTPS was switched on.
   const file = `${applianceFolder}/HTTPService/dat/sessions/sess_${value}`;
-  fs.writeFileSync(file, fs.readFileSync(file, 'utf8').replace('https|b:1;', 'https|b:0;'));
+  writeAsPages(file, fs.readFileSync(file, 'utf8').replace('https|b:1;', 'https|b:0;'));
   assert.equal(await asks(`${base('https')}dns.php`, `${name}=${value}`), true);
 });
 
@@ -73,7 +73,7 @@ test('HTTPS is switched off: the page comes back without it', {}, async (page) =
   await signIn(page, 'admin', 'security.php', 'https');
   await page.check('#https-0');
   await press(page, 'Save');
-  await page.waitForURL(`http://${ipv4Address()}/applying.php`, {timeout: 20000});
+  await page.waitForURL(`http://${ipv4Address()}/applying.php`, {timeout: 60000});
   await enterPassword(page);
   assert.equal(await page.innerText('h1'), 'Kept');
   // What travelled unencrypted before HTTPS was on is not good again.
@@ -118,7 +118,7 @@ test('Without scripts the pages come back in the other mode as well', {javaScrip
       await served('https');
       await page.click('text=Continue with HTTPS');
     }
-    await page.waitForURL(`${scheme}://${ipv4Address()}/applying.php`, {timeout: 20000});
+    await page.waitForURL(`${scheme}://${ipv4Address()}/applying.php`, {timeout: 60000});
     await enterPassword(page);
     assert.equal(await page.innerText('h1'), 'Kept');
     await open(page, 'security.php');

@@ -12,6 +12,8 @@
 #
 #   is TITLE EXPECTED ACTUAL
 #   like TITLE PATTERN ACTUAL               the pattern is a regular expression
+#   at_most TITLE NUMBER ACTUAL             the actual one is a whole number, too
+#   at_least TITLE NUMBER ACTUAL            the same
 #   holds TITLE COMMAND...                  the command ends with 0; an expectation (below) is a command, too
 #   refused TITLE STATUS PATTERN COMMAND... it ends with the status, prints nothing, says one sentence: four tests
 #   finish
@@ -59,6 +61,8 @@ try() {
 
 is() { try "$1" expect_equal "$2" "$3"; }
 like() { try "$1" expect_match "$2" "$3"; }
+at_most() { try "$1" expect_at_most "$2" "$3"; }
+at_least() { try "$1" expect_at_least "$2" "$3"; }
 holds() { try "$1" expect_status 0 "${@:2}"; }
 refused() {
   local title=$1 status=$2 pattern=$3
@@ -89,6 +93,8 @@ fail() {
 }
 
 expect_equal() { [[ $2 == "$1" ]] || fail "expected: $1" "but was:  $2"; }
+expect_at_most() { if [[ ! $2 =~ ^-?[0-9]+$ ]] || (($2 > $1)); then fail "expected: at most $1" "but was:  $2"; fi; }
+expect_at_least() { if [[ ! $2 =~ ^-?[0-9]+$ ]] || (($2 < $1)); then fail "expected: at least $1" "but was:  $2"; fi; }
 expect_match() { [[ $2 =~ $1 ]] || fail "expected: $1" "but was:  $2"; }
 
 expect_status() {

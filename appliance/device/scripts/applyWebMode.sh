@@ -9,16 +9,18 @@
 # shellcheck disable=SC2154 # variables are set by the functions that read into them
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
+behind_the_door "$@"
 # shellcheck source=SCRIPTDIR/management.sh
 . "$BIN/management.sh"
+# shellcheck source=SCRIPTDIR/web_server.sh
+. "$BIN/web_server.sh"
+# shellcheck source=SCRIPTDIR/certificate.sh
+. "$BIN/certificate.sh"
 
-CONFIGURATION=$LIBRARY/HTTPService/lighttpd/conf
 SOCKETS=$CONFIGURATION/sockets # "http ADDRESS:PORT" and "https ...", and "published HTTP:HTTPS", the ports outside
 MODE=$CONFIGURATION/mode.conf
 KEY=$CONFIGURATION/key.pem
-CERTIFICATE=$CONFIGURATION/certificate.pem
 CERTIFICATE_NAMES=$CONFIGURATION/certificate.names
-WEB_SERVER_PROCESS=$RUN/web/lighttpd.pid
 DAYS_VALID=825
 RENEWED_BEFORE=2592000 # seconds before its end
 
@@ -36,8 +38,9 @@ certificate_names() {
 require_certificate() {
   names=$(certificate_names)
   read_line names_of_before "$CERTIFICATE_NAMES"
+  give_key_to_the_server
   [ "$names_of_before" = "$names" ] && is_usable "$RENEWED_BEFORE" && return
-  (umask 077 && make_certificate "$names") 2>"$RUN/certificate.log" && return
+  (umask 077 && make_certificate "$names") 2>"$RUN/certificate.log" && give_key_to_the_server && return
   reason="no certificate can be made: $(tail -n 1 "$RUN/certificate.log")"
   is_usable 0 || fail "$reason"
   complain "$reason; the one that is there stays in use"
@@ -45,7 +48,7 @@ require_certificate() {
 
 # is_usable SECONDS: for so long.
 is_usable() {
-  is_of_key && openssl x509 -checkend "$1" -noout -in "$CERTIFICATE" >/dev/null 2>&1
+  is_of_key && is_of_a_server && openssl x509 -checkend "$1" -noout -in "$CERTIFICATE" >/dev/null 2>&1
 }
 
 # With a certificate of another key, as a change leaves it that was interrupted, the web server would not start.
@@ -54,14 +57,33 @@ is_of_key() {
     [ "$(openssl x509 -in "$CERTIFICATE" -noout -pubkey 2>/dev/null)" = "$public" ]
 }
 
+# Earlier ones were those of an authority: who trusted one trusted whatever its key signs.
+is_of_a_server() {
+  openssl x509 -in "$CERTIFICATE" -noout -ext basicConstraints 2>/dev/null | grep -q CA:FALSE
+}
+
+# The only one that reads it.
+give_key_to_the_server() {
+  [ -f "$KEY" ] && find_user web || return 0
+  chown -h "$user:$group" "$KEY"
+}
+
+# The request's settings; those of the machine would make it an authority's.
+certificate_settings() {
+  printf '%s\n' '[req]' 'distinguished_name = name' 'x509_extensions = server' '[name]' '[server]' \
+    'basicConstraints = critical, CA:FALSE' 'keyUsage = critical, digitalSignature, keyEncipherment' \
+    'extendedKeyUsage = serverAuth' 'subjectKeyIdentifier = hash' "subjectAltName = $1"
+}
+
 make_certificate() {
   if ! openssl pkey -in "$KEY" -noout 2>/dev/null; then
     key=$(openssl genrsa 3072) && store_file "$KEY" "$key" || return
   fi
   common_name=${1#DNS:}
-  certificate=$(openssl req -new -x509 -sha256 -key "$KEY" -days "$DAYS_VALID" -subj "/CN=${common_name%%,*}" \
-    -addext "subjectAltName=$1") &&
-    store_file "$CERTIFICATE" "$certificate" && store_file "$CERTIFICATE_NAMES" "$1"
+  certificate_settings "$1" >"$RUN/certificate.settings" &&
+    certificate=$(openssl req -new -x509 -sha256 -config "$RUN/certificate.settings" -key "$KEY" -days "$DAYS_VALID" \
+      -subj "/CN=${common_name%%,*}") &&
+    (umask 022 && store_file "$CERTIFICATE" "$certificate") && store_file "$CERTIFICATE_NAMES" "$1"
 }
 
 # The first address is the server's own, in the terms of its configuration; the others are further ones.
@@ -87,6 +109,15 @@ listen_to_https() {
   done <"$SOCKETS"
 }
 
+# Browsers are to insist on HTTPS, but not beyond its end: those that look at the pages on which it is switched off
+# forget it before, the others within minutes.
+insist_on_https() {
+  printf '%s\n' '$HTTP["scheme"] == "https" {' \
+    '  setenv.add-response-header = ( "Strict-Transport-Security" => "max-age=300" )' \
+    '  $HTTP["url"] =~ "^/(security|applying|trial)\.php" {' \
+    '    setenv.add-response-header = ( "Strict-Transport-Security" => "max-age=0" )' '  }' '}'
+}
+
 # redirect HOST-EXPRESSION PORT: what is asked for by HTTP is to be asked for again.
 redirect() {
   printf '  $HTTP["host"] =~ "%s" { url.redirect = ( "" => "https://%%1%s${url.path}${qsa}" ) }\n' "$1" "$2"
@@ -94,7 +125,9 @@ redirect() {
 
 redirect_http() {
   # Not for good: the mode can be switched off again.
-  printf '%s\n' '$HTTP["scheme"] == "http" {' '  url.redirect-code = 307'
+  printf '%s\n' '$HTTP["scheme"] == "http" {' '  url.redirect-code = 307' \
+    '  $HTTP["url"] =~ "(\.php|/)$" {' \
+    '    setenv.add-response-header = ( "Content-Security-Policy" => "default-src '"'none'; frame-ancestors 'none'"'" )' '  }'
   ports=$(sed -n 's/^published //p' "$SOCKETS")
   if [ -n "$ports" ]; then
     redirect "^(.+):${ports%:*}\$" ":${ports#*:}"
@@ -108,7 +141,7 @@ redirect_http() {
 mode_configuration() {
   listen_to_http || return
   [ "$1" = 1 ] || return 0
-  listen_to_https && redirect_http
+  listen_to_https && insist_on_https && redirect_http
 }
 
 store_mode() {
@@ -123,29 +156,18 @@ require_that_the_server_takes_it() {
   fail "the web server does not take its new configuration: $(printf '%s\n' "$refusal" | tail -n 1)"
 }
 
-# Starting anew by itself, the server takes new connections all the while; but only webServer.sh, its parent, can have
-# it give up the sockets of HTTPS.
-restart_web_server() {
-  [ -s "$WEB_SERVER_PROCESS" ] || return 0
-  read -r process <"$WEB_SERVER_PROCESS"
-  signal=USR1
-  if [ "$1" = 0 ]; then
-    read -r _ _ _ process _ <"/proc/$process/stat"
-    signal=HUP
-  fi 2>/dev/null
-  kill -s "$signal" "$process" 2>/dev/null || complain "the web server is not running"
-}
-
 apply_mode() {
   enabled=$(query 'SELECT ssl_enabled FROM settings') || fail 'the SSL mode cannot be read'
   case $enabled in 0 | 1) ;; *) fail 'the SSL mode is missing in the management database' ;; esac
   [ "$enabled" = 0 ] || require_certificate
+  print_certificate >/dev/null
+  store_names
   rm -f "$MODE.before"
   ln "$MODE" "$MODE.before" 2>/dev/null
   store_mode "$enabled" || fail "$MODE cannot be written"
   require_that_the_server_takes_it
   rm -f "$MODE.before"
-  restart_web_server "$enabled"
+  if [ "$enabled" = 1 ]; then restart_web_server; else restart_web_server HUP; fi
 }
 
 # As setSSLEnabled does it, when it is not interrupted.

@@ -7,9 +7,10 @@
 # shellcheck source=SCRIPTDIR/management.sh
 . "$BIN/management.sh"
 
-COUNT=100
+# A page keeps 500 changes, and the services note three operations for one of the SNMP agent.
+COUNT=1500
 
 [ $# = 0 ] || refuse_call 'none' "$@"
 [ -s "$DATABASE" ] || exit 0 # nothing was changed yet
-exec sqlite3 -readonly -batch -ascii -cmd '.timeout 10000' "$DATABASE" \
+as_its_owner sqlite3 -readonly -batch -ascii -cmd '.timeout 10000' "$DATABASE" \
   "SELECT time, user, operation, \"values\", result FROM audit ORDER BY number DESC LIMIT $COUNT"

@@ -3,6 +3,8 @@
 
 # shellcheck source=SCRIPTDIR/transaction.sh
 . "$BIN/transaction.sh"
+# shellcheck source=SCRIPTDIR/web_server.sh
+. "$BIN/web_server.sh"
 # shellcheck source=SCRIPTDIR/host_name.sh
 . "$BIN/host_name.sh"
 # shellcheck source=SCRIPTDIR/port.sh

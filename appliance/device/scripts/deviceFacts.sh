@@ -13,22 +13,18 @@
 . "$BIN/name_servers.sh"
 # shellcheck source=SCRIPTDIR/ipv6.sh
 . "$BIN/ipv6.sh"
+# shellcheck source=SCRIPTDIR/certificate.sh
+. "$BIN/certificate.sh"
 
 WEB_CONFIGURATION=$LIBRARY/HTTPService/lighttpd/conf
-WEB_SERVER_PROCESS=$RUN/web/lighttpd.pid
-CERTIFICATE=$WEB_CONFIGURATION/certificate.pem
-CERTIFICATE_CACHE=$RUN/certificate.facts # the certificate on the first line, what it says on the others
 DATABASE=$LIBRARY/CoreService/dat/management.db
+DAMAGED=11 # of sqlite3
+NO_DATABASE=26
 
 # In the terms of version 3: a question of somebody who does not know the agent yet. It is answered whatever users,
 # communities and versions there are, so that no secret is needed here, nor to be seen in the list of processes.
 AGENT_QUESTION='\060\076\002\001\003\060\021\002\004\021\042\063\104\002\003\000\377\343\004\001\004\002\001\003\004\020\060\016\004\000\002\001\000\002\001\000\004\000\004\000\004\000\060\024\004\000\004\000\240\016\002\004\021\042\063\104\002\001\000\002\001\000\060\000'
 SECONDS_TO_ANSWER=1
-
-# fact NAME VALUE
-fact() {
-  [ -z "$2" ] || printf '%s %s\n' "$1" "$2"
-}
 
 print_agent() {
   command -v socat >/dev/null || return
@@ -40,8 +36,7 @@ print_agent() {
   [ -n "$reply" ] || fact snmp.answers no
 }
 
-# What the web server is configured for, and has been since its start. While the file is younger than that, the server may
-# be in another mode.
+# What the web server is configured for.
 print_web_mode() {
   [ -r "$WEB_CONFIGURATION/mode.conf" ] || return
   mode=http
@@ -49,48 +44,21 @@ print_web_mode() {
     case $line in ssl.*) mode=https ;; esac
   done <"$WEB_CONFIGURATION/mode.conf"
   fact web.configured-mode "$mode"
-  # shellcheck disable=SC3013 # every shell that a Debian system has as /bin/sh compares times
-  [ ! -s "$WEB_SERVER_PROCESS" ] || [ "$WEB_CONFIGURATION/mode.conf" -nt "$WEB_SERVER_PROCESS" ] || fact web.mode "$mode"
 }
 
-# The stored mode, and what a start says about settings that it found damaged, until one of them is changed.
+# Whether the management services find their settings, the stored mode, and what a start says about settings that it found
+# damaged, until one of them is changed. A database that cannot be opened, or is in use for long, may be a good one.
 print_stored() {
   [ -s "$DATABASE" ] || return
   sqlite3 -readonly -batch -cmd '.timeout 500' "$DATABASE" "
+    SELECT 'services.readable ' || CASE count(*) WHEN 3 THEN 'yes' ELSE 'no' END FROM sqlite_master
+      WHERE type = 'table' AND name IN ('settings', 'snmp_versions', 'trap_registrations');
+    SELECT 'services.readable no' WHERE (SELECT count(*) FROM settings) <> 1;
     SELECT 'web.stored-mode ' || CASE ssl_enabled WHEN 0 THEN 'http' WHEN 1 THEN 'https' END FROM settings;
     SELECT 'settings.restored ' || replace(\"values\", char(10), ' ') FROM
       (SELECT * FROM audit WHERE operation = 'restoreSettings' OR result = 'stored' ORDER BY number DESC LIMIT 1)
-      WHERE operation = 'restoreSettings'"
-}
-
-# Taking it apart takes longer than all the rest: once for each certificate.
-print_certificate() {
-  [ -s "$CERTIFICATE" ] && [ -r "$CERTIFICATE" ] || return
-  certificate=
-  while IFS= read -r line; do certificate="$certificate$line "; done <"$CERTIFICATE"
-  read_line known "$CERTIFICATE_CACHE"
-  if [ "$known" != "$certificate" ]; then
-    facts=$(certificate_facts)
-    [ -n "$facts" ] || return
-    replace_file "$CERTIFICATE_CACHE" "$certificate
-$facts" 2>/dev/null # somebody without rights takes it apart each time
-    printf '%s\n' "$facts"
-    return
-  fi
-  while IFS= read -r line; do
-    [ "$line" = "$certificate" ] || printf '%s\n' "$line"
-  done <"$CERTIFICATE_CACHE"
-}
-
-certificate_facts() {
-  /bin/sh "$BIN/certificateFacts.sh" | while IFS= read -r line; do
-    text=${line#*=}
-    case $line in
-    'SHA-256 fingerprint='*) fact certificate.fingerprint "$text" ;;
-    'For='*) fact certificate.names "$text" ;;
-    'Valid until='*) fact certificate.end "$(date -u -d "$text" +%s)" ;;
-    esac
-  done
+      WHERE operation = 'restoreSettings'" 2>/dev/null
+  case $? in "$DAMAGED" | "$NO_DATABASE") fact services.readable no ;; esac
 }
 
 # Whether the name server comes from the setting or with a lease.
@@ -197,3 +165,4 @@ elif command -v ip >/dev/null; then
   print_name_servers
 fi
 wait
+fact end yes # without it something was not said

@@ -6,4 +6,4 @@
 
 [ $# = 0 ] || refuse_call 'none' "$@"
 # shellcheck disable=SC2016 # the variable is PHP's
-exec php -n -r 'require $argv[1]; make_first_accounts();' "$LIBRARY/HTTPService/lighttpd/shared/page.php"
+as_user pages php -n -r 'require $argv[1]; make_first_accounts();' "$LIBRARY/HTTPService/lighttpd/shared/page.php"

@@ -9,5 +9,9 @@ apply_host_name() {
   hostname "$host_name" || return
   # The command passes over most of what the kernel can have against it.
   read_line name_in_force /proc/sys/kernel/hostname
-  [ "$name_in_force" = "$host_name" ]
+  [ "$name_in_force" = "$host_name" ] || return
+  # The web server takes it up within a minute (housekeeping.sh): starting anew it would cut off whoever is just connecting.
+  # One that starts later asks for the name itself. What it cannot be told is no reason for another name.
+  [ ! -s "$WEB_SERVER_PROCESS" ] || store_names
+  return 0
 }

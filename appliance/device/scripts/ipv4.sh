@@ -29,9 +29,9 @@ assign_ipv4() {
 # Returns with the first lease, or after five tries; the client then goes on in the background. It holds a
 # lock for as long as it lives, which is what stop_dhcpv4 waits for.
 start_dhcpv4() {
-  (
+  (umask 077 && : >>"$RUN/dhcpv4.running") && (
     flock 8
-    exec udhcpc -i "$PRIMARY" -b -R -t 5 -T 1 -A 5 -p "$RUN/dhcpv4.pid" -s "$BIN/dhcpv4Event.sh" \
+    with_rights ,+net_admin,+net_raw,+net_bind_service udhcpc -i "$PRIMARY" -b -R -t 5 -T 1 -A 5 -p "$RUN/dhcpv4.pid" -s "$BIN/dhcpv4Event.sh" \
       </dev/null >/dev/null 2>&1 9>&-
   ) 8>>"$RUN/dhcpv4.running" && return
   complain 'the DHCP client could not be started'

@@ -102,8 +102,8 @@ assign_static_ipv6() {
 start_dhcpv6() {
   # shellcheck disable=SC2016 # the inner shell's
   unshare --mount sh -c '
-    grep -v "^dhcpcd:" /etc/passwd >"$1" && mount --bind "$1" /etc/passwd && shift && "$@" 9>&-' start_dhcpv6 \
-    "$RUN/passwd" dhcpcd -6 -b -q -f "$BIN/dhcpv6.conf" -c "$BIN/dhcpv6Event.sh" "$PRIMARY" \
+    grep -v "^dhcpcd:" /etc/passwd >"$1" && mount --bind "$1" /etc/passwd && . "$2" && shift 2 && with_rights "$@" 9>&-' "$0" \
+    "$RUN/passwd" "$BIN/device.sh" ,+net_admin,+net_raw,+net_bind_service dhcpcd -6 -b -q -f "$BIN/dhcpv6.conf" -c "$BIN/dhcpv6Event.sh" "$PRIMARY" \
     </dev/null >/dev/null 2>&1 && return
   complain 'the DHCPv6 client could not be started'
   return 1

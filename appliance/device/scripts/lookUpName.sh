@@ -15,6 +15,7 @@ OUT_OF_TIME=124 # of timeout
 refuse_overlong "$@"
 has_program getent || exit 1
 [ "$1" != -q ] || exit 0
+behind_the_door "$@"
 case $1 in
 *:*) kind=address ;;
 *[!0-9.]*) kind=name ;;
@@ -28,7 +29,7 @@ else
   set -- ahosts "$1"
 fi
 one_at_a_time
-said=$(within_time getent "$@")
+said=$(within_time as_user pages getent "$@")
 status=$?
 case $status in
 0) ;;

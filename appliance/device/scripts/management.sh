@@ -10,8 +10,14 @@ DATABASE=$LIBRARY/CoreService/dat/management.db
 # query STATEMENT: the rows, columns separated by blanks.
 query() {
   [ -s "$DATABASE" ] || fail "the management database $DATABASE is missing"
-  sqlite3 -separator ' ' -cmd '.timeout 10000' "file:$DATABASE?mode=rw" "$1"
+  as_its_owner sqlite3 -separator ' ' -cmd '.timeout 10000' "file:$DATABASE?mode=rw" "$1"
 }
+
+# What lies in the database's folder is its owner's: a link there is nothing that root should follow.
+as_its_owner() (
+  if [ -O "$DATABASE" ]; then exec "$@"; fi
+  as_user pages "$@"
+)
 
 # store_file FILE TEXT: like `store`, in any folder. Without room for the text the old file stays; one that holds the
 # text already needs none.

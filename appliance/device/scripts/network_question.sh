@@ -26,7 +26,11 @@ one_at_a_time() {
   flock -n 9 || exit "$BUSY"
 }
 
-# within_time COMMAND...
-within_time() {
-  timeout -k 1 "$QUESTION_SECONDS" "$@" 2>&1
-}
+# within_time FUNCTION ARGUMENT... PROGRAM ARGUMENT...: with the rights of the function, with_rights or as_user. Each has one
+# argument of its own.
+within_time() (
+  rights="$1 $2"
+  shift 2
+  # shellcheck disable=SC2086 # two words
+  $rights timeout -k 1 "$QUESTION_SECONDS" "$@" 2>&1
+)

@@ -34,6 +34,7 @@ probe_ipv6() {
 
 [ $# = 1 ] || refuse_call 'ADDRESS' "$@"
 refuse_overlong "$@"
+behind_the_door "$@"
 ! in_place || exit 1
 command -v ip >/dev/null || exit 1
 case $1 in

@@ -6,4 +6,4 @@
 
 [ $# = 1 ] || refuse_call 'NAME' "$@"
 # shellcheck disable=SC2016 # the variable is PHP's
-exec php -n -r 'require $argv[1]; reset_password($argv[2]);' "$LIBRARY/HTTPService/lighttpd/shared/page.php" "$1"
+as_user pages php -n -r 'require $argv[1]; reset_password($argv[2]);' "$LIBRARY/HTTPService/lighttpd/shared/page.php" "$1"

@@ -3,10 +3,12 @@
 # agent answers.
 # shellcheck source=SCRIPTDIR/device.sh
 . "${0%/*}/device.sh"
+
+[ $# = 0 ] || refuse_call 'none' "$@"
+behind_the_door "$@"
 # shellcheck source=SCRIPTDIR/management.sh
 . "$BIN/management.sh"
 # shellcheck source=SCRIPTDIR/snmp.sh
 . "$BIN/snmp.sh"
 
-[ $# = 0 ] || refuse_call 'none' "$@"
 restart_agent

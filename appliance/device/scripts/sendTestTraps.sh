@@ -12,12 +12,12 @@
 RESULTS_OF_NOW=$TEST_RESULTS.$$
 CLOSED='Nothing listens at this port.'
 
-# test_receiver VERSION RECEIVER: prints what is wrong, and adds a line to the results. Both questions take their time at
-# once.
+# test_receiver VERSION RECEIVER: prints what is wrong, and the line of the results behind the word "result". Both questions
+# take their time at once.
 test_receiver() {
   said=$(
     { ! is_port_closed "$2" || line "$CLOSED"; } &
-    send_test_trap "$1" "$community" "$2" 2>&1
+    send_test_trap "$1" "$2" 2>&1
     wait
   )
   wrong=$(line "$said" | grep -vxF -e "$CLOSED" -e '')
@@ -28,7 +28,13 @@ test_receiver() {
   udp*,,*) outcome=sent ;;
   *) outcome=unreachable ;;
   esac
-  line "$2 $1 $outcome" >>"$RESULTS_OF_NOW"
+  line "result $2 $1 $outcome"
+}
+
+# keep_results BEGAN RESULTS: all of them or, where there is no room, none.
+keep_results() {
+  [ ! -d "$TEST_RESULTS" ] && (printf 'time %s\n%s\n' "$1" "$2" >"$RESULTS_OF_NOW" &&
+    mv -f "$RESULTS_OF_NOW" "$TEST_RESULTS") 2>/dev/null
 }
 
 # is_port_closed RECEIVER: whether the other side says so, within half a second of the question. Who sends a trap by UDP is not told
@@ -46,17 +52,18 @@ is_port_closed() {
 
 [ $# = 0 ] || refuse_call 'none' "$@"
 rm -f "$TEST_RESULTS" 2>/dev/null
-restart_agent # sets receivers, trap1, trap2 and community
+restart_agent # sets receivers, trap1 and trap2
 [ -n "$receivers" ] || exit 0
 [ "$trap1$trap2" != 00 ] || fail 'no version of traps is on: nothing can be sent to the registered receivers'
 trap 'rm -f "$RESULTS_OF_NOW"' EXIT
-(line "time $(date +%s)" >"$RESULTS_OF_NOW") 2>/dev/null || complain 'what becomes of each trap cannot be kept'
-unsent=$(
+began=$(date +%s)
+said=$(
   for receiver in $receivers; do
     [ "$trap1" = 0 ] || test_receiver 1 "$receiver" &
     [ "$trap2" = 0 ] || test_receiver 2c "$receiver" &
   done 2>/dev/null
   wait
 )
-[ -d "$TEST_RESULTS" ] || mv -f "$RESULTS_OF_NOW" "$TEST_RESULTS" 2>/dev/null
+keep_results "$began" "$(line "$said" | sed -n 's/^result //p')" || complain 'what became of each trap cannot be kept'
+unsent=$(line "$said" | grep -v '^result ')
 [ -z "$unsent" ] || fail "$unsent"

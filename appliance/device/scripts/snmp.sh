@@ -5,6 +5,7 @@
 AGENT_STATE=$LIBRARY/CoreService/dat/snmp # what the agent keeps, and its version 3 user
 AGENT_USER=$AGENT_STATE/user              # name and passphrase
 AGENT_CONFIGURATION=$RUN/snmpd.conf
+AGENT_CLIENTS=$RUN/snmp # the settings of the programs that ask the agent, and send traps: everybody can read a command line
 AGENT_PROCESS=$RUN/snmpd.pid
 AGENT_LOG=$RUN/snmpd.log
 AGENT_LOCK=$RUN/snmpd.lock
@@ -16,7 +17,7 @@ fi
 SYSTEM_UPTIME=.1.3.6.1.2.1.1.3.0
 TEST_TRAP=.1.3.6.1.4.1.8072.2.3.0.1 # net-snmp's example notification
 
-export SNMP_PERSISTENT_DIR="$AGENT_STATE" MIBS=
+export SNMP_PERSISTENT_DIR="$AGENT_STATE" SNMPCONFPATH="$AGENT_CLIENTS" MIBS=
 
 # How long the receivers of traps can keep a start waiting: the first three together, less than 5 seconds. The agent
 # connects to them before it has started; afterwards it waits for none.
@@ -119,19 +120,29 @@ agent_configuration() {
   done
 }
 
+client_settings() {
+  line "defCommunity $(quoted "$community")"
+  line "defSecurityName $user"
+  line 'defSecurityLevel authNoPriv'
+  line 'defAuthType MD5'
+  line "defAuthPassphrase $passphrase"
+}
+
+# Both are root's alone.
 store_agent_configuration() {
-  configuration=$(agent_configuration) && (umask 077 && store_file "$AGENT_CONFIGURATION" "$configuration")
+  configuration=$(agent_configuration) && settings=$(client_settings) && (umask 077 && mkdir -p "$AGENT_CLIENTS" &&
+    store_file "$AGENT_CONFIGURATION" "$configuration" && store_file "$AGENT_CLIENTS/snmp.conf" "$settings")
 }
 
 # Waits until it does, 2.5 seconds at most: it listens already. As restart_agent has read the settings.
 agent_answers() {
   set -- $STATELESS -t 0.5 -r 4 -Oqv
   if [ "$version3" = 1 ]; then
-    set -- "$@" -v 3 -l authNoPriv -u "$user" -a MD5 -A "$passphrase"
+    set -- "$@" -v 3
   elif [ "$version2" = 1 ]; then
-    set -- "$@" -v 2c -c "$community"
+    set -- "$@" -v 2c
   elif [ "$version1" = 1 ]; then
-    set -- "$@" -v 1 -c "$community"
+    set -- "$@" -v 1
   else
     return 0 # it is to answer nobody
   fi
@@ -154,8 +165,8 @@ stop_agent() {
 
 # Without SMUX, for which it would listen to TCP as well. The agent must not keep the lock.
 start_agent() {
-  timeout -s KILL "$SECONDS_TO_START" setsid snmpd -I -smux -C -c "$AGENT_CONFIGURATION" -p "$AGENT_PROCESS" \
-    -Lf "$AGENT_LOG" 9>&- </dev/null >/dev/null 2>&1
+  (with_rights ,+net_bind_service timeout -s KILL "$SECONDS_TO_START" setsid snmpd -I -smux -C -c "$AGENT_CONFIGURATION" \
+    -p "$AGENT_PROCESS" -Lf "$AGENT_LOG" 9>&- </dev/null >/dev/null 2>&1)
 }
 
 # For a receiver that became silent just now.
@@ -184,11 +195,11 @@ restart_agent() {
   exec 9>&-
 }
 
-# send_test_trap VERSION COMMUNITY RECEIVER
+# send_test_trap VERSION RECEIVER: with the community that restart_agent has stored for the programs.
 send_test_trap() {
   if [ "$1" = 1 ]; then
-    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 -c "$2" "$3" "${TEST_TRAP%.0.1}" '' 6 1 ''
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v 1 "$2" "${TEST_TRAP%.0.1}" '' 6 1 ''
   else
-    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" -c "$2" "$3" '' "$TEST_TRAP"
-  fi || complain "no version $1 trap could be sent to $3"
+    timeout "$SECONDS_TO_SEND" snmptrap $STATELESS -v "$1" "$2" '' "$TEST_TRAP"
+  fi || complain "no version $1 trap could be sent to $2"
 }

@@ -20,7 +20,7 @@ lock_settings() {
 # take_settings_lock [OPTION...]: options of flock.
 take_settings_lock() {
   # "exec" alone would end the script where it fails.
-  { mkdir -p "$RUN" && command exec 9>>"$RUN/settings.lock"; } || fail "the lock $RUN/settings.lock cannot be taken"
+  { mkdir -p "$RUN" && (umask 077 && : >>"$RUN/settings.lock") && command exec 9>>"$RUN/settings.lock"; } || fail "the lock $RUN/settings.lock cannot be taken"
   flock "$@" 9
 }
 

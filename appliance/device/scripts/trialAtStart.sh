@@ -7,4 +7,4 @@
 [ $# = 0 ] || refuse_call 'none' "$@"
 [ -s "$LIBRARY/HTTPService/dat/trial" ] || exit 0
 # shellcheck disable=SC2016 # the variable is PHP's
-exec php -r 'require $argv[1]; undo_at_start();' "$LIBRARY/HTTPService/lighttpd/shared/page.php"
+as_user pages php -r 'require $argv[1]; undo_at_start();' "$LIBRARY/HTTPService/lighttpd/shared/page.php"

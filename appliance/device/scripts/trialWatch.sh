@@ -16,7 +16,7 @@ done
 log=$PAGES/logs/trial.log
 (: >>"$log") 2>/dev/null || log=/dev/null
 # shellcheck disable=SC2016 # the variables are the inner shell's and PHP's
-setsid sh -c '
+as_user pages setsid sh -c '
   for start in 1 2 3 4 5 6 7 8 9 10; do
     php -r "require \$argv[1]; watch_trial();" "$1"
     status=$?

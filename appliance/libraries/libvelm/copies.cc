@@ -86,12 +86,23 @@ std::int64_t SettingsRows(Database& database) {
   return count.Integer(0);
 }
 
+// What root makes here belongs to whom the database belongs to: another user than root may be the one that
+// replaces it.
+void GiveToOwnerOf(const std::string& path, const std::string& file) {
+  struct stat status = {};
+  if (geteuid() == 0 && stat(path.c_str(), &status) == 0 &&
+      lchown(file.c_str(), status.st_uid, status.st_gid) != 0) {
+    FailAt(file);
+  }
+}
+
 void KeepCopy(Database& database, const std::string& path) {
   const FileLock turn(path + ".copy_lock", Patience);
   const std::string fresh = path + ".copy.new";
   Remove(fresh);
   if (SettingsRows(database) != 1) return;
   database.Prepare("VACUUM INTO ?").Bind(fresh).Step();
+  GiveToOwnerOf(path, fresh);
   Replace(path + ".copy", fresh);
 }
 

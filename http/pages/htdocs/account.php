@@ -43,7 +43,7 @@ function change_own_password($session)
     if (!$errors && $new === text_of($_POST, 'old_password')) {
         $errors['new_password'] = 'This is the old password.';
     }
-    $wrong = $errors ? '' : error_of_own_password($session, 'old_password');
+    $wrong = $errors ? '' : error_of_own_password($session, 'old_password', $session->user);
     if ($wrong != '') {
         $errors['old_password'] = $wrong;
     }
@@ -70,10 +70,12 @@ function change_other_password($session, $name)
     $new = text_of($_POST, 'other_password');
     $accounts = read_accounts();
     if (!may_change($session) || !isset($accounts[$name])) {
+        audit_refusal($session, 'rights', 'Changing the password of another account was refused.',
+            may_change($session) ? 'there is no such account' : 'the role may only look');
         refuse('403 Forbidden', 'Nothing was changed', 'Only the role admin may set the password of another account.');
     }
     $errors = errors_of_new_password('other_', $name);
-    $wrong = $errors ? '' : error_of_own_password($session, 'own_password');
+    $wrong = $errors ? '' : error_of_own_password($session, 'own_password', $name);
     if ($wrong != '') {
         $errors['own_password'] = $wrong;
     }
@@ -104,15 +106,18 @@ function errors_of_new_password($prefix, $name)
         : array($prefix . 'password_again' => 'The two are not the same.');
 }
 
-// Guesses have to wait longer and longer here, too.
-function error_of_own_password($session, $field)
+// Guesses have to wait longer and longer here, too, and are in the audit. $account: whose password is to be changed.
+function error_of_own_password($session, $field, $account)
 {
     $count = session_attempt_key();
     $seconds = seconds_until_attempt($count);
+    $what = 'Changing the password of ' . $account . ' was refused.';
     if ($seconds > 0) {
+        audit_refusal($session, 'account', $what, 'too many attempts');
         return wait_sentence($seconds);
     }
     if (role_by_password($session->user, text_of($_POST, $field)) == '') {
+        audit_refusal($session, 'account', $what, 'wrong own password');
         return 'This is not your password.';
     }
     attempt_succeeded($count);

@@ -92,6 +92,7 @@ function look_at($session, $text, $applies)
         return $file['errors'];
     }
     $results = $applies ? apply_chosen($session, $file['parts']) : array();
+    ask_device();
     $now = parts_of_now($session);
     $compared = compare_parts($now, $file['parts']);
     if (!$applies) {
@@ -99,6 +100,7 @@ function look_at($session, $text, $applies)
             $compared['rows'] ? 'Differs: ' . titles_of_parts(array_keys($compared['rows'])) . '.' : 'Nothing differs.', 'backup');
     }
     return_to_session();
+    ask_device(false);
     $seen = array();
     foreach ($compared['rows'] as $section => $rows) {
         if (isset($GLOBALS['parts_on_trial'][$section])) {

@@ -10,7 +10,11 @@ $is_known = could_read();
 $errors = array();
 $meanwhile = array();
 $labels = array('dnsPrimary' => 'Primary server', 'dnsSecondary' => 'Secondary server');
-$seen = array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary);
+$seen = !$is_known ? array() : array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary);
+if (!$is_known) {
+    $settings->dnsPrimary = null;
+    $settings->dnsSecondary = null;
+}
 if (is_post()) {
     $settings = new DnsSettings();
     $settings->dnsPrimary = posted('dnsPrimary');
@@ -23,7 +27,7 @@ if (is_post()) {
         }
         begin_change();
         set_network_dns($session, $settings);
-        audit_change($session, 'dns', 'Set', 'the DNS servers', $labels, $is_known ? $seen : array(),
+        audit_change($session, 'dns', 'Set', 'the DNS servers', $labels, $seen,
             array('dnsPrimary' => $settings->dnsPrimary, 'dnsSecondary' => $settings->dnsSecondary));
         if (!change_failed()) {
             go_to('dns.php', $settings->dnsPrimary == '' ? 'The DNS servers are removed.' : 'The DNS servers are set.');

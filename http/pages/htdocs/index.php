@@ -12,8 +12,13 @@ foreach ($unknown as $part => $names) {
 }
 begin_reading();
 $receivers = get_snmp_trap_regs($session);
+$are_known = could_read() && !services_unreadable();
+if (services_unreadable()) {
+    $unknown['ssl'] = array('sslEnabled');
+    $unknown['snmp'] = array('snmpEnabled');
+}
 show('index', array('title' => 'Overview', 'lead' => 'The appliance\'s network at a glance.',
-    'settings' => $settings, 'unknown' => $unknown, 'receivers' => could_read() ? count($receivers) : '',
+    'settings' => $settings, 'unknown' => $unknown, 'receivers' => $are_known ? count($receivers) : '',
     'restored' => has_facts() ? fact('settings.restored') : restored_settings(), 'alarms' => alarms($settings)));
 
 // Of the settings, those that the module says it could not read: part => names.

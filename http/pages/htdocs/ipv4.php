@@ -14,20 +14,24 @@ if (is_post()) {
 $current_name = $settings->hostname;
 $errors = array();
 $meanwhile = array();
-$seen = values_shown($settings);
+$seen = $is_known ? values_shown($settings) : array();
 $current = $settings;
 if (is_post() && posted('change') == 'name') {
     $settings->hostname = posted('hostname');
-    $meanwhile = changed_meanwhile(array('hostname' => $current_name), array('hostname' => 'Name'));
+    $meanwhile = $current_name === '' ? array()
+        : changed_meanwhile(array('hostname' => $current_name), array('hostname' => 'Name'));
     if (!$meanwhile) {
         $errors = change_name($session, $current_name, $settings->hostname);
     }
 } elseif (is_post()) {
     $wanted = wanted_settings($current_name);
     $errors = addressing_errors($wanted);
-    $meanwhile = $errors ? array() : changed_meanwhile($seen, $kinds_of_change['ipv4']['labels']);
+    if (!$errors && !$is_known && chosen_seconds() > 0) {
+        $errors = array('mode' => UNREADABLE);
+    }
+    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, $kinds_of_change['ipv4']['labels']);
     if (!$errors && !$meanwhile && posted('reviewed') != 'back') {
-        $errors = change_addressing($session, $settings, $wanted);
+        $errors = change_addressing($session, $settings, $wanted, $seen);
     }
     $settings = $wanted;
 }
@@ -37,7 +41,8 @@ if ($again) {
         + array('ip' => $current->ip, 'netmask' => $current->netmask, 'gateway' => $current->gateway));
 }
 show('ipv4', array('title' => 'IPv4 and host name', 'settings' => $settings, 'errors' => $errors, 'name' => $current_name,
-    'mode' => posted('change') == 'addressing' ? posted('mode') : ($settings->dhcpEnabled ? 'dhcp' : 'static'),
+    'mode' => posted('change') == 'addressing' ? posted('mode')
+        : (!$is_known && !$again ? null : ($settings->dhcpEnabled ? 'dhcp' : 'static')),
     'meanwhile' => $meanwhile, 'seen' => $seen, 'current' => $current, 'is_known' => $is_known,
     'lead' => 'The name and the address under which the appliance is found.'));
 
@@ -52,7 +57,8 @@ function change_name($session, $old, $new)
     }
     begin_change();
     set_network_hostname($session, $new);
-    audit_change($session, 'name', 'Set', 'the host name', array('name' => 'Name'), array('name' => $old), array('name' => $new));
+    audit_change($session, 'name', 'Set', 'the host name', array('name' => 'Name'),
+        $old === '' ? array() : array('name' => $old), array('name' => $new));
     if (!change_failed()) {
         go_to('ipv4.php', 'The host name is now ' . $new . '.');
     }
@@ -87,12 +93,12 @@ function values_shown($settings)
         'netmask' => $settings->netmask, 'gateway' => $settings->gateway);
 }
 
-// Begins the change, when nothing speaks against it; else errors.
-function change_addressing($session, $now, $wanted)
+// Begins the change, when nothing speaks against it; else errors. $seen: what of $now is known, as the form shows it.
+function change_addressing($session, $now, $wanted, $seen)
 {
     $values = values_shown($wanted);
     // Without a lease, asking the DHCP server again is what is wanted.
-    if (is_unchanged($values, values_shown($now)) && present_value($now->ip) != 'None') {
+    if (is_unchanged($values, $seen) && present_value($now->ip) != 'None') {
         go_to('ipv4.php', UNCHANGED);
     }
     if ($wanted->dhcpEnabled === null && posted('reviewed') != 'yes') {

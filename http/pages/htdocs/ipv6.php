@@ -17,35 +17,48 @@ $unknown['static'] = !could_read();
 begin_reading();
 $modes = read_modes();
 $unknown['stateless'] = !could_read();
-$seen = values_shown($settings, $modes);
+$is_known = !$unknown['static'] && !$unknown['stateless'];
+$seen = values_shown($settings, $modes, $unknown);
 $is_sent = is_post() && posted('change') == 'ipv6';
 $errors = array();
 $meanwhile = array();
 if ($is_sent) {
     end_asking(); // what is asked of the network before a change may take longer than a page waits
-    list($errors, $meanwhile) = change_ipv6($session, $seen);
+    list($errors, $meanwhile) = $is_known ? change_ipv6($session, $seen) : array(array('enabled' => UNREADABLE), array());
+    ask_device();
+    begin_reading();
     $modes = read_modes(); // some may be set, and others not
-    $seen = values_shown($settings, $modes);
+    $unknown['stateless'] = !could_read();
+    $seen = values_shown($settings, $modes, $unknown);
 }
 $again = is_post() ? false : values_again('ipv6');
 $typed = ($is_sent ? values_wanted($seen) : ($again ? $again : array())) + $seen
-    + array('ip' => '', 'prefix' => $settings->prefix, 'gateway' => '');
+    + ($unknown['static'] ? array('ip' => null, 'prefix' => null, 'gateway' => null)
+    : array('ip' => '', 'prefix' => $settings->prefix, 'gateway' => ''));
 $in_use = $unknown['static'] ? '' : is_ipv6_static_enabled();
 begin_reading();
 $addresses = get_all_ipv6_addresses();
 $unknown['addresses'] = !could_read();
 show('ipv6', array('title' => 'IPv6', 'enabled' => $seen['enabled'] == 'On', 'modes' => $modes, 'typed' => $typed,
     'in_use' => $in_use, 'addresses' => $addresses, 'unknown' => $unknown, 'errors' => $errors,
-    'meanwhile' => $meanwhile, 'seen' => $seen, 'other_way' => other_way($session),
+    'meanwhile' => $meanwhile, 'seen' => $is_known ? $seen : array(), 'other_way' => other_way($session),
     'lead' => 'Whether the appliance uses IPv6, and where its addresses come from.'));
 
-// What the form shows, under the names that the change has.
-function values_shown($settings, $modes)
+// What the form shows, under the names that the change has; null for what is not known.
+function values_shown($settings, $modes, $unknown)
 {
-    $values = array('enabled' => is_ipv6_enabled() ? 'On' : 'Off', 'stateless' => $modes['stateless'] ? 'On' : 'Off',
-        'dhcp' => $modes['dhcp'] ? 'On' : 'Off', 'mode' => $settings->staticEnabled ? 'On' : 'Off');
-    return !$settings->staticEnabled ? $values : $values + array('ip' => short_ipv6($settings->ipStatic),
+    $values = array('enabled' => is_ipv6_enabled() ? 'On' : 'Off',
+        'stateless' => on_or_off($unknown['stateless'] ? null : $modes['stateless']),
+        'dhcp' => on_or_off($modes['dhcp']),
+        'mode' => on_or_off($unknown['static'] ? null : (bool) $settings->staticEnabled));
+    return $unknown['static'] || !$settings->staticEnabled ? $values : $values + array('ip' => short_ipv6($settings->ipStatic),
         'prefix' => (string) $settings->prefix, 'gateway' => short_ipv6($settings->gateway));
+}
+
+// Whether such a value is on; null when it is not known.
+function is_on($value)
+{
+    return $value === null ? null : $value == 'On';
 }
 
 // What is wanted, as it is shown. What the form has not sent is inactive there, and stays as it is.
@@ -84,7 +97,7 @@ function change_ipv6($session, $seen)
     begin_reading();
     $before = settings_of($session, 'ipv6');
     if (!could_read()) {
-        return array(array('enabled' => 'What is set now cannot be read, so that it could not be put back. Try again.'), array());
+        return array(array('enabled' => UNREADABLE), array());
     }
     $new_address = $changes_static && $wanted['mode'] == 'On' && $wanted['enabled'] == 'On' ? $wanted['ip'] : '';
     if ($new_address != '' && $before['enabled'] && posted('reviewed') != 'yes') {

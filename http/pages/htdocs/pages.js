@@ -322,7 +322,7 @@ function isChanged(field) {
     const chosen = [...field.options].findIndex((option) => option.defaultSelected);
     return field.selectedIndex !== Math.max(0, chosen);
   }
-  return ['text', 'password'].includes(field.type) && field.value !== field.defaultValue;
+  return ['text', 'password', 'file'].includes(field.type) && field.value !== field.defaultValue;
 }
 
 // Who is about to be signed out is told in time. The focus stays where it is: the place is read out when something is put there.
@@ -392,9 +392,14 @@ function warn(place, seconds, inAnyCase, stay) {
   place.firstChild.append(button);
 }
 
+// What is said of what was typed: a form with a proof goes through the sign-in, but for passwords and communities.
 function overText() {
-  return `You have been signed out. ${unsavedForms().length > 0
-    ? 'What you have typed is not lost: press the button of the form, sign in, and it is there again.' : 'The next click asks for the password.'}`;
+  const unsaved = unsavedForms();
+  const comesBack = unsaved.every((form) => form.elements.proof
+    && ![...form.elements].some((field) => /password|passphrase|community/i.test(field.name) && isChanged(field)));
+  const rest = comesBack ? 'What you have typed is not lost: press the button of the form, sign in, and it is there again.'
+    : 'Not all that you have typed comes back after the sign-in: copy what you still need.';
+  return `You have been signed out. ${unsaved.length > 0 ? rest : 'The next click asks for the password.'}`;
 }
 
 // `what` is there so that nothing is read out twice.

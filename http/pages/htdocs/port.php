@@ -14,14 +14,12 @@ ask_device();
 $settings = get_eth2_port_settings($session);
 $is_known = could_read();
 if (!$is_known) {
-    // Its numbers stand for nothing then.
-    $settings = new PortSettings();
-    $settings->AutoNegotiate = '';
+    $settings = new PortSettings(); // its numbers stand for nothing then
 }
 $errors = array();
 $meanwhile = array();
 $labels = array('auto' => 'Autonegotiation', 'speed' => 'Speed', 'duplex' => 'Duplex');
-$seen = values_shown($settings);
+$seen = $is_known ? values_shown($settings) : array();
 if (is_post()) {
     $settings = new PortSettings();
     $settings->AutoNegotiate = posted('auto') == '1' ? 1 : 0;
@@ -36,7 +34,7 @@ if (is_post()) {
         }
         begin_change();
         set_eth2_port_settings($session, $settings->AutoNegotiate, $settings->Speed, $settings->Duplex);
-        audit_change($session, 'port', 'Set', 'the Ethernet port', $labels, $is_known ? $seen : array(),
+        audit_change($session, 'port', 'Set', 'the Ethernet port', $labels, $seen,
             values_shown($settings));
         if (!change_failed()) {
             go_to('port.php', 'The Ethernet port is set.');
@@ -49,9 +47,6 @@ show('port', array('title' => 'Ethernet port', 'settings' => $settings, 'errors'
 
 function values_shown($settings)
 {
-    if ($settings->AutoNegotiate === '') {
-        return array('auto' => '', 'speed' => '', 'duplex' => '');
-    }
     $duplex = array(-1 => 'not known', 0 => 'Half', 1 => 'Full');
     return array('auto' => $settings->AutoNegotiate ? 'On' : 'Off', 'speed' => $settings->Speed . ' Mbit/s',
         'duplex' => $duplex[$settings->Duplex]);
@@ -71,7 +66,7 @@ function port_errors($settings)
 
 function port_setting_in_words($seen)
 {
-    if ($seen['auto'] == '') {
+    if (!$seen) {
         return unknown();
     }
     return $seen['auto'] == 'On' ? 'Autonegotiation' : h($seen['speed'] . ', '

@@ -9,19 +9,19 @@ define('PORT_DISTANCE', 443 - 80);
 $session = signed_in();
 ask_device();
 $settings = get_ssl_settings($session);
-$is_known = !failed();
+$is_known = could_read() && !services_unreadable();
 $errors = array();
 $meanwhile = array();
-$seen = array('https' => $settings->isEnabled ? 'On' : 'Off');
+$seen = $is_known ? array('https' => $settings->isEnabled ? 'On' : 'Off') : array();
 if (is_post()) {
     $wanted = posted('https');
-    $meanwhile = changed_meanwhile($seen, $kinds_of_change['ssl']['labels']);
+    $meanwhile = $is_known ? changed_meanwhile($seen, $kinds_of_change['ssl']['labels']) : array();
     if ($wanted != '0' && $wanted != '1') {
         $errors['https'] = 'Choose how these pages are served.';
-    } elseif (!$meanwhile && !failed() && ($wanted == '1') == $settings->isEnabled) {
+    } elseif (!$meanwhile && $is_known && ($wanted == '1') == $settings->isEnabled) {
         go_to('security.php', 'HTTPS is ' . ($settings->isEnabled ? 'on' : 'off') . ' already; nothing was changed.');
     } elseif (!$meanwhile) {
-        $errors = switch_mode($session, $wanted == '1');
+        $errors = $is_known ? switch_mode($session, $wanted == '1') : array('https' => UNREADABLE);
     }
 }
 show('security', array('title' => 'Web security', 'settings' => $settings, 'is_known' => $is_known, 'errors' => $errors,

@@ -10,14 +10,17 @@ $labels = array('version1' => 'Versions 1 and 2c', 'community' => 'Read communit
 $session = signed_in();
 ask_device();
 $settings = get_snmp_settings($session);
-$is_known = !failed();
+$is_known = could_read() && !services_unreadable();
 if (!may_change($session)) {
     $settings->community_name = ''; // a password: not in the page, wherever that has its values
 }
 $agent = $settings; // of these the page shows what no form changes
 $errors = array();
 $meanwhile = array();
-$seen = values_shown($settings);
+$seen = $is_known ? values_shown($settings) : array();
+if (!$is_known) {
+    $settings = new AgentSettings();
+}
 if (is_post()) {
     $settings = new AgentSettings();
     $settings->version1 = posted('version1') == '1';
@@ -26,7 +29,7 @@ if (is_post()) {
     $settings->auth_traps_enabled = posted('auth_traps_enabled') == '1';
     $settings->community_name = posted('community_name');
     $errors = agent_errors($settings);
-    $meanwhile = $errors ? array() : changed_meanwhile($seen, $labels);
+    $meanwhile = $errors || !$is_known ? array() : changed_meanwhile($seen, $labels);
     if (!$errors && !$meanwhile) {
         // After a failure it is stored, but the agent may not run with it.
         if (posted('again') != '1' && is_unchanged(values_shown($settings), $seen)) {

@@ -3,8 +3,10 @@
 require dirname(dirname(__FILE__)) . '/shared/page.php';
 
 $session = signed_in();
-$lines = end_of_trace($session, TRACE_DOWNLOAD_BYTES);
-if ($lines === false) {
+leave_session(); // the other requests need not wait for a slow reader
+$trace = open_end_of_trace(TRACE_DOWNLOAD_BYTES);
+if (!$trace) {
     refuse('404 Not Found', 'There is no trace log', 'It cannot be read; there may be none yet.');
 }
-send_file('trace.log', 'text/plain', $lines ? implode("\n", $lines) . "\n" : '');
+begin_file('trace.log', 'text/plain');
+print_trace($trace, $session);

@@ -5,17 +5,29 @@ require dirname(dirname(__FILE__)) . '/shared/receivers.php';
 require dirname(dirname(__FILE__)) . '/shared/trap_results.php';
 
 $session = signed_in();
+$results = array();
+if (!is_post() && isset($_SESSION['test_results'])) {
+    $results = $_SESSION['test_results'];
+    if (!is_background()) {
+        unset($_SESSION['test_results']); // they are of the moment
+    }
+}
+ask_device();
 $typed = array('transport' => '1', 'ip' => '', 'port' => TRAP_PORT);
 $errors = array();
 $meanwhile = array();
 if (is_post()) {
     $change = posted('change');
+    if ($change != 'test' && $change != 'delete') {
+        $typed = array('transport' => posted('transport'), 'ip' => posted('ip'), 'port' => posted('port'));
+    }
     if ($change == 'test') {
-        test_receivers($session);
+        $results = test_receivers($session);
+    } elseif (services_unreadable()) {
+        $errors = array('ip' => 'Which receivers there are cannot be read. Try again.');
     } elseif ($change == 'delete') {
         $meanwhile = delete_receiver($session, posted('id'));
     } else {
-        $typed = array('transport' => posted('transport'), 'ip' => posted('ip'), 'port' => posted('port'));
         $errors = receiver_errors($typed);
         $meanwhile = $errors ? array() : receivers_changed(get_snmp_trap_regs($session));
         if (!$errors && !$meanwhile) {
@@ -23,34 +35,31 @@ if (is_post()) {
         }
     }
 }
-$results = isset($_SESSION['test_results']) ? $_SESSION['test_results'] : array();
-if (!is_background()) {
-    unset($_SESSION['test_results']); // they are of the moment
-}
+ask_device();
 begin_reading();
 $receivers = get_snmp_trap_regs($session);
-show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'is_known' => could_read(), 'typed' => $typed,
-    'seen' => receivers_shown($receivers), 'meanwhile' => $meanwhile, 'errors' => $errors, 'results' => $results,
+$is_known = could_read() && !services_unreadable();
+show('traps', array('title' => 'Trap receivers', 'receivers' => $receivers, 'is_known' => $is_known, 'typed' => $typed,
+    'seen' => $is_known ? receivers_shown($receivers) : array(), 'meanwhile' => $meanwhile, 'errors' => $errors,
+    'results' => $results,
     'lead' => 'The systems to which the SNMP agent reports events.'));
 
-// What became of it is shown beside each receiver.
+// What became of it is shown beside each receiver: goes back to the list, or returns it.
 function test_receivers($session)
 {
     $began = time();
     begin_change();
     restart_snmp($session);
     $results = results_of_test($began);
-    $texts = array();
-    foreach ($results as $receiver => $result) {
-        $texts[$receiver] = outcome_of_trap($result);
-    }
+    $texts = outcomes_for_audit($results);
     audit_change($session, 'traps', 'Send', 'a test trap to every receiver', labels_of($texts), array(), $texts);
-    return_to_session();
-    $_SESSION['test_results'] = $results;
     if (!change_failed()) {
+        return_to_session();
+        $_SESSION['test_results'] = $results;
         go_to('traps.php', $results ? 'A test trap was sent to every receiver: what became of it stands beside each.'
             : 'A test trap was sent to every receiver. Look there whether it has arrived.');
     }
+    return $results;
 }
 
 function labels_of($values)

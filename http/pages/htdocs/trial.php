@@ -39,7 +39,9 @@ function take_key($trial, $key)
         keep_trial($trial, 'back under the new settings', $trial['user'], client_of_request());
     } elseif ($is_used) {
         open_session();
-        begin_session_of($trial['user']);
+        if (begin_session_of($trial['user'])) {
+            write_audit($trial['user'], client_of_request(), 'Signed in with the key of a change on trial.', '', 'sign-in');
+        }
         $_SESSION['trial'] = $trial['id'];
     }
     if (is_background()) {

@@ -291,3 +291,17 @@ function ipv6_errors($address, $prefix, $gateway)
     }
     return $errors ? $errors : internal_errors('ipStatic', $address, $gateway);
 }
+
+// A client with IPv6 has a whole network of addresses to try from.
+function network_of($client)
+{
+    $bytes = ipv6_bytes($client);
+    if (!$bytes) {
+        return preg_replace('/[^0-9A-Za-z.]/', '', $client);
+    }
+    $network = '';
+    for ($i = 0; $i < 8; $i++) {
+        $network .= sprintf('%02x', $bytes[$i]);
+    }
+    return $network;
+}

@@ -51,11 +51,17 @@ function go_to($page, $message = '')
 // Answers with a file to be kept, never to be shown by the browser.
 function send_file($name, $type, $content)
 {
+    begin_file($name, $type);
+    echo $content;
+    exit;
+}
+
+// What is printed from here on is the file.
+function begin_file($name, $type)
+{
     send_headers();
     header('Content-Type: ' . $type . '; charset=utf-8');
     header('Content-Disposition: attachment; filename="' . $name . '"');
-    echo $content;
-    exit;
 }
 
 // Ends a request that is not allowed.

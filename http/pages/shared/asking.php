@@ -1,7 +1,7 @@
 <?php
 // Asking the device: what is so now, by a script of its own; and the module's functions that read, in bounded time. The module
 // waits for a device script as long as that takes, and so would the page. So a guard stands beside the page while it
-// reads: a script that the page still waits for after ANSWER_SECONDS is ended, and the module reports that it failed.
+// reads: when ANSWER_SECONDS are over, whatever the page waits for is ended, and the module reports that it failed.
 
 define('ANSWER_SECONDS', 3);
 define('MOST_BYTES', 65536); // that are read of what the script prints
@@ -21,16 +21,13 @@ end_trees() {
   done
 }
 watch() {
-  before=
-  for pause in 2.5 0.5 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3 0.3; do
-    sleep $pause || sleep 1
-    [ $pause = 2.5 ] || end_trees $facts
+  sleep ' . ANSWER_SECONDS . '
+  end_trees $facts
+  while :; do
     now=
     read -r now <"/proc/$page/task/$page/children"
-    for process in $now; do
-      case " $before " in *" $process "*) end_trees $process ;; esac
-    done
-    before=$now
+    end_trees $now
+    sleep 0.2 || sleep 1
   done
 }
 exec >/dev/null
@@ -41,15 +38,23 @@ end_trees $watcher $facts
 wait
 ');
 
-$asked = array('process' => false); // what is under way: array of 'process', 'input', 'output', 'end' and 'session_left'
+// What is under way: array of 'process', 'input', 'output', 'end', 'facts' (whether they are asked for) and 'leaves' (whether the
+// session was left for that), or false.
+$asked = false;
 $printed_facts = ''; // what the script has printed
 
-// Asks what is so now, and sets up the guard; returns at once. To be called before the module is asked for settings.
-function ask_device()
+// Asks what is so now, and sets up the guard; returns at once. To be called before the module is asked for settings. What is
+// under way already goes on. $facts: whether the page says anything about now; else the guard stands alone.
+function ask_device($facts = true)
 {
-    $line = 'page=' . getmypid() . ' facts=; ' . (has_facts() ? '/bin/sh ' . FACTS_SCRIPT . ' </dev/null & facts=$!; ' : '') . GUARD;
+    if ($GLOBALS['asked']) {
+        return;
+    }
+    $facts = $facts && has_facts();
+    $line = 'page=' . getmypid() . ' facts=; ' . ($facts ? '/bin/sh ' . FACTS_SCRIPT . ' </dev/null & facts=$!; ' : '') . GUARD;
     $pipes = array();
-    $process = proc_open($line, array(0 => array('pipe', 'r'), 1 => array('pipe', 'w'), 2 => array('file', '/dev/null', 'w')),
+    // Where no process is free it fails, and so does what the module asks for: the page says that.
+    $process = @proc_open($line, array(0 => array('pipe', 'r'), 1 => array('pipe', 'w'), 2 => array('file', '/dev/null', 'w')),
         $pipes);
     // Other requests of the session need not wait for a script that hangs.
     $leaves = session_id() != '' && empty($GLOBALS['session_left']);
@@ -57,7 +62,8 @@ function ask_device()
         leave_session();
     }
     $GLOBALS['asked'] = array('process' => $process, 'input' => $process ? $pipes[0] : false,
-        'output' => $process ? $pipes[1] : false, 'end' => seconds_now() + ANSWER_SECONDS, 'leaves' => $leaves);
+        'output' => $process ? $pipes[1] : false, 'end' => seconds_now() + ANSWER_SECONDS, 'facts' => $facts,
+        'leaves' => $leaves);
     $GLOBALS['facts'] = null;
     $GLOBALS['printed_facts'] = '';
 }
@@ -70,20 +76,22 @@ function seconds_now()
 }
 
 // To be called before anything is changed, and before the page is shown: takes what the device has said, and sends the guard
-// away.
+// away. Whose session was ended meanwhile is asked to sign in.
 function end_asking()
 {
     $asked = $GLOBALS['asked'];
-    if (!$asked['process']) {
-        return;
+    $GLOBALS['asked'] = false;
+    if ($asked && $asked['process']) {
+        if ($asked['facts']) {
+            hear_facts($asked['output'], $asked['end']);
+        }
+        fclose($asked['output']);
+        fclose($asked['input']);
+        proc_close($asked['process']); // returns when the guard has gone
     }
-    hear_facts($asked['output'], $asked['end']);
-    fclose($asked['output']);
-    fclose($asked['input']);
-    proc_close($asked['process']); // returns when the guard has gone
-    $GLOBALS['asked'] = array('process' => false);
-    if ($asked['leaves']) {
-        return_to_session();
+    if ($asked && $asked['leaves'] && !return_to_session()) {
+        unset($GLOBALS['session']);
+        ask_to_sign_in('Your session has ended.');
     }
 }
 
@@ -96,7 +104,7 @@ function has_facts()
 // Reads until the script is done, or says too much, or the time is over.
 function hear_facts($pipe, $end)
 {
-    $text = has_facts() ? '?' : '';
+    $text = '?';
     stream_set_blocking($pipe, 0);
     while ($text != '' && strlen($GLOBALS['printed_facts']) < MOST_BYTES && wait_for_pipe($pipe, $end - seconds_now())) {
         $text = fread($pipe, 8192);

@@ -73,20 +73,6 @@ function wait_sentence($seconds)
     return 'Too many attempts. Please wait ' . $seconds . ($seconds == 1 ? ' second' : ' seconds') . ', then try again.';
 }
 
-// A client with IPv6 has a whole network of addresses to try from.
-function network_of($client)
-{
-    $bytes = ipv6_bytes($client);
-    if (!$bytes) {
-        return preg_replace('/[^0-9A-Za-z.]/', '', $client);
-    }
-    $network = '';
-    for ($i = 0; $i < 8; $i++) {
-        $network .= sprintf('%02x', $bytes[$i]);
-    }
-    return $network;
-}
-
 function open_attempts()
 {
     $file = open_locked(ATTEMPTS_FILE);

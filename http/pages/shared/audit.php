@@ -11,21 +11,22 @@ define('AUDIT_LOCK', PRIVATE_FOLDER . '/audit.lock');
 define('AUDIT_LINE_BYTES', 2048); // of a line
 define('AUDIT_FIELD_BYTES', 240); // of a field
 define('AUDIT_PATIENCE', 2); // seconds that a line waits for another one
-define('AUDIT_FOLDED_SECONDS', 86400); // refused sign-ins of one address within this time are one line
+define('AUDIT_FOLDED_SECONDS', 86400); // what is refused to one user at one place within this time is one line
 define('VALUE_SEPARATOR', "\x1e"); // between two values of a field
 define('LABEL_SEPARATOR', "\x1f"); // between a value's label and its text
+define('MORE_VALUES', 'and'); // the label of how many values found no room
 
 // Kind => its file, and the lines that are kept.
 $audit_files = array(
     'changes' => array('file' => AUDIT_FILE, 'lines' => 500),
     'sign-ins' => array('file' => AUDIT_FILE . '.sign-ins', 'lines' => 300),
-    'refused' => array('file' => AUDIT_FILE . '.refused', 'lines' => 200)
+    'refusals' => array('file' => AUDIT_FILE . '.refused', 'lines' => 600)
 );
 
 // What an entry can be about => what people call it.
 $audit_subjects = array('sign-in' => 'Signing in and out', 'account' => 'Accounts', 'ipv4' => 'IPv4', 'name' => 'Host name',
     'ipv6' => 'IPv6', 'dns' => 'DNS', 'port' => 'Ethernet port', 'ssl' => 'Web security', 'snmp' => 'SNMP agent',
-    'traps' => 'Trap receivers', 'backup' => 'Backup', 'other' => 'Other');
+    'traps' => 'Trap receivers', 'backup' => 'Backup', 'rights' => 'Rights', 'other' => 'Other');
 
 // The past of the words with which a change begins.
 $past_of = array('Add' => 'Added', 'Delete' => 'Deleted', 'Send' => 'Sent', 'Set' => 'Set', 'Switch' => 'Switched');
@@ -65,6 +66,13 @@ function write_audit($user, $client, $what, $details = '', $subject = 'other', $
         $GLOBALS['audit_failed'] = true;
     }
     return $written;
+}
+
+// Writes down that the signed-in user was refused something.
+function audit_refusal($session, $subject, $what, $reason)
+{
+    return write_audit($session->user, text_of($_SERVER, 'REMOTE_ADDR'), $what, '', $subject, array(), array(),
+        'refused: ' . $reason);
 }
 
 // Writes down a change just behind the module's function that made it: $verb (one of $past_of) and $object are its sentence,
@@ -107,9 +115,10 @@ function labelled($values, $labels)
 
 function audit_kind($entry)
 {
-    $is_about_signing_in = $entry['subject'] == 'sign-in' || $entry['subject'] == 'account';
-    if ($is_about_signing_in && kind_of_result($entry['result']) == 'refused') {
-        return 'refused';
+    // What anybody can have refused as often as they like; what the appliance refuses is among the changes.
+    $is_who_may = $entry['subject'] == 'sign-in' || $entry['subject'] == 'account' || $entry['subject'] == 'rights';
+    if ($is_who_may && kind_of_result($entry['result']) == 'refused') {
+        return 'refusals';
     }
     return $entry['subject'] == 'sign-in' ? 'sign-ins' : 'changes';
 }
@@ -142,7 +151,7 @@ function store_in_audit($kind, $entry)
     $path = $GLOBALS['audit_files'][$kind]['file'];
     $most = $GLOBALS['audit_files'][$kind]['lines'];
     $lines = audit_lines($kind);
-    $folded = $kind == 'refused' ? line_to_fold($lines, $entry) : -1;
+    $folded = $kind == 'refusals' ? line_to_fold($lines, $entry) : -1;
     if ($folded >= 0) {
         $before = audit_entry($lines[$folded]);
         $entry['count'] += $before['count'];
@@ -164,13 +173,15 @@ function store_in_audit($kind, $entry)
     return @replace_file($path, implode("\n", $kept) . "\n", $kind == 'changes');
 }
 
-// The line of the same address, of the same day, or -1.
+// The line about the same, of the same user and place, of the same day, or -1. Who has a whole network of addresses has one
+// place. It is another line for each user: the last name that is tried hides none of those before.
 function line_to_fold($lines, $entry)
 {
+    $place = network_of($entry['client']);
     foreach ($lines as $i => $line) {
         $before = audit_entry($line);
-        if ($before && $before['client'] == $entry['client'] && $before['what'] == $entry['what']
-            && abs($entry['time'] - $before['began']) < AUDIT_FOLDED_SECONDS) {
+        if ($before && $before['what'] == $entry['what'] && $before['user'] === $entry['user']
+            && network_of($before['client']) == $place && abs($entry['time'] - $before['began']) < AUDIT_FOLDED_SECONDS) {
             return $i;
         }
     }
@@ -222,6 +233,18 @@ function audit_lines($kind)
     return array_slice($lines, -$most);
 }
 
+// What is there and cannot be read.
+function unreadable_audits()
+{
+    $names = array();
+    foreach ($GLOBALS['audit_files'] as $name => $about) {
+        if (file_exists($about['file']) && !(is_file($about['file']) && is_readable($about['file']))) {
+            $names[] = 'the ' . $name;
+        }
+    }
+    return $names;
+}
+
 function audit_line($entry)
 {
     $fields = array();
@@ -245,8 +268,13 @@ function audit_values($values)
     foreach ($values as $label => $value) {
         $texts[] = audit_text($label, 40) . LABEL_SEPARATOR . audit_text($value, 100);
     }
-    $text = implode(VALUE_SEPARATOR, $texts);
-    return strlen($text) <= AUDIT_FIELD_BYTES ? $text : whole_characters(substr($text, 0, AUDIT_FIELD_BYTES));
+    $more = '';
+    // Whole values only, and how many are left out.
+    for ($left_out = 1; $texts && strlen(implode(VALUE_SEPARATOR, $texts) . $more) > AUDIT_FIELD_BYTES; $left_out++) {
+        $texts = array_slice($texts, 0, -1);
+        $more = VALUE_SEPARATOR . MORE_VALUES . LABEL_SEPARATOR . $left_out . ' more';
+    }
+    return implode(VALUE_SEPARATOR, $texts) . $more;
 }
 
 // Without the first bytes of a character that was cut off.

@@ -2,20 +2,21 @@
 // Reading the audit: what the pages have written down and what the management services have, in one list.
 
 define('AUDIT_PAGE_ENTRIES', 10);
+define('AFTER_BEGUN', 30); // seconds that a change goes on after the entry that it has begun
 
 // Operation of the management services => its subject here.
 $subjects_of_operations = array('setSSLEnabled' => 'ssl', 'setSNMPVersions' => 'snmp', 'setAuthTrapsEnabled' => 'snmp',
     'setReadCommunity' => 'snmp', 'restartSNMP' => 'snmp', 'createTrapRegistration' => 'traps',
     'deleteTrapRegistration' => 'traps');
 
-// All entries, newest first, and how many lines are damaged: array of the two. $services: audit_entries(). What the services say
+// All entries, newest first, and what is missing: array of the two, the second as audit_gaps() has it. $services: audit_entries(). What the services say
 // of a change by a page is under that entry's 'operations'; what nobody of the pages asked for is an entry of its own.
 function whole_audit($services)
 {
     $entries = array();
     $damaged = 0;
     $own = 0;
-    foreach (array('changes', 'sign-ins', 'refused') as $kind) {
+    foreach (array('changes', 'sign-ins', 'refusals') as $kind) {
         foreach (audit_lines($kind) as $line) {
             $entry = audit_entry($line);
             if ($entry) {
@@ -30,11 +31,15 @@ function whole_audit($services)
         $own = $kind == 'changes' ? count($entries) : $own;
     }
     $receivers = array();
+    $first = 0; // of the changes that may still have gone on: both are in the order of time
     // Oldest first: what is deleted has been added before.
     for ($i = ($services ? count($services) : 0) - 1; $i >= 0; $i--) {
         $operation = without_secrets($services[$i]);
         $time = time_of_services($operation['time']);
-        $owner = owner_of($operation, $time, $entries, $own);
+        while ($first < $own && $entries[$first]['time'] + AFTER_BEGUN < $time) {
+            $first++;
+        }
+        $owner = owner_of($operation, $time, $entries, $first, $own);
         if ($owner >= 0) {
             $entries[$owner]['operations'][] = $operation;
         } else {
@@ -45,7 +50,24 @@ function whole_audit($services)
         $receivers = known_receivers($operation, $receivers);
     }
     usort($entries, 'newer_first');
-    return array($entries, $damaged);
+    return array($entries, audit_gaps($services !== false, $damaged));
+}
+
+// What the list lacks: sentences, each with its kind of message.
+function audit_gaps($has_services, $damaged)
+{
+    $gaps = array();
+    if (!$has_services) {
+        $gaps['The audit trail of the management services cannot be read: what they did without a page is missing.'] = 'bad';
+    }
+    if (unreadable_audits()) {
+        $gaps['What the pages have written down cannot all be read: missing are ' . implode(', ', unreadable_audits()) . '.'] = 'bad';
+    }
+    if ($damaged > 0) {
+        $gaps[$damaged == 1 ? 'One line of the audit is damaged and is left out.'
+            : $damaged . ' lines of the audit are damaged and are left out.'] = 'caution';
+    }
+    return $gaps;
 }
 
 function newer_first($one, $other)
@@ -76,11 +98,12 @@ function time_of_services($text)
     return $fraction + gmmktime((int) $part[4], (int) $part[5], (int) $part[6], (int) $part[2], (int) $part[3], (int) $part[1]);
 }
 
-// The entry of the change by a page that this was a part of, or -1: of those under way at that time the last that began.
-function owner_of($operation, $time, $entries, $own)
+// The entry of the change by a page that this was a part of, or -1: of those from $first on that were under way at that time the
+// last that began.
+function owner_of($operation, $time, $entries, $first, $own)
 {
     $owner = -1;
-    for ($i = 0; $i < $own; $i++) {
+    for ($i = $first; $i < $own; $i++) {
         if ($time >= $entries[$i]['began'] && is_part_of($operation, $time, $entries[$i])
             && ($owner < 0 || $entries[$i]['began'] >= $entries[$owner]['began'])) {
             $owner = $i;
@@ -97,7 +120,7 @@ function is_part_of($operation, $time, $entry)
     $is_on_trial = $outcome == 'begun' || $outcome == 'undone';
     // A new host name switches HTTPS on again, in nobody's name.
     $is_of_name = $subject == 'ssl' && ($entry['subject'] == 'name' || $entry['subject'] == 'ipv4');
-    $ends = $entry['time'] + ($outcome == 'begun' ? 30 : 0);
+    $ends = $entry['time'] + ($outcome == 'begun' ? AFTER_BEGUN : 0);
     return $time <= $ends && ($is_of_name
         || ($subject == $entry['subject'] && ($is_on_trial || $operation['user'] == $entry['user'])));
 }
@@ -178,7 +201,11 @@ function differences($entry)
 {
     $texts = array();
     $all = array();
+    $is_cut = isset($entry['new'][MORE_VALUES]) || isset($entry['old'][MORE_VALUES]);
     foreach ($entry['new'] + $entry['old'] as $label => $nothing) {
+        if ($is_cut && $entry['old'] && $entry['new'] && !isset($entry['old'][$label], $entry['new'][$label])) {
+            continue; // it may be among those that found no room
+        }
         $old = isset($entry['old'][$label]) ? $entry['old'][$label] : '';
         $new = isset($entry['new'][$label]) ? $entry['new'][$label] : '';
         $all[] = $label . ' ' . ($new == '' ? 'none' : $new);
@@ -216,11 +243,15 @@ function users_of($entries)
     return $users;
 }
 
-// The entries as a table for other programs (RFC 4180).
-function audit_as_csv($entries)
+// The entries as a table for other programs (RFC 4180), with a row for each of the $gaps in front. Spreadsheets that guess the
+// encoding know it by the mark at the beginning.
+function audit_as_csv($entries, $gaps)
 {
-    $csv = csv_line(array('Time (UTC)', 'User', 'From', 'Subject', 'What', 'Values', 'Outcome', 'Reason',
+    $csv = "\xef\xbb\xbf" . csv_line(array('Time (UTC)', 'User', 'From', 'Subject', 'What', 'Values', 'Outcome', 'Reason',
         'How often', 'Operations'));
+    foreach ($gaps as $gap => $kind) {
+        $csv .= csv_line(array('', '', '', 'Audit', $gap, '', 'failed', '', '', ''));
+    }
     foreach ($entries as $entry) {
         $operations = array();
         foreach ($entry['operations'] as $operation) {

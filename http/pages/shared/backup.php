@@ -17,6 +17,10 @@ function parts_of_now($session)
     foreach ($GLOBALS['backup_parts'] as $section => $part) {
         $parts[$section] = part_of_now($session, $section);
     }
+    // What the module says of them is then no setting of anybody's.
+    foreach (services_unreadable() ? array('web', 'snmp', 'traps') : array() as $section) {
+        $parts[$section] = false;
+    }
     return $parts;
 }
 
@@ -163,8 +167,9 @@ function seen_of_parts($now)
 // Applies a part: array of the kind of state, and what came of it in words.
 function apply_part($session, $section, $wanted, $seen)
 {
+    ask_device();
     $now = part_of_now($session, $section);
-    if ($now === false) {
+    if ($now === false || in_array($section, array('snmp', 'traps')) && services_unreadable()) {
         return array('bad', 'Not applied: the settings of now cannot be read.');
     }
     if (!rows_of_part($section, $now, $wanted)) {

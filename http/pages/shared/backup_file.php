@@ -72,39 +72,58 @@ function write_backup($about, $parts, $remarks = array())
 // 0 for the file as a whole. With errors the rest is not to be used.
 function read_backup($text)
 {
-    $file = array('about' => array(), 'parts' => array(), 'lines' => array(), 'errors' => array(), 'section' => '', 'is_text' => true);
+    // Of the lines that have errors: 'wrong' has those with a value that is none of the possible ones, 'faulty' the sections of the
+    // others. 'is_ours': whether it is text of this version, so that more can be said of it.
+    $file = array('about' => array(), 'parts' => array(), 'lines' => array(), 'errors' => array(), 'section' => '',
+        'wrong' => array(), 'faulty' => array(), 'is_ours' => true);
     if (trim($text, " \t\r\n") == '') {
         $file['errors'][0] = 'The file is empty.';
     } elseif (strlen($text) > BACKUP_BYTES) {
         $file['errors'][0] = 'The file is longer than ' . (int) (BACKUP_BYTES / 1024) . ' KiB: it is no file of settings.';
     } else {
         $file = read_backup_lines($file, $text);
-        $file = $file['is_text'] ? check_backup_version($file) : $file;
+        $file = $file['is_ours'] ? check_backup_version($file) : $file;
     }
-    if (!$file['errors']) {
-        foreach ($file['parts'] as $section => $values) {
-            $file = check_backup_part($file, $section, $values);
-        }
-        ksort($file['errors']);
+    // All that is wrong is said at once.
+    foreach ($file['is_ours'] ? $file['parts'] : array() as $section => $values) {
+        $file = check_backup_part($file, $section, $values);
     }
+    ksort($file['errors']);
     return $file;
 }
 
 function read_backup_lines($file, $text)
 {
-    // Editors may put a mark in front, and end lines in two ways.
+    // Editors may put a mark in front, and end lines in three ways.
     $text = substr($text, 0, 3) == "\xef\xbb\xbf" ? substr($text, 3) : $text;
-    foreach (explode("\n", str_replace("\r\n", "\n", $text)) as $i => $line) {
-        $error = line_error($line);
+    $text = strpos($text, "\n") === false ? str_replace("\r", "\n", $text) : str_replace("\r\n", "\n", $text);
+    $encoding = other_encoding($text);
+    foreach (explode("\n", $text) as $i => $line) {
+        $error = $encoding == '' ? line_error($line) : "The file is in $encoding. Save it as plain text in UTF-8.";
         if ($error != '') {
             // What follows may be of any kind.
             $file['errors'] = array($i + 1 => $error);
-            $file['is_text'] = false;
+            $file['is_ours'] = false;
             return $file;
         }
         $file = read_backup_line($file, $i + 1, trim($line));
+        if (isset($file['errors'][$i + 1]) && !isset($file['wrong'][$i + 1])) {
+            $file['faulty'][$file['section']] = true;
+        }
     }
     return $file;
+}
+
+// The encoding of text that has more bytes for a character, where its beginning shows that: by its mark, or by what is empty beside
+// the first letters. Otherwise ''.
+function other_encoding($text)
+{
+    $start = substr($text, 0, 4);
+    if ($start == "\xff\xfe\x00\x00" || $start == "\x00\x00\xfe\xff") {
+        return 'UTF-32';
+    }
+    $has_mark = substr($start, 0, 2) == "\xff\xfe" || substr($start, 0, 2) == "\xfe\xff";
+    return $has_mark || preg_match('/^(\x00[\x09-\x7e]\x00[\x09-\x7e]|[\x09-\x7e]\x00[\x09-\x7e]\x00)$/D', $start) ? 'UTF-16' : '';
 }
 
 // What is wrong with a line as such, or ''.
@@ -188,8 +207,10 @@ function read_backup_value($file, $number, $name, $value)
     }
     if (isset($names[$name]['values'])) {
         $value = strtolower($value);
-        if (!in_array($value, $names[$name]['values'])) {
+        // As texts: as numbers 1e1 would be 10.
+        if (!in_array($value, $names[$name]['values'], true)) {
             $file['errors'][$number] = "\"$name\" is one of: " . implode(', ', $names[$name]['values']) . '.';
+            $file['wrong'][$number] = true;
         }
     }
     $file['parts'][$section][$name] = $value;
@@ -229,11 +250,12 @@ function receiver_in_file($transport, $ip, $port)
 // A file of another version may have any names, so that is the only thing to be said of it.
 function check_backup_version($file)
 {
+    $file['is_ours'] = isset($file['about']['version']) && $file['about']['version'] === BACKUP_VERSION;
     if (!isset($file['about']['version'])) {
         $file['errors'] = array(isset($file['lines']['backup']) ? $file['lines']['backup'] : 1
             => 'The version is missing: a file of settings begins with the section [backup] and the line "version = '
             . BACKUP_VERSION . '".');
-    } elseif ($file['about']['version'] !== BACKUP_VERSION) {
+    } elseif (!$file['is_ours']) {
         $file['errors'] = array($file['lines']['backup version'] => 'The file is of another version; these pages read version '
             . BACKUP_VERSION . '.');
     }
@@ -247,21 +269,38 @@ function check_backup_part($file, $section, $values)
         return $file; // each line has been looked at
     }
     $part = $GLOBALS['backup_parts'][$section];
+    $only = isset($part['only']) ? $part['only'] : array('', '');
+    // Nobody knows what the rest needs where this is missing or wrong.
+    $is_open = $only[0] != '' && (!isset($values[$only[0]]) || is_wrong_value($file, $section, $only[0]));
+    $has_rest = $only[0] == '' || !$is_open && $values[$only[0]] == $only[1];
     $is_whole = true;
     foreach ($part['names'] as $name => $described) {
-        $is_without = isset($part['only']) && $name != $part['only'][0] && isset($values[$part['only'][0]])
-            && $values[$part['only'][0]] != $part['only'][1];
-        if ($is_without && isset($values[$name])) {
-            $file['errors'][$file['lines'][$section . ' ' . $name]] = "\"$name\" needs \"" . implode(' = ', $part['only']) . '".';
-        } elseif ($is_whole && !$is_without && !isset($values[$name])) {
-            $file['errors'][$file['lines'][$section]] = "The section [$section] lacks \"" . $name . '".';
-            $is_whole = false;
+        if (!isset($values[$name])) {
+            $is_needed = $has_rest || $name == $only[0];
+            // A line that cannot be understood may be the one that is missing.
+            if ($is_needed && $is_whole && !isset($file['faulty'][$section])) {
+                $file['errors'][$file['lines'][$section]] = "The section [$section] lacks \"" . $name . '".';
+            }
+            $is_whole = $is_whole && !$is_needed;
+            $values[$name] = '';
+        } elseif (!$has_rest && !$is_open && $name != $only[0]) {
+            $file['errors'][$file['lines'][$section . ' ' . $name]] = "\"$name\" needs \"" . implode(' = ', $only) . '".';
+        } else {
+            $is_whole = $is_whole && !is_wrong_value($file, $section, $name);
         }
     }
-    foreach ($is_whole ? errors_of_part($section, $values) : array() as $name => $error) {
-        $file['errors'][$file['lines'][$section . ' ' . $name]] = $error;
+    foreach (errors_of_part($section, $values) as $name => $error) {
+        // What is to be chosen is judged by other lines, too.
+        if (isset($file['lines'][$section . ' ' . $name]) && ($is_whole || !isset($part['names'][$name]['values']))) {
+            $file['errors'][$file['lines'][$section . ' ' . $name]] = $error;
+        }
     }
     return $file;
+}
+
+function is_wrong_value($file, $section, $name)
+{
+    return isset($file['wrong'][$file['lines'][$section . ' ' . $name]]);
 }
 
 // What the rules of the forms say: name => what is wrong.

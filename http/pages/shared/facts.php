@@ -14,10 +14,10 @@ $fact_forms = array(
     'ipv6.address' => '[0-9a-f:.]{2,45}/[0-9]{1,3} (router-advertisement|dhcp|static|link-local|other)',
     'dns.server' => '[0-9A-Fa-f:.]{2,45} (setting|dhcp|dhcpv6|other)',
     'snmp.answers' => 'yes|no',
-    'web.mode' => 'http|https', 'web.configured-mode' => 'http|https', 'web.stored-mode' => 'http|https',
+    'services.readable' => 'yes|no', 'web.configured-mode' => 'http|https', 'web.stored-mode' => 'http|https',
     'certificate.names' => '[\x20-\x7e]{1,4000}', 'certificate.end' => '[0-9]{1,12}',
     'certificate.fingerprint' => '[0-9A-F]{2}(:[0-9A-F]{2}){31}',
-    'settings.restored' => '.{1,4000}'
+    'settings.restored' => '.{1,4000}', 'end' => 'yes'
 );
 
 $facts = null; // name => list of values, when they were taken from what the script has printed
@@ -58,6 +58,12 @@ function shows_interfaces()
     return has_facts() && fact('in-place') == '';
 }
 
+// Whether what is not said about addresses is not there: of a script that was ended nobody knows what it would have said.
+function tells_addresses()
+{
+    return fact('eth0.link') != '' && fact('end') != '';
+}
+
 // The IPv4 address that counts: what is on the interface, or else what the settings say; empty when it is not known.
 function ipv4_in_words($settings, $unknown)
 {
@@ -65,7 +71,7 @@ function ipv4_in_words($settings, $unknown)
     if ($now) {
         return implode(', ', $now);
     }
-    if (isset($unknown['ipv4']) || shows_interfaces() && fact('eth0.link') == '' && present_value($settings->ip) == 'None') {
+    if (isset($unknown['ipv4']) || shows_interfaces() && !tells_addresses() && present_value($settings->ip) == 'None') {
         return 'Unknown';
     }
     return present_value($settings->ip) == 'None' ? 'No address' : $settings->ip;
@@ -79,7 +85,8 @@ function lacks_lease($settings)
 // Green only for an address that the interface really has.
 function ipv4_state($settings, $unknown)
 {
-    if (isset($unknown['ipv4']) || shows_interfaces() && fact('eth0.link') == '') {
+    $has_it = in_array($settings->ip, ipv4_addresses_now());
+    if (isset($unknown['ipv4']) || shows_interfaces() && (fact('eth0.link') == '' || !$has_it && !tells_addresses())) {
         return unknown();
     }
     if (!shows_interfaces()) {
@@ -89,7 +96,7 @@ function ipv4_state($settings, $unknown)
     if (lacks_lease($settings)) {
         return state('bad', 'No DHCP server has answered');
     }
-    if (!in_array($settings->ip, ipv4_addresses_now())) {
+    if (!$has_it) {
         return state('bad', $settings->dhcpEnabled ? 'The leased address is not in use' : 'The static address is not in use');
     }
     return fact('eth0.link') == 'up' ? state('good', 'In use') : state('bad', 'No link');
@@ -106,15 +113,12 @@ function ipv6_state($enabled)
     if (!$enabled || !shows_interfaces()) {
         return on_off($enabled);
     }
-    if (fact('eth0.link') == '') {
-        return unknown();
-    }
     foreach (sourced_addresses('ipv6.address') as $address => $source) {
-        if (is_lasting_ipv6($source)) {
+        if (is_lasting_ipv6($source) && fact('eth0.link') != '') {
             return fact('eth0.link') == 'up' ? state('good', 'In use') : state('bad', 'No link');
         }
     }
-    return state('caution', 'On, without an address of the network');
+    return tells_addresses() ? state('caution', 'On, without an address of the network') : unknown();
 }
 
 // The name servers that are asked, each with where it comes from, as entries of a list of terms.
@@ -124,7 +128,7 @@ function servers_in_use()
     foreach (sourced_addresses('dns.server') as $server => $source) {
         $html .= '<dd>' . h($server) . ' <span class="hint">' . h(source_in_words($source)) . '</span></dd>';
     }
-    return $html != '' ? $html : '<dd>' . (fact('eth0.link') == '' ? unknown() : 'None') . '</dd>';
+    return $html != '' ? $html : '<dd>' . (tells_addresses() ? 'None' : unknown()) . '</dd>';
 }
 
 // What serves these pages: this very request is seen, the rest is what the device says.
@@ -137,6 +141,13 @@ function web_state()
         return state('caution', 'These pages are not encrypted');
     }
     return has_certificate_expired() ? state('bad', 'The certificate has expired') : state('good', 'These pages are encrypted');
+}
+
+// Whether the settings of web security, the SNMP agent and the trap receivers cannot be read. The module tells that of the agent
+// alone, and says that HTTPS is off and that there is no receiver.
+function services_unreadable()
+{
+    return has_facts() && in_array('no', facts_of('services.readable'));
 }
 
 function agent_state()
@@ -174,6 +185,18 @@ function source_in_words($source)
     return $words[$source];
 }
 
+// Where an IPv6 address comes from, with a prefix length or without, as markup to stand behind it; empty when that is not known.
+function ipv6_source_hint($address)
+{
+    $address = preg_replace('!/.*!', '', $address);
+    foreach (shows_interfaces() ? sourced_addresses('ipv6.address') : array() as $one => $source) {
+        if (same_value(preg_replace('!/.*!', '', $one), $address)) {
+            return ' <span class="hint">' . h(source_in_words($source)) . '</span>';
+        }
+    }
+    return '';
+}
+
 function is_lasting_ipv6($source)
 {
     return $source != 'link-local';
@@ -183,7 +206,8 @@ function is_lasting_ipv6($source)
 function link_state($port)
 {
     $link = fact($port . '.link');
-    return $link == '' ? unknown() : ($link == 'up' ? state('good', 'Link up') : state('bad', 'No link'));
+    return $link == '' ? unknown() : ($link == 'up' ? state('good', 'Link up') : state($port == 'eth2' ? 'caution' : 'bad',
+        'No link'));
 }
 
 function link_in_words($port)
@@ -246,20 +270,20 @@ function alarms($settings)
 function link_alarms()
 {
     $alarms = array();
-    foreach (array('eth0' => 'Ethernet port 1 (eth0)', 'eth2' => 'Ethernet port 2 (eth2)') as $port => $name) {
-        if (fact($port . '.link') == 'down') {
-            $alarms[] = array('bad', $name . ' has no link.', 'Check the cable, and whether the device at its other end is on'
-                . ($port == 'eth2' ? ' and has the same speed and duplex mode. A port that nothing is plugged into needs nothing.' : '.'),
-                $port == 'eth2' ? 'port.php' : '');
-        }
+    $advice = 'Check the cable, and whether the device at its other end is on';
+    if (fact('eth0.link') == 'down') {
+        $alarms[] = array('bad', 'Ethernet port 1 (eth0) has no link.', $advice . '.', '');
+    }
+    if (fact('eth2.link') == 'down') {
+        $alarms[] = array('caution', 'Ethernet port 2 (eth2) has no link.', $advice . ' and has the same speed and duplex mode.'
+            . ' A port that nothing is plugged into needs nothing.', 'port.php');
     }
     return $alarms;
 }
 
 function ipv4_alarms($settings)
 {
-    // Without an answer about the link there was none about addresses either.
-    if ($settings->ip === '' || fact('eth0.link') == '') {
+    if ($settings->ip === '' || !tells_addresses()) {
         return array();
     }
     if (lacks_lease($settings)) {

@@ -37,12 +37,14 @@ function replace_file($path, $content, $durable = false)
     return false;
 }
 
-// Root, who writes a file of the web service's user, leaves it to that one. $old: the file that is replaced, which may be missing.
+// Root, who writes a file of the web service's user, leaves it to that one. $old: the file that is replaced, which may be missing. What
+// somebody else has put into the folder becomes the folder's owner's: nobody else could leave it to who has made it.
 function keep_owner($old, $new)
 {
     clearstatcache();
     $model = file_exists($old) && $old != $new ? $old : dirname($old);
-    return fileowner($model) == fileowner($new) || @chown($new, fileowner($model)) && @chgrp($new, filegroup($model));
+    return fileowner($model) == fileowner($new) || @chown($new, fileowner($model)) && @chgrp($new, filegroup($model))
+        || fileowner($new) == fileowner(dirname($new));
 }
 
 // What a replace_file() that was killed has left. To be called by who holds the lock under which the file is replaced.

@@ -1,5 +1,8 @@
 <?php
-// Forms and their fields, as markup. $errors: name of a field => what is wrong with it.
+// Forms and their fields, as markup. $errors: name of a field => what is wrong with it. A value that is null is not known: who may
+// only look is told so, and who may change it gets a field without a choice, that says so.
+
+define('UNKNOWN_NOW', 'What is set now cannot be read.');
 
 function token_field()
 {
@@ -16,9 +19,10 @@ function form_begin($page, $change)
         $GLOBALS['only_shown'] = true;
         return '<div class="form only-shown">';
     }
-    $again = fill_again($page, $change);
+    $name = preg_replace('/#.*/', '', $page); // what is typed again comes by the page's name
+    $again = fill_again($name, $change);
     return '<form method="post" action="' . h($page) . '"' . ($again ? ' data-unsaved' : '') . '><fieldset class="form">'
-        . token_field() . proof_field($page) . '<input type="hidden" name="change" value="' . h($change) . '">';
+        . token_field() . proof_field($name) . '<input type="hidden" name="change" value="' . h($change) . '">';
 }
 
 // Ends the form with its button; $beside: markup in front of that. Who may not change anything is told so in its place.
@@ -44,7 +48,8 @@ function why_only_shown()
 // What stands in the place of a field.
 function shown_value($label, $value, $hint = '')
 {
-    return '<div class="shown"><p>' . h($label) . '</p><p class="value">' . ($value === '' ? 'None' : h($value)) . '</p>'
+    return '<div class="shown"><p>' . h($label) . '</p><p class="value">'
+        . ($value === null ? unknown() : ($value === '' ? 'None' : h($value))) . '</p>'
         . ($hint == '' ? '' : '<p class="hint">' . h($hint) . '</p>') . '</div>';
 }
 
@@ -73,6 +78,12 @@ function described_by($name, $hint, $error)
     return ($ids == '' ? '' : ' aria-describedby="' . $ids . '"') . ($error == '' ? '' : ' aria-invalid="true"');
 }
 
+// What stands below a field, and before all that what is to be known of a value that is none.
+function hint_on($value, $hint)
+{
+    return $value === null ? trim(UNKNOWN_NOW . ' ' . $hint) : $hint;
+}
+
 // The hint and the error of a field, under the identifiers that described_by() names.
 function field_notes($name, $hint, $error)
 {
@@ -87,6 +98,7 @@ function text_field($name, $label, $value, $errors, $hint = '', $more = '')
         return shown_value($label, $value);
     }
     $error = isset($errors[$name]) ? $errors[$name] : '';
+    $hint = hint_on($value, $hint);
     $value = typed_again($name, $value);
     return '<div class="field' . ($error == '' ? '' : ' wrong') . '"><label for="' . $name . '">' . h($label) . '</label>'
         . '<input type="text" id="' . $name . '" name="' . $name . '" value="' . h($value) . '"'
@@ -99,35 +111,40 @@ function text_field($name, $label, $value, $errors, $hint = '', $more = '')
 function choice_field($name, $legend, $choices, $value, $errors = array())
 {
     if ($GLOBALS['only_shown']) {
-        return isset($choices[$value]) ? shown_value($legend, $choices[$value]['label'], $choices[$value]['hint'])
-            : shown_value($legend, 'Unknown');
+        return $value !== null && isset($choices[$value]) ? shown_value($legend, $choices[$value]['label'], $choices[$value]['hint'])
+            : shown_value($legend, null);
     }
     $error = isset($errors[$name]) ? $errors[$name] : '';
-    $html = '<fieldset class="field"' . described_by($name, '', $error) . '><legend>' . h($legend) . '</legend>';
+    $html = '<fieldset class="field"' . described_by($name, hint_on($value, ''), $error) . '><legend>' . h($legend) . '</legend>';
     foreach ($choices as $choice => $texts) {
         $html .= mark_field('radio', $name, $name . '-' . $choice, $choice, $texts['label'], $texts['hint'],
             (string) $choice == (string) typed_again($name, $value));
     }
-    return $html . field_notes($name, '', $error) . '</fieldset>';
+    return $html . field_notes($name, hint_on($value, ''), $error) . '</fieldset>';
+}
+
+function on_or_off($value)
+{
+    return $value === null ? null : ($value ? 'On' : 'Off');
 }
 
 // Yes or no.
 function check_field($name, $label, $checked, $hint = '')
 {
     if ($GLOBALS['only_shown']) {
-        return shown_value($label, $checked ? 'On' : 'Off', $hint);
+        return shown_value($label, on_or_off($checked), $hint);
     }
-    return mark_field('checkbox', $name, $name, '1', $label, $hint, typed_again($name, $checked ? '1' : '', '') == '1');
+    return mark_field('checkbox', $name, $name, '1', $label, hint_on($checked, $hint), typed_again($name, $checked ? '1' : '', '') == '1');
 }
 
 // Yes or no, where nothing is sent only while the field is inactive: "no" is sent, too.
 function answer_field($name, $label, $checked, $hint = '', $errors = array())
 {
     if ($GLOBALS['only_shown']) {
-        return shown_value($label, $checked ? 'On' : 'Off', $hint);
+        return shown_value($label, on_or_off($checked), $hint);
     }
-    return '<input type="hidden" name="' . $name . '" value="">' . mark_field('checkbox', $name, $name, '1', $label, $hint,
-        typed_again($name, $checked ? '1' : '') == '1', isset($errors[$name]) ? $errors[$name] : '');
+    return '<input type="hidden" name="' . $name . '" value="">' . mark_field('checkbox', $name, $name, '1', $label,
+        hint_on($checked, $hint), typed_again($name, $checked ? '1' : '') == '1', isset($errors[$name]) ? $errors[$name] : '');
 }
 
 // A radio button or a check box, with its label behind it.

@@ -59,6 +59,7 @@ function is_unchanged($wanted, $now)
     return count($wanted) == count($now);
 }
 
+define('UNREADABLE', 'What is set now cannot be read, so that it could not be put back. Try again.');
 define('UNCHANGED', 'These are the settings already; nothing was changed.');
 
 // What somebody else has changed, as markup.

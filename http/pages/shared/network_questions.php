@@ -2,6 +2,7 @@
 // What a person can ask the network from the appliance: whether another device answers, and what a name stands for. Device
 // scripts ask, one question at a time and for 5 seconds at most; a device that has not the scripts or their programs has none.
 
+define('QUESTION_REFUSED', 2);
 define('QUESTION_BUSY', 3);
 define('QUESTION_SILENT', 4);
 
@@ -46,7 +47,8 @@ function ask_question($kind, $value)
         return array('kind' => 'bad', 'lines' => array('No DNS server answered within 5 seconds.'));
     }
     if ($asked['status'] != 0) {
-        return array('kind' => 'bad', 'lines' => array('The appliance could not ask. It may not take this value.'));
+        return array('kind' => 'bad', 'lines' => array('The appliance could not ask.' . ($asked['status'] == QUESTION_REFUSED
+            ? ' It does not take this value.' : '')));
     }
     return $kind == 'ping' ? ping_in_words($value, $asked['lines']) : lookup_in_words($value, $asked['lines']);
 }

@@ -57,6 +57,8 @@ function check_change($session, $for_everybody)
             . ' Open the page again and repeat the change.');
     }
     if (!$for_everybody && !may_change($session)) {
+        audit_refusal($session, 'rights', 'A request of the page "' . title_of_page(this_page()) . '" was refused.',
+            'the role may only look');
         refuse('403 Forbidden', 'Nothing was changed', 'You are signed in as ' . $session->user
             . ', who may look at everything and change nothing.');
     }
@@ -118,6 +120,12 @@ function has_sign_in_token()
 function this_page()
 {
     return basename(text_of($_SERVER, 'SCRIPT_NAME'));
+}
+
+// As the menu has it; some pages are not there.
+function title_of_page($page)
+{
+    return isset($GLOBALS['pages'][$page]) ? $GLOBALS['pages'][$page] : $page;
 }
 
 // A page to go on to after the sign-in: one of these pages, never an address from outside.

@@ -34,7 +34,9 @@ function open_session()
     if (session_id() == $id && isset($_SESSION['user'], $_SESSION['token'])) {
         return true;
     }
-    session_destroy(); // it ended this very moment
+    // It ended this very moment, or its file is damaged, so that the interpreter has no session to end.
+    @session_destroy();
+    @unlink(session_file($id));
     $_SESSION = array();
     return false;
 }
@@ -95,7 +97,9 @@ function begin_session($values)
 // The same session under another identifier, bound to the account's password of now.
 function renew_session()
 {
-    return_to_session();
+    if (!return_to_session()) {
+        return false; // somebody has ended it
+    }
     $accounts = read_accounts();
     $values = $_SESSION;
     $values['account'] = md5($accounts[$values['user']]['hash']);
@@ -219,20 +223,36 @@ function leave_session()
     $GLOBALS['session_left'] = true;
 }
 
-// Takes up a session that was left, so that something can be stored in it.
+// Takes up a session that was left, so that something can be stored in it. Returns whether it is still there: it may have been
+// ended meanwhile, and this request goes on with what it knows of it.
 function return_to_session()
 {
-    if (!empty($GLOBALS['session_left'])) {
-        session_start();
-        $GLOBALS['session_left'] = false;
+    if (empty($GLOBALS['session_left'])) {
+        return true;
     }
+    $id = session_id();
+    clearstatcache();
+    if (!is_file(session_file($id))) {
+        return false;
+    }
+    $GLOBALS['session_left'] = false;
+    $known = $_SESSION;
+    @session_start();
+    if (session_id() == $id && isset($_SESSION['user'])) {
+        return true;
+    }
+    @session_destroy(); // it ended this very moment
+    $GLOBALS['session_left'] = true;
+    $_SESSION = $known;
+    return false;
 }
 
 // Ends the session for later requests; this one goes on with what it knows of it.
 function forget_session()
 {
-    return_to_session();
-    session_destroy();
+    if (return_to_session()) {
+        session_destroy();
+    }
 }
 
 function end_session()

@@ -9,12 +9,13 @@ function results_of_test($began)
     $status = 1;
     exec('/bin/sh ' . APPLIANCE_FOLDER . '/AppManager/bin/testTrapResults.sh 2>/dev/null', $lines, $status);
     $results = array();
+    $is_of_test = false;
     foreach ($status == 0 ? $lines : array() as $line) {
         $parts = explode(' ', $line);
-        if ($parts[0] == 'time' && isset($parts[1]) && $parts[1] < $began) {
-            return array();
+        if ($parts[0] == 'time' && isset($parts[1])) {
+            $is_of_test = $parts[1] >= $began;
         }
-        if (count($parts) == 3 && (!isset($results[$parts[0]]) || $parts[2] == 'refused' || $parts[2] == 'unreachable')) {
+        if ($is_of_test && count($parts) == 3 && (!isset($results[$parts[0]]) || $parts[2] == 'refused' || $parts[2] == 'unreachable')) {
             $results[$parts[0]] = $parts[2];
         }
     }
@@ -31,6 +32,22 @@ function outcome_of_trap($outcome)
 {
     $texts = array('sent' => 'Sent', 'connected' => 'Taken', 'refused' => 'Refused', 'unreachable' => 'Not reached');
     return isset($texts[$outcome]) ? $texts[$outcome] : 'Not known';
+}
+
+// Receiver => what became of it, in words: those that failed first, for the audit has no room for all.
+function outcomes_for_audit($results)
+{
+    $failed = array();
+    $others = array();
+    ksort($results);
+    foreach ($results as $receiver => $outcome) {
+        if ($outcome == 'sent' || $outcome == 'connected') {
+            $others[$receiver] = outcome_of_trap($outcome);
+        } else {
+            $failed[$receiver] = outcome_of_trap($outcome);
+        }
+    }
+    return $failed + $others;
 }
 
 // State and explanation, as markup.

@@ -26,10 +26,7 @@ $filters = array('user' => array('label' => 'User', 'choices' => $users),
 <?php } ?>
     <button type="submit">Show</button>
   </form>
-<?php if (!$services) echo message('bad', '<p>The audit trail of the management services cannot be read: what they did without a page'
-    . ' is missing.</p>'); ?>
-<?php if ($damaged > 0) echo message('caution', '<p>' . ($damaged == 1 ? 'One line of the audit is damaged and is'
-    : (int) $damaged . ' lines of the audit are damaged and are') . ' left out.</p>'); ?>
+<?php foreach ($gaps as $gap => $kind) echo message($kind, '<p>' . h($gap) . '</p>'); ?>
 <?php if (!$entries) { ?>
   <p class="empty"><?php echo $count > 0 ? 'There is no such page.' : ($query == '' ? 'Nothing was done yet.'
       : 'Nothing of this kind was done.'); ?></p>
@@ -53,7 +50,7 @@ $filters = array('user' => array('label' => 'User', 'choices' => $users),
   <details class="fold"><summary>How much is kept</summary>
     <p class="hint">The newest <?php echo (int) $GLOBALS['audit_files']['changes']['lines']; ?> changes,
       <?php echo (int) $GLOBALS['audit_files']['sign-ins']['lines']; ?> sign-ins and sign-outs and
-      <?php echo (int) $GLOBALS['audit_files']['refused']['lines']; ?> lines of refused sign-ins, of which those of one address within a
-      day are one line; each line has <?php echo AUDIT_LINE_BYTES; ?> bytes at most. None of the three takes room from another.
-      Of what the management services did without a page, the newest 100.</p></details>
+      <?php echo (int) $GLOBALS['audit_files']['refusals']['lines']; ?> lines of what was refused, of which those about the same, of one user
+      and one address (of IPv6: one network) within a day are one line with the last address; each line has <?php echo AUDIT_LINE_BYTES; ?> bytes at most. None of the three takes room from another.
+      Of what the management services did, for a page or without one, the newest 1500 operations.</p></details>
 </section>

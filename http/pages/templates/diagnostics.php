@@ -1,7 +1,7 @@
 <?php
 if (!$log_alone) {
     echo render('audit', array('entries' => $entries, 'count' => $count, 'page' => $page, 'pages' => $pages, 'wanted' => $wanted,
-        'users' => $users, 'damaged' => $damaged, 'services' => $services));
+        'users' => $users, 'gaps' => $gaps));
 }
 if ($questions) {
     echo render('network_questions', array('questions' => $questions, 'asked' => $asked, 'value' => $value, 'answer' => $answer,

@@ -43,7 +43,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
     <dt>Obtained by</dt><dd><?php echo !$modes_known ? unknown() : ($modes ? h(ucfirst(implode(', ', $modes))) : 'Nothing'); ?></dd>
     <dt>Addresses</dt>
 <?php foreach ($settings->ipv6Addresses ? $settings->ipv6Addresses : array() as $address) { ?>
-    <dd><?php echo h($address); ?></dd>
+    <dd><?php echo h($address), ipv6_source_hint($address); ?></dd>
 <?php } ?>
 <?php if (!$settings->ipv6Addresses) { ?>
     <dd><?php echo isset($unknown['addresses']) ? unknown() : 'None'; ?></dd>
@@ -96,7 +96,7 @@ $duplex = array(-1 => '', 0 => 'Half duplex', 1 => 'Full duplex');
   <p><?php echo web_state(); ?></p>
   <dl>
     <dt>HTTPS</dt><dd><?php echo isset($unknown['ssl']) ? unknown() : ($settings->sslEnabled ? 'On' : 'Off'); ?></dd>
-<?php if ($settings->sslEnabled && fact('certificate.end') != '') { ?>
+<?php if (!isset($unknown['ssl']) && $settings->sslEnabled && fact('certificate.end') != '') { ?>
     <dt>Certificate</dt><dd><?php echo has_certificate_expired() ? 'Expired ' : 'Until ', h(time_in_words(fact('certificate.end'))); ?></dd>
 <?php } ?>
   </dl>

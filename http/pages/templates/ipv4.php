@@ -10,7 +10,8 @@ $unknown = $is_known ? array() : array('ipv4' => true);
   <dl>
 <?php if ($shows_interfaces) { ?>
     <dt>Address in use</dt><dd><?php echo h(ipv4_in_words($current, $unknown)); ?></dd>
-    <dt>Gateway in use</dt><dd><?php echo fact('eth0.link') == '' ? unknown() : h(present_value(fact('ipv4.gateway'))); ?></dd>
+    <dt>Gateway in use</dt><dd><?php echo fact('ipv4.gateway') == '' && !tells_addresses() ? unknown()
+      : h(present_value(fact('ipv4.gateway'))); ?></dd>
 <?php if (lease_in_words() != '') { ?>
     <dt>Lease</dt><dd><?php echo h(lease_in_words()); ?></dd>
 <?php } ?>
@@ -31,8 +32,8 @@ $unknown = $is_known ? array() : array('ipv4' => true);
   <h2 id="name">Host name</h2>
 <?php
 if ($meanwhile && posted('change') == 'name') echo meanwhile_message($meanwhile);
-echo form_begin('ipv4.php', 'name'), seen_field(array('hostname' => $name));
-echo text_field('hostname', 'Name', $settings->hostname, $errors, 'Letters, digits, hyphens and dots; at most 64 characters.');
+echo form_begin('ipv4.php', 'name'), seen_field($name === '' ? array() : array('hostname' => $name));
+echo text_field('hostname', 'Name', $settings->hostname === '' && !$errors ? null : $settings->hostname, $errors, 'Letters, digits, hyphens and dots; at most 64 characters.');
 ?>
 <p class="note">The new name is in use at once. With HTTPS on, the web server restarts with a certificate for it.</p>
 <?php echo form_end('Save name'); ?>

@@ -36,14 +36,14 @@ echo answer_field('enabled', 'Use IPv6', $typed['enabled'] == 'On', 'Off means o
 <fieldset>
 <legend>Automatic addresses</legend>
 <?php
-echo answer_field('stateless', 'Router advertisements', $typed['stateless'] == 'On',
+echo answer_field('stateless', 'Router advertisements', is_on($typed['stateless']),
     'The appliance makes its address from what the router announces (SLAAC).');
-echo answer_field('dhcp', 'DHCP', $typed['dhcp'] == 'On', 'A DHCPv6 server in your network gives the address.');
+echo answer_field('dhcp', 'DHCP', is_on($typed['dhcp']), 'A DHCPv6 server in your network gives the address.');
 ?>
 </fieldset>
 <fieldset>
 <legend>Static address</legend>
-<?php echo answer_field('static', 'Use a static address', $typed['mode'] == 'On', 'In addition to the automatic ones.'); ?>
+<?php echo answer_field('static', 'Use a static address', is_on($typed['mode']), 'In addition to the automatic ones.'); ?>
 <div class="when-static">
 <?php
 echo text_field('ipStatic', 'Address', $typed['ip'], $errors);

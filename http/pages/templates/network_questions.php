@@ -12,11 +12,12 @@ $error = $is_asked && isset($question_errors[$kind]) ? $question_errors[$kind] :
 ?>
       <div class="field<?php if ($error != '') echo ' wrong'; ?>"><label for="<?php echo $kind; ?>"><?php
         echo h($question['title'] . ': ' . strtolower($question['label'])); ?></label>
-        <input type="text" id="<?php echo $kind; ?>" name="value" value="<?php echo $is_asked ? h($value) : ''; ?>"<?php
+        <input type="text" id="<?php echo $kind; ?>" name="value" value="<?php echo h(typed_again('value', $is_asked ? $value : '')); ?>"<?php
           echo described_by($kind, '', $error); ?> autocomplete="off" autocapitalize="none" spellcheck="false">
         <?php echo field_notes($kind, '', $error); ?></div>
       <p class="actions"><button type="submit" data-busy="Asking…"><?php echo h($question['button']); ?></button></p>
       </fieldset></form>
+<?php fill_no_more(); ?>
     </div>
 <?php } ?>
   </div>

@@ -15,17 +15,17 @@
 <?php
 if ($meanwhile) echo meanwhile_message($meanwhile);
 echo form_begin('port.php', 'port'), seen_field($seen);
-echo check_field('auto', 'Autonegotiation', $settings->AutoNegotiate == 1,
+echo check_field('auto', 'Autonegotiation', $settings->AutoNegotiate === null ? null : $settings->AutoNegotiate == 1,
     'The port agrees on speed and duplex with what it is connected to. Switch it off only when the other side has it off too.');
 ?>
 <fieldset class="by-hand" data-inactive-while="auto">
 <?php
 echo choice_field('speed', 'Speed', array(
     '100' => array('label' => '100 Mbit/s', 'hint' => ''),
-    '10' => array('label' => '10 Mbit/s', 'hint' => '')), $settings->Speed, $errors);
+    '10' => array('label' => '10 Mbit/s', 'hint' => '')), (string) $settings->Speed, $errors);
 echo choice_field('duplex', 'Duplex', array(
     '1' => array('label' => 'Full', 'hint' => 'Sends and receives at the same time.'),
-    '0' => array('label' => 'Half', 'hint' => 'Takes turns. For old hubs.')), $settings->Duplex, $errors);
+    '0' => array('label' => 'Half', 'hint' => 'Takes turns. For old hubs.')), (string) $settings->Duplex, $errors);
 ?>
 <p class="hint while-inactive">Not used while autonegotiation is on.</p>
 </fieldset>

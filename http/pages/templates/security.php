@@ -25,7 +25,7 @@ echo choice_field('https', 'These pages are served by', array(
     '1' => array('label' => 'HTTPS',
         'hint' => 'Encrypted. The appliance makes its own certificate, so your browser will ask you once whether to trust it.'),
     '0' => array('label' => 'HTTP', 'hint' => 'Not encrypted: anybody on the network can read along.')),
-    $is_known ? ($settings->isEnabled ? '1' : '0') : '', $errors);
+    $is_known ? ($settings->isEnabled ? '1' : '0') : null, $errors);
 ?>
 <p class="note">The web server restarts in the new mode, and you will sign in again there: <a href="<?php echo h($address); ?>"><?php echo h($address); ?></a>.</p>
 <?php echo form_end('Save', trial_field('trial')); ?>

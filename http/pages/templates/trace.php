@@ -34,7 +34,7 @@ $is_open = $filter != '' || $only_errors || $live != 'scripts';
 <?php } elseif ($filter != '') { ?>
   <pre class="log long" tabindex="0" role="region" aria-label="End of the trace log"><?php echo h(implode("\n", $lines)); ?></pre>
 <?php } elseif (!$calls) { ?>
-  <p class="empty">No call has failed.</p>
+  <p class="empty">No call says that it has failed. Not all do: what could not be read is said on its page.</p>
 <?php } else { ?>
   <p class="hint">The newest <?php echo count($calls) == 1 ? 'call' : count($calls) . ' calls'; ?>, the newest first.</p>
   <div class="calls" tabindex="0" role="group" aria-label="Calls of the module">

@@ -3,6 +3,13 @@ $transports = array(1 => 'UDP', 2 => 'TCP');
 $may_change = may_change($GLOBALS['session']);
 if ($meanwhile) echo meanwhile_message($meanwhile);
 ?>
+<?php if (has_facts()) { ?>
+<section class="card" aria-labelledby="now">
+  <h2 id="now">Now</h2>
+  <p><?php echo agent_state(); ?></p>
+<?php foreach (service_alarms() as $alarm) if ($alarm[3] == 'snmp.php') echo alarm_message($alarm); ?>
+</section>
+<?php } ?>
 <section class="card" aria-labelledby="list">
   <h2 id="list">Receivers</h2>
 <?php if (!$is_known) { ?>
@@ -42,7 +49,7 @@ if ($meanwhile) echo meanwhile_message($meanwhile);
     </tbody>
   </table>
 <?php } ?>
-<?php if ($receivers && $may_change) { ?>
+<?php if ($is_known && $receivers && $may_change) { ?>
   <form method="post" action="traps.php"><?php echo token_field(); ?>
     <input type="hidden" name="change" value="test">
     <p class="note">The test restarts the agent's traps and sends one to every receiver.</p>
@@ -57,7 +64,7 @@ if ($meanwhile) echo meanwhile_message($meanwhile);
 <?php
 echo form_begin('traps.php', 'add');
 echo seen_field($seen);
-echo '<input type="hidden" name="listed" value="1">';
+if ($is_known) echo '<input type="hidden" name="listed" value="1">';
 echo text_field('ip', 'Address', $typed['ip'], $errors, 'IPv4 or IPv6 address of the management system.');
 echo text_field('port', 'Port', $typed['port'], $errors, '', 'inputmode="numeric" class="short"');
 echo choice_field('transport', 'Transport', array(

@@ -4,8 +4,8 @@
 header('Content-Type: text/plain');
 echo str_repeat("The beginning.\n", 1000);
 flush();
-touch('/run/slow.begun');
-for ($tries = 0; $tries < 1000 && !file_exists('/run/slow.end'); $tries++) {
+touch('/tmp/slow.begun');
+for ($tries = 0; $tries < 1000 && !file_exists('/tmp/slow.end'); $tries++) {
     usleep(10000);
     clearstatcache();
 }

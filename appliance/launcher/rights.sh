@@ -1,0 +1,74 @@
+# shellcheck shell=bash
+# Who may do what in the appliance: the users of what talks to strangers, and whose the files are. To be sourced by bash
+# behind install.sh, as root.
+#
+#   rights_add_users ROOT     names the users in ROOT/etc/passwd and ROOT/etc/group: the appliance's own, and of the
+#                             machine's only those of its system. In ROOT alone. Returns 1 where the machine has given
+#                             one of the numbers to somebody else.
+#   rights_have_users         whether there are such users here: not in a user namespace, which has no second one, and not
+#                             on the machine itself
+#   rights_settle             gives the files to who needs them, and says in the file that the device scripts know who
+#                             that is. Without such users all is root's and nobody else's.
+
+WEB_USER=network-web
+PAGES_USER=network-pages
+# Of the numbers that Debian gives out nowhere by itself; a file keeps its owner over a restart.
+WEB_ID=61080
+PAGES_ID=61081
+USERS=$APP_RUN/users # that the device scripts know
+
+rights_add_users() {
+  local root=$1 id
+  for id in "$WEB_ID" "$PAGES_ID"; do
+    if getent passwd "$id" || getent group "$id"; then
+      echo "the number $id is that of another user or group of this machine"
+      return 1
+    fi >&2
+  done
+  _rights_of_the_system /etc/passwd >"$root/etc/passwd.new" && _rights_of_the_system /etc/group >"$root/etc/group.new" || return
+  printf '%s\n' "$WEB_USER:x:$WEB_ID:$WEB_ID::/nonexistent:/usr/sbin/nologin" \
+    "$PAGES_USER:x:$PAGES_ID:$PAGES_ID::/nonexistent:/usr/sbin/nologin" >>"$root/etc/passwd.new" &&
+    printf '%s\n' "$WEB_USER:x:$WEB_ID:" "$PAGES_USER:x:$PAGES_ID:" >>"$root/etc/group.new" &&
+    mv "$root/etc/passwd.new" "$root/etc/passwd" && mv "$root/etc/group.new" "$root/etc/group"
+}
+
+_rights_of_the_system() { awk -F : '$3 < 1000 || $3 >= 65534' "$1"; }
+
+rights_have_users() { [[ $EUID == 0 ]] && grep -q "^$PAGES_USER:x:$PAGES_ID:" /etc/passwd; }
+
+rights_settle() {
+  local web=0 pages=0 file
+  if rights_have_users; then
+    web=$WEB_ID pages=$PAGES_ID
+    mkdir -p "$APP_RUN" && printf '%s\n' "web $web $web" "pages $pages $pages" >"$USERS" || return
+  fi
+  # Root's; sticky where the interpreter's user makes files beside root's own, such as the agent's user.
+  _rights_folder 755 0 0 "$APP_RUN" && _rights_folder 1770 0 "$pages" "$CORE_SERVICE/dat" &&
+    _rights_folder 700 0 0 "$CORE_SERVICE/dat/snmp" && _rights_folder 755 0 0 "$WEB_SERVER/logs" &&
+    _rights_folder 755 0 0 "$WEB_SERVER/conf" && _rights_folder 755 "$web" "$web" "$WEB_RUN" &&
+    _rights_folder 750 "$pages" "$web" "$PHP_RUN" && _rights_folder 700 "$pages" "$pages" "$PAGES_DATA" || return
+  chown -hR "$pages:$pages" "$PAGES_DATA" && chown -hR 0:0 "$CORE_SERVICE/dat/snmp" || return
+  for file in "$CORE_SERVICE"/dat/management.db{,-wal,-shm,.copy,.restored,.ssl_lock,.copy_lock}; do
+    _rights_file 600 "$pages" "$file" || return
+  done
+  # Whoever takes one of these first would make it its own.
+  /bin/sh "$APP_MANAGER/bin/asUser.sh" pages touch "$CORE_SERVICE"/dat/management.db{.ssl_lock,.copy_lock} || return
+  for file in php_extension.log trial.log; do
+    _rights_new_file "$WEB_SERVER/logs/$file" && _rights_file 640 "$pages" "$WEB_SERVER/logs/$file" || return
+  done
+  _rights_new_file "$WEB_SERVER/logs/error.log" && _rights_file 640 "$web" "$WEB_SERVER/logs/error.log" &&
+    _rights_file 640 0 "$WEB_SERVER/logs/services.log" && _rights_file 600 "$web" "$WEB_SERVER/conf/key.pem" &&
+    _rights_file 644 0 "$WEB_SERVER/conf/certificate.pem"
+}
+
+# _rights_folder MODE USER GROUP FOLDER
+_rights_folder() { mkdir -p "$4" && chown -h "$2:$3" "$4" && chmod "$1" "$4"; }
+
+# A file is there for whoever may write to it, but not make it. Its folder is root's alone.
+_rights_new_file() { [[ -e $1 ]] || : >>"$1"; }
+
+# _rights_file MODE USER FILE: where there is one, or whatever else lies in its place. No link is followed.
+_rights_file() {
+  [[ -e $3 || -L $3 ]] || return 0
+  chown -h "$2:$2" "$3" && if [[ -f $3 && ! -L $3 ]]; then chmod "$1" "$3"; fi
+}
