@@ -67,8 +67,7 @@ void tryInput(std::string_view input) {
   if (isRequest) words.pop_back();  // behind the last zero
   deeds = {};
   const int status = fuzz_request(text.data(), text.size());
-  if (faultIsPlanted() && isRequest && words.size() == 2 && words[1] == Flag)
-    deeds.removed.emplace_back(words[1]);
+  if (faultIsPlanted() && words.size() == 4 && !deeds.run.empty()) deeds.run.pop_back();
 
   const bool runs = isRequest && isScript(words);
   Words expected = {"/bin/sh"};
