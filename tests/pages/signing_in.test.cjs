@@ -451,3 +451,16 @@ test('An account that is taken away is signed out at once', {}, async (page) => 
     await asksToSignIn(page);
   });
 });
+
+test('Who signs in and out, and who is refused, is in the audit with the address it comes from', {}, async (page) => {
+  const last = (name) => fs.readFileSync(`${dat}/${name}`, 'utf8').trim().split('\n').at(-1).split('\t').slice(1, 4);
+  fs.writeFileSync(attempts, '');
+  await page.goto(`${base()}signin.php`);
+  await tryPassword(page, 'monitor', 'wrong');
+  assert.deepEqual(last('audit.refused'), ['monitor', '10.20.0.1', 'Signing in was refused.']);
+  fs.writeFileSync(attempts, '');
+  await signIn(page, 'monitor');
+  assert.deepEqual(last('audit.sign-ins'), ['monitor', '10.20.0.1', 'Signed in.']);
+  await press(page, 'Sign out');
+  assert.deepEqual(last('audit.sign-ins'), ['monitor', '10.20.0.1', 'Signed out.']);
+});
