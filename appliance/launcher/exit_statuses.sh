@@ -15,9 +15,12 @@ STATUS_PREPARE=71       # not installed or not built
 fail() {
   local status=$1
   shift
-  echo "$*" >&2
+  on_one_line "$*" >&2
   exit "$status"
 }
+
+# on_one_line TEXT: prints it. What was read from a file that others may write is no order to the terminal.
+on_one_line() { printf '%s\n' "${1//[[:cntrl:]]/?}"; }
 
 # must STATUS SENTENCE COMMAND...: runs COMMAND, which sets no variable and stays silent unless it fails; then ends
 # with STATUS, SENTENCE and the last thing that COMMAND said.

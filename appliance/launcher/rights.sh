@@ -47,6 +47,7 @@ rights_settle() {
     _rights_folder 700 0 0 "$CORE_SERVICE/dat/snmp" && _rights_folder 755 0 0 "$WEB_SERVER/logs" &&
     _rights_folder 755 0 0 "$WEB_SERVER/conf" && _rights_folder 755 "$web" "$web" "$WEB_RUN" &&
     _rights_folder 750 "$pages" "$web" "$PHP_RUN" && _rights_folder 700 "$pages" "$pages" "$PAGES_DATA" || return
+  _rights_remove_traps "$pages" || return
   chown -hR "$pages:$pages" "$PAGES_DATA" && chown -hR 0:0 "$CORE_SERVICE/dat/snmp" || return
   for file in "$CORE_SERVICE"/dat/management.db{,-wal,-shm,.copy,.restored,.ssl_lock,.copy_lock}; do
     _rights_file 600 "$pages" "$file" || return
@@ -63,6 +64,17 @@ rights_settle() {
 
 # _rights_folder MODE USER GROUP FOLDER
 _rights_folder() { mkdir -p "$4" && chown -h "$2:$3" "$4" && chmod "$1" "$4"; }
+
+# _rights_remove_traps USER: what nobody makes but a page with a fault, of which none runs now, where root opens files at a start
+# and gives them away. A link would lead root elsewhere, a pipe keep it waiting for ever. Another name of somebody else's
+# file may also be what a copy of the folder has left, so that is for whoever starts it to judge.
+_rights_remove_traps() {
+  local other
+  find "$PAGES_DATA" "$CORE_SERVICE/dat" -path "$CORE_SERVICE/dat/snmp" -prune -o ! -type f ! -type d -exec rm -f {} + || return
+  other=$(find "$PAGES_DATA" "$CORE_SERVICE/dat" -path "$CORE_SERVICE/dat/snmp" -prune -o -name ipv6Enabled -o \
+    -type f -links +1 ! -uid "$1" -print -quit) || return
+  [[ -z $other ]] || { echo "$other has other names, too, and is not the interpreter's" && return 1; }
+}
 
 # A file is there for whoever may write to it, but not make it. Its folder is root's alone.
 _rights_new_file() { [[ -e $1 ]] || : >>"$1"; }

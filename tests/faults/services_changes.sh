@@ -83,7 +83,7 @@ power_off() {
 # As run_services does it.
 start_again() {
   "$CORE_SERVICE/bin/management_database" 2>>"$SERVICES_SAY" && /bin/sh "$BIN/applyWebMode.sh" start 2>>"$SERVICES_SAY" || return
-  setsid /bin/sh "$BIN/webServer.sh" "$WEB_SERVER/conf/lighttpd.conf" </dev/null >>"$SERVICES_SAY" 2>&1 &
+  setsid env --default-signal /bin/sh "$BIN/webServer.sh" "$WEB_SERVER/conf/lighttpd.conf" </dev/null >>"$SERVICES_SAY" 2>&1 &
   /bin/sh "$BIN/restartSNMP.sh" 2>>"$SERVICES_SAY" && await 10 test -s /run/appmanager/web/lighttpd.pid
 }
 

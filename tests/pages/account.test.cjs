@@ -471,11 +471,13 @@ test('Only what comes back after the sign-in is said to do so', {}, async (page,
 });
 
 test('Whose session is ended while the page asks the device is asked to sign in', {}, async (page, context) => {
-  await withScript('ipv6Manager.sh', 'sleep 2; exec sh "$ORIGINAL" "$@"', async () => {
+  const asked = '/tmp/device.asked';
+  await withScript('ipv6Manager.sh', `: >${asked}; sleep 2; exec sh "$ORIGINAL" "$@"`, async () => {
     await signIn(page, 'admin', 'account.php');
     const file = await sessionFile(context);
+    fs.rmSync(asked, {force: true});
     const opened = open(page, 'dns.php');
-    await new Promise((resolve) => setTimeout(resolve, 1000));
+    await until(() => fs.existsSync(asked), 'the page to ask the device');
     fs.unlinkSync(file);
     await opened;
     assert.equal(await asksToSignIn(page), 'Your session has ended.');
@@ -486,8 +488,9 @@ test('Whose session is ended while the page asks the device is asked to sign in'
     await enterPassword(page);
     await page.fill('#dnsPrimary', '10.20.0.66');
     const again = await sessionFile(context);
+    fs.rmSync(asked);
     const sent = press(page, 'Save');
-    await new Promise((resolve) => setTimeout(resolve, 1000));
+    await until(() => fs.existsSync(asked), 'the page to ask the device');
     fs.unlinkSync(again);
     await sent;
     assert.match(await asksToSignIn(page), /^Your session has ended\. What you sent was not saved\./);

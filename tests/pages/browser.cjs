@@ -126,7 +126,12 @@ async function asksToSignIn(page) {
 }
 
 async function open(page, name) {
-  await page.goto(new URL(name, page.url()).href);
+  const address = new URL(name, page.url()).href;
+  await page.goto(address).catch((error) => {
+    // A page that goes on by itself just then.
+    if (!/interrupted by another navigation/.test(error.message)) throw error;
+    return page.goto(address);
+  });
 }
 
 // Presses the button (within the element, when there are several) and waits for the page that comes of it.

@@ -192,7 +192,7 @@ test('One trial at a time, and two administrators: the other one is offered to k
   await press(other, 'Undo now');
   await reaches('undone');
   await answersAt('10.20.0.7');
-  await open(other, 'applying.php');
+  await other.waitForSelector('h1:text-is("Undone")'); // it comes there by itself
   assert.match(await other.innerText('#outcome'), /^Undone at [\d:]+ UTC, because admin asked for it\./);
   assert.match(inAppliance('ip', 'route', 'show', 'default'), /via 10\.20\.0\.1 /);
   await other.context().close();

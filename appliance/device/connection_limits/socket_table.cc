@@ -68,11 +68,11 @@ SocketTable::SocketTable() : socket_(socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC,
 
 SocketTable::~SocketTable() { close(socket_); }
 
-bool SocketTable::ForEach(const std::function<void(const Connection&)>& show) {
+bool SocketTable::ForEach(const std::function<void(const Connection&)>& show) const {
   return ForEach(AF_INET, show) && ForEach(AF_INET6, show);
 }
 
-bool SocketTable::ForEach(std::uint8_t family, const std::function<void(const Connection&)>& show) {
+bool SocketTable::ForEach(std::uint8_t family, const std::function<void(const Connection&)>& show) const {
   const int error = Ask(SOCK_DIAG_BY_FAMILY, NLM_F_DUMP, family, {});
   errno = error;
   if (error != 0) return false;
@@ -91,7 +91,7 @@ bool SocketTable::ForEach(std::uint8_t family, const std::function<void(const Co
   }
 }
 
-int SocketTable::End(const Connection& connection) {
+int SocketTable::End(const Connection& connection) const {
   const int error = Ask(SOCK_DESTROY, NLM_F_ACK, connection.family, connection.id);
   if (error != 0) return error;
   alignas(nlmsghdr) char answer[NLMSG_SPACE(sizeof(nlmsgerr)) + sizeof(Request)];
@@ -103,7 +103,7 @@ int SocketTable::End(const Connection& connection) {
 }
 
 int SocketTable::Ask(std::uint16_t type, std::uint16_t flags, std::uint8_t family,
-                     const inet_diag_sockid& id) {
+                     const inet_diag_sockid& id) const {
   Request request = {};
   request.header.nlmsg_len = sizeof(request);
   request.header.nlmsg_type = type;

@@ -25,14 +25,14 @@ class SocketTable {
   SocketTable& operator=(const SocketTable&) = delete;
 
   // Shows every open connection; false with errno when the kernel does not.
-  bool ForEach(const std::function<void(const Connection&)>& show);
+  bool ForEach(const std::function<void(const Connection&)>& show) const;
   // 0 or the number of the error. The server sees it aborted.
-  int End(const Connection& connection);
+  int End(const Connection& connection) const;
 
  private:
-  bool ForEach(std::uint8_t family, const std::function<void(const Connection&)>& show);
+  bool ForEach(std::uint8_t family, const std::function<void(const Connection&)>& show) const;
   // 0 or the number of the error.
-  int Ask(std::uint16_t type, std::uint16_t flags, std::uint8_t family, const inet_diag_sockid& id);
+  int Ask(std::uint16_t type, std::uint16_t flags, std::uint8_t family, const inet_diag_sockid& id) const;
 
   int socket_;
 };

@@ -40,6 +40,7 @@ start_dhcpv4() {
 
 # The file of the process number is younger than the lock, so both are looked at anew until the lock is free.
 stop_dhcpv4() {
+  (umask 077 && : >>"$RUN/dhcpv4.running") # who could open it could hold it
   tries=0
   until flock -w $((tries > 0)) "$RUN/dhcpv4.running" true; do
     [ "$tries" -lt 10 ] || {

@@ -25,7 +25,7 @@ follow_flag() {
 mkdir -p "${IPV6_ENABLED%/*}" "$RUN" || fail "the folder of $IPV6_ENABLED cannot be made"
 news=$RUN/ipv6Flag.news
 rm -f "$news"
-mkfifo "$news" || fail "$news cannot be made"
+mkfifo -m 600 "$news" || fail "$news cannot be made"
 inotifywait --monitor --event create,delete,moved_to,moved_from --include "/${IPV6_ENABLED##*/}\$" \
   --format 'The flag has changed.' "${IPV6_ENABLED%/*}" >"$news" 2>&1 &
 watcher=$! follower=

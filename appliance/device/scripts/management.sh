@@ -13,11 +13,12 @@ query() {
   as_its_owner sqlite3 -separator ' ' -cmd '.timeout 10000' "file:$DATABASE?mode=rw" "$1"
 }
 
-# What lies in the database's folder is its owner's: a link there is nothing that root should follow.
+# What lies in the database's folder is its owner's, who can put a link there, or a database of its own making, at any moment:
+# nothing that root should open. Nor are the locks that are held here its owner's business.
 as_its_owner() (
-  if [ -O "$DATABASE" ]; then exec "$@"; fi
+  if [ -O "$DATABASE" ] && ! find_user pages; then exec "$@"; fi
   as_user pages "$@"
-)
+) 8>&- 9>&-
 
 # store_file FILE TEXT: like `store`, in any folder. Without room for the text the old file stays; one that holds the
 # text already needs none.

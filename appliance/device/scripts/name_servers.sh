@@ -9,7 +9,8 @@ DHCPV6_SERVERS=$RUN/dhcpv6.dns
 # A lock of its own, since the DHCP clients' events come while a change waits for the client.
 apply_name_servers() {
   in_place && return
-  (
+  # Who could open the lock could hold it.
+  (umask 077 && : >>"$RUN/resolver.lock") && (
     flock 8
     read_setting servers dns
     if [ "$servers" = ' ' ]; then

@@ -27,10 +27,10 @@ one_at_a_time() {
 }
 
 # within_time FUNCTION ARGUMENT... PROGRAM ARGUMENT...: with the rights of the function, with_rights or as_user. Each has one
-# argument of its own.
+# argument of its own. The program has no part in the lock.
 within_time() (
   rights="$1 $2"
   shift 2
   # shellcheck disable=SC2086 # two words
   $rights timeout -k 1 "$QUESTION_SECONDS" "$@" 2>&1
-)
+) 9>&-

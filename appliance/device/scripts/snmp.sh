@@ -40,7 +40,18 @@ read_agent_settings() {
   read -r version1 version2 version3 trap1 trap2 auth_traps community <<SETTINGS
 $settings
 SETTINGS
+  is_community "$community" || fail 'the read community in the management database is none'
   receivers=$(query 'SELECT receiver FROM trap_sinks ORDER BY number') || fail 'the trap receivers cannot be read'
+  wrong=$(line "$receivers" | grep -vxE "$RECEIVER" | grep .) || return 0
+  fail "a trap receiver in the management database is none: $(shown "$wrong")"
+}
+
+# What is read here ends in the agent's configuration and in addresses of socat, which can name files and commands, and the
+# database belongs to the interpreter's user. So it has the form that the management services give it, or it is not used.
+RECEIVER='(udp|tcp)(:[0-9.]{7,15}|6:\[[0-9A-Fa-f:.]{2,45}\]):[0-9]{1,5}'
+
+is_community() {
+  case $1 in '' | *[!!-~]* | *[\"\']*) return 1 ;; esac
 }
 
 # Sets user and passphrase; made at the first call, and when the file is damaged, and kept.

@@ -9,8 +9,9 @@ $subjects_of_operations = array('setSSLEnabled' => 'ssl', 'setSNMPVersions' => '
     'setReadCommunity' => 'snmp', 'restartSNMP' => 'snmp', 'createTrapRegistration' => 'traps',
     'deleteTrapRegistration' => 'traps');
 
-// All entries, newest first, and what is missing: array of the two, the second as audit_gaps() has it. $services: audit_entries(). What the services say
-// of a change by a page is under that entry's 'operations'; what nobody of the pages asked for is an entry of its own.
+// All entries, newest first, and what is missing: array of the two, the second as audit_gaps() has it. $services:
+// audit_entries(). What the services say of a change by a page is under that entry's 'operations'; what nobody of the pages
+// asked for is an entry of its own.
 function whole_audit($services)
 {
     $entries = array();
