@@ -5,10 +5,13 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <iterator>
 
 #include "address_rules/settings_rules.h"
 #include "reference.h"
 #include "target.h"
+
+int checkSettings(int count, char** arguments);
 
 namespace {
 
@@ -157,6 +160,23 @@ void requireVerdict(const Verdict& verdict, bool expected) {
   requireOneLine(verdict.sentence);
 }
 
+void requireRightOrWrong(const Verdict& verdict) {
+  require(verdict.status == Verdict::Right || verdict.status == Verdict::Wrong,
+          "it can be told, and is of no name server");
+}
+
+// The program of the device says the same; its words end where a NUL is.
+void requireProgram(const char* kind, std::string_view settings, std::string list, const Verdict& verdict) {
+  if (settings.find('\0') != std::string_view::npos) return;
+  std::string words[] = {"checkSettings", "--internal-networks", std::move(list), kind,
+                         std::string(settings)};
+  std::vector<char*> arguments;
+  for (std::string& word : words) arguments.push_back(word.data());
+  arguments.push_back(nullptr);
+  require(checkSettings(static_cast<int>(std::size(words)), arguments.data()) == verdict.status,
+          "the program's exit status is the verdict");
+}
+
 bool saysNothing(const std::string& line) {
   return (!line.empty() && line[0] == '#') || line.find_first_not_of(" \t") == std::string::npos;
 }
@@ -190,6 +210,7 @@ void tryList(std::string_view input) {
   const std::string path = file.Path();
   const Verdict verdict = AddressRules::JudgeNameServers({server.data(), server.size()}, path.c_str());
   requireOneLine(verdict.sentence);
+  requireProgram("dns", server, path, verdict);
   bool inOrder = false;
   bool inside = false;
   judgeList(input, *address, inOrder, inside);
@@ -213,18 +234,30 @@ void tryInput(std::string_view input) {
       if (faultIsPlanted() && input.find("?255.255.255.254?") != std::string_view::npos)
         verdict = {Verdict::Right, ""};
       requireVerdict(verdict, isRightIpv4(input));
+      requireRightOrWrong(verdict);
+      requireProgram("ipv4", input, list, verdict);
       break;
     }
-    case '6':
-      requireVerdict(JudgeIPv6(settings, list.c_str()), isRightIpv6(input));
+    case '6': {
+      const Verdict verdict = JudgeIPv6(settings, list.c_str());
+      requireVerdict(verdict, isRightIpv6(input));
+      requireRightOrWrong(verdict);
+      requireProgram("ipv6", input, list, verdict);
       break;
-    case 'd':
+    }
+    case 'd': {
       // A blank in the second server is part of it.
-      requireVerdict(AddressRules::JudgeNameServers(settings, list.c_str()), areRightServers(input));
+      const Verdict verdict = AddressRules::JudgeNameServers(settings, list.c_str());
+      requireVerdict(verdict, areRightServers(input));
+      requireProgram("dns", input, list, verdict);
       break;
-    case 'h':
-      requireVerdict(AddressRules::JudgeHostName(settings), isRightHostName(input));
+    }
+    case 'h': {
+      const Verdict verdict = AddressRules::JudgeHostName(settings);
+      requireVerdict(verdict, isRightHostName(input));
+      requireProgram("host-name", input, list, verdict);
       break;
+    }
     case 'l':
       tryList(input);
       break;

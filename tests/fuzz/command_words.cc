@@ -3,6 +3,7 @@
 #include "libdovan_util/command_words.h"
 
 #include <sys/socket.h>
+#include <sys/utsname.h>
 
 #include <cerrno>
 
@@ -117,13 +118,23 @@ void tryServers(std::string_view text) {
   require(Words(words.begin(), words.end() - 1) == expected, "the servers are one word, and the last one");
 }
 
+std::string ownHostName() {
+  utsname names = {};
+  uname(&names);
+  return names.nodename;
+}
+
 // The same for a host name without blanks and quotes.
 void tryHostName(std::string_view text) {
   if (text.find_first_of(" \t\"") != std::string_view::npos) return;
   call = {};
   call.text = text;
   returnedBy(set_network_hostname);
-  if (call.commands.empty()) return;  // the name that is
+  if (call.commands.empty()) {
+    require(ownHostName() == reference::untilNul(call.text), "what is not set is the name that is");
+    return;
+  }
+  require(call.commands.size() == 1, "one command is run");
   Words expected = wordsOf(CommandLine::SetHostName);
   if (!reference::untilNul(call.text).empty()) expected.push_back(reference::untilNul(call.text));
   require(wordsOf(call.commands[0]) == expected, "the name is one word, and the last one");

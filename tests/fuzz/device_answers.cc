@@ -30,10 +30,12 @@ void requireNumber(const zval& object, const char* name, long expected) {
 
 using Answers = std::vector<DeviceAnswer>;
 
-unsigned int failures(const Answers& answers, std::size_t asked) {
-  unsigned int count = 0;
-  for (std::size_t i = 0; i < asked; ++i) count += answers[i].succeeded ? 0 : 1;
-  return count;
+// other: reports of what was said, not of a command that fails.
+void requireAsked(const Answers& answers, std::size_t asked, unsigned int other = 0) {
+  require(call.commands.size() == asked, "each command is run once");
+  unsigned int failures = 0;
+  for (std::size_t i = 0; i < asked; ++i) failures += answers[i].succeeded ? 0 : 1;
+  require(call.reports == failures + other, "each thing that is wrong is reported once");
 }
 
 void tryIpv4(const Answers& answers) {
@@ -42,12 +44,12 @@ void tryIpv4(const Answers& answers) {
   const std::size_t asked = dhcp ? 2 : 3;
   Pieces fields = split(answers[asked - 2].output, '?');
   if (fields.size() != 3) fields.insert(fields.end(), 3, "0.0.0.0");
-  requireNumber(result, "dhcpEnabled", dhcp);
+  requireNumber(result, "dhcpEnabled", dhcp ? 1 : 0);
   requireText(result, "ip", fields[0]);
   requireText(result, "netmask", fields[1]);
   requireText(result, "gateway", fields[2]);
   requireText(result, "hostname", answers[asked - 1].output);
-  require(call.reports == failures(answers, asked), "each command that fails is reported once");
+  requireAsked(answers, asked);
 }
 
 void tryIpv6(const Answers& answers) {
@@ -62,9 +64,9 @@ void tryIpv6(const Answers& answers) {
   requireText(result, "ipStatic", reference::expand(field(inner, 0)));
   requireText(result, "gateway", reference::expand(field(outer, 1)));
   requireText(result, "prefix", text.empty() ? "64" : field(inner, 1));
-  unsigned int reports = failures(answers, 1);
-  if (!text.empty()) reports += (outer.size() != 2 ? 1 : 0) + (inner.size() != 2 ? 1 : 0);
-  require(call.reports == reports, "each thing that is wrong is reported once");
+  unsigned int malformed = 0;
+  if (!text.empty()) malformed = (outer.size() != 2 ? 1 : 0) + (inner.size() != 2 ? 1 : 0);
+  requireAsked(answers, 1, malformed);
 }
 
 void tryAddresses(const Answers& answers) {
@@ -72,6 +74,7 @@ void tryAddresses(const Answers& answers) {
   Pieces expected = split(answers[0].output, '?');
   for (std::string& address : expected) address = untilNul(address);
   require(result.list == expected, "the addresses are the fields");
+  requireAsked(answers, 1);
 }
 
 void tryNameServers(const Answers& answers) {
@@ -81,7 +84,7 @@ void tryNameServers(const Answers& answers) {
   const bool none = !servers.empty() && servers[0] == "disabled";
   requireText(result, "dnsPrimary", none ? "" : piece(servers, 0));
   requireText(result, "dnsSecondary", piece(servers, 1));
-  require(call.reports == failures(answers, 1), "a command that fails is reported once");
+  requireAsked(answers, 1);
 }
 
 void tryPort(const Answers& answers) {
@@ -91,29 +94,100 @@ void tryPort(const Answers& answers) {
   requireNumber(result, "AutoNegotiate", fields[0] == "on" ? 1 : 0);
   requireNumber(result, "Speed", fields[1] == "10" ? 10 : 100);
   requireNumber(result, "Duplex", fields[2] == "full" ? 1 : fields[2] == "half" ? 0 : -1);
+  requireAsked(answers, 1);
 }
 
-// All at once, by the library: every property is there, whatever was said.
-void tryAll(const Answers& /*answers*/) {
+// All at once, by the library. What cannot be read is reported once and has the value that stands for "off".
+class Told {
+ public:
+  explicit Told(const Answers& answers) : answers_(answers) {}
+
+  // What the next command says; nothing when it fails.
+  std::string Next() {
+    const DeviceAnswer& answer = answers_[asked_];
+    ++asked_;
+    if (!answer.succeeded) ++reports_;
+    return answer.succeeded ? answer.output : "";
+  }
+
+  // The three fields that the next command says.
+  Pieces NextFields(const Pieces& otherwise) {
+    const bool succeeds = answers_[asked_].succeeded;
+    const Pieces fields = split(Next(), '?');
+    if (succeeds && fields.size() != 3) ++reports_;
+    return fields.size() == 3 ? fields : otherwise;
+  }
+
+  void Report() { ++reports_; }
+  unsigned int Reports() const { return reports_; }
+  std::size_t Asked() const { return asked_; }
+
+ private:
+  const Answers& answers_;
+  std::size_t asked_ = 0;
+  unsigned int reports_ = 0;
+};
+
+void requireIpv4OfAll(const zval& result, Told& told) {
+  const Pieces zeros(3, "0.0.0.0");
+  const Pieces off(3);
+  Pieces fields = told.NextFields({});
+  requireNumber(result, "dhcpEnabled", !fields.empty() && fields != off ? 1 : 0);
+  if (fields == off) fields = told.NextFields(zeros);
+  if (fields.empty() || fields == off) fields = zeros;
+  requireText(result, "ip", fields[0]);
+  requireText(result, "netmask", fields[1]);
+  requireText(result, "gateway", fields[2]);
+}
+
+void requireIpv6OfAll(const zval& result, Told& told) {
+  requireNumber(result, "statelessEnabled", told.Next() == "1" ? 1 : 0);
+  const std::string text = told.Next();
+  const Pieces outer = split(text, '?');
+  const Pieces inner = split(outer.empty() ? "" : outer[0], '/');
+  const bool isStatic = outer.size() == 2 && inner.size() == 2;
+  if (!isStatic && !text.empty()) told.Report();
+  requireNumber(result, "staticEnabled", isStatic ? 1 : 0);
+  requireText(result, "ipStatic", reference::expand(isStatic ? inner[0] : ""));
+  requireText(result, "prefix", isStatic ? inner[1] : "64");
+  requireText(result, "ipv6Gateway", reference::expand(isStatic ? outer[1] : ""));
+  require(result.lists.at("ipv6Addresses") == split(told.Next(), '?'), "the addresses are the fields");
+}
+
+void tryAll(const Answers& answers) {
   const zval result = returnedBy(get_fw_settings);
   require(result.texts.size() == 9 && result.numbers.size() == 10 && result.lists.size() == 1,
           "all properties are there");
-  require(call.commands.size() == 7 || call.commands.size() == 8, "each command is run once");
-  for (const char* name : {"ipStatic", "ipv6Gateway"}) {
-    require(reference::expand(result.texts.at(name)) == result.texts.at(name),
-            "an address is in its long form");
+  Told told(answers);
+  requireText(result, "hostname", told.Next());
+  requireIpv4OfAll(result, told);
+  requireIpv6OfAll(result, told);
+  Pieces servers = split(told.Next(), ' ');
+  servers.resize(2);
+  requireText(result, "dnsPrimary", servers[0] == "disabled" ? "" : servers[0]);
+  requireText(result, "dnsSecondary", servers[1]);
+  const Pieces port = told.NextFields({"off", "100", ""});
+  requireNumber(result, "AutoNegotiate", port[0] == "on" ? 1 : 0);
+  requireNumber(result, "Speed", port[1] == "10" ? 10 : 100);
+  requireNumber(result, "Duplex", port[2] == "full" ? 1 : port[2] == "half" ? 0 : -1);
+  for (const char* name : {"sslEnabled", "snmpEnabled"}) {
+    requireNumber(result, name, 0);
+    told.Report();  // the services are not there
   }
+  require(call.reports == told.Reports(), "each thing that cannot be read is reported once");
+  require(call.commands.size() == told.Asked(), "each command is run once");
 }
 
-// An endless text of commands that were asked for is none: what is not asked is not there.
 void tryHostName(const Answers& answers) {
   const zval result = returnedBy(get_network_hostname);
   require(result.text == untilNul(answers[0].output), "the name is what the device says");
+  requireAsked(answers, 1);
 }
 
 void tryStateless(const Answers& answers) {
   const zval result = returnedBy(is_stateless_enabled);
-  requireNumber(result, "returned", answers[0].output == "1");
+  requireNumber(result, "returned", answers[0].output == "1" ? 1 : 0);
+  requireAsked(answers, 1);
 }
 
 }  // namespace

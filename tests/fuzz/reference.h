@@ -16,17 +16,24 @@ namespace reference {
 
 using Pieces = std::vector<std::string>;
 
-inline Pieces split(std::string_view text, char delimiter) {
+// An empty delimiter occurs nowhere.
+inline Pieces split(std::string_view text, std::string_view delimiter) {
   if (text.empty()) return {};
   Pieces pieces(1);
-  for (const char character : text) {
-    if (character == delimiter) {
+  for (std::size_t at = 0; at < text.size();) {
+    if (!delimiter.empty() && text.substr(at, delimiter.size()) == delimiter) {
       pieces.emplace_back();
+      at += delimiter.size();
     } else {
-      pieces.back() += character;
+      pieces.back() += text[at];
+      ++at;
     }
   }
   return pieces;
+}
+
+inline Pieces split(std::string_view text, char delimiter) {
+  return split(text, std::string_view(&delimiter, 1));
 }
 
 // What a page gets of a text.

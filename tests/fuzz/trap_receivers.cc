@@ -159,6 +159,7 @@ std::string sinkOf(const Receiver& receiver) {
 
 // Begins with the receivers that are there.
 void tryCreating(Services& services, Receivers taken, const std::vector<std::string_view>& lines) {
+  const std::size_t there = taken.size();
   for (const std::string_view line : lines) {
     Receiver receiver = receiverOf(line);
     const bool created = services.Create(receiver);
@@ -177,28 +178,37 @@ void tryCreating(Services& services, Receivers taken, const std::vector<std::str
     sinks.push_back(sinkOf(receiver));
   }
   require(services.Sinks() == sinks, "each is one word for the agent");
-  for (const Receiver& receiver : taken) {
-    require(services.Delete(receiver.identifier), "each can be deleted by its identifier");
+  for (std::size_t i = there; i < taken.size(); ++i) {
+    require(services.Delete(taken[i].identifier), "each can be deleted by its identifier");
   }
 }
 
-// Of rows that others wrote all are read as they are, or none.
+bool isIdentifier(const std::string& text) {
+  const reference::Pieces groups = reference::split(text, '-');
+  return groups.size() == 3 && std::all_of(groups.begin(), groups.end(), [](const std::string& group) {
+           return group.size() == 8 && group.find_first_not_of("0123456789abcdef") == std::string::npos;
+         });
+}
+
+// Of rows that others wrote all are read as they are, or, when an identifier among them is none, no row is.
 void tryReading(Services& services, const std::vector<std::string_view>& lines) {
+  Receivers expected;
   std::set<std::string> identifiers;
+  bool inOrder = true;
   for (std::string_view line : lines) {
     const std::size_t end = std::min(line.find(' '), line.size());
     const std::string identifier = reference::untilNul(std::string(line.substr(0, end)));
     line.remove_prefix(std::min(end + 1, line.size()));
     Receiver receiver = receiverOf(line);
     receiver.identifier = identifier;
-    identifiers.insert(identifier);
     services.Store(receiver);
+    inOrder = inOrder && isIdentifier(identifier);
+    if (identifiers.insert(identifier).second) expected.push_back(receiver);
   }
   Receivers stored;
-  if (!services.Read(stored)) return;
-  require(stored.size() == identifiers.size(), "every row is read");
+  require(services.Read(stored) == inOrder, "rows can be read exactly when each identifier is one");
+  require(stored == (inOrder ? expected : Receivers()), "every row is read as it is");
   for (const Receiver& receiver : stored) {
-    require(identifiers.count(receiver.identifier) == 1, "an identifier is what is stored");
     require(services.Delete(receiver.identifier), "what can be read can be deleted");
   }
 }
@@ -225,5 +235,6 @@ void tryInput(std::string_view input) {
     }
   }
   tryCreating(*services, there, asked);
+  if (!there.empty()) services->Empty();
   tryReading(*services, damaged);
 }
