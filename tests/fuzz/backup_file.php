@@ -69,8 +69,8 @@ function check_accepted($file)
 {
     $written = write_backup($file['about'], $file['parts'], array('remark'));
     $again = read_backup($written);
-    if (getenv('FUZZ_PLANTED_FAULT') && isset($again['parts']['traps']) && count($again['parts']['traps']) > 2) {
-        array_pop($again['parts']['traps']);
+    if (getenv('FUZZ_PLANTED_FAULT') && isset($again['parts']['traps']) && count($again['parts']['traps']) == 1) {
+        $again['parts']['traps'] = array();
     }
     must(!$again['errors'], 'what is written can be read: ' . implode(' ', $again['errors']));
     must($again['parts'] === in_order($file['parts'], $again['parts']), 'all settings are read as they were written');
