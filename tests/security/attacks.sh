@@ -26,6 +26,14 @@ as_page() { curl --silent --insecure --max-time 30 --data-urlencode "code=$1" "$
 page_cannot() { is "a page cannot $1" no "$([[ $(as_page "$2" | tail -n 1) == 0 ]] && echo yes || echo no)"; }
 page_can() { is "a page can $1" 0 "$(as_page "$2" | tail -n 1)"; }
 
+# keep_house: as it is done each minute; without_housekeeping FUNCTION: until the function is over it is not done by itself.
+keep_house() { /bin/sh "$APP_MANAGER/bin/housekeeping.sh" once; }
+without_housekeeping() {
+  pkill --signal STOP --full '^/bin/sh .*/housekeeping\.sh$' || fail 'there is no housekeeping to wait'
+  "$1"
+  pkill --signal CONT --full '^/bin/sh .*/housekeeping\.sh$'
+}
+
 address() { ipv4_addresses | cut -d / -f 1; }
 # status_of CURL-OPTION...: the status of the answer that a client on the LAN gets; 000 without one.
 status_of() { lan curl --silent --insecure --output /dev/null --max-time 10 --write-out '%{http_code}' "$@"; }
