@@ -43,6 +43,7 @@ function try_input($text)
     if (strlen($text) < BACKUP_BYTES / 2 && !isset($file['errors'][0])) {
         if (strpos($text, "\r") === false) {
             must(said(read_backup(str_replace("\n", "\r\n", $text))) === said($file), 'line ends of two characters say the same');
+            must(said(read_backup(str_replace("\n", "\r", $text))) === said($file), 'line ends of the third kind say the same');
         }
         must(strpos($text, "\r") !== false || said(read_backup("$text\n# remark")) === said($file), 'a remark at the end says nothing');
     }
@@ -54,7 +55,7 @@ function try_input($text)
 
 function check_errors($file, $text)
 {
-    $lines = substr_count($text, "\n") + 1;
+    $lines = substr_count($text, strpos($text, "\n") === false ? "\r" : "\n") + 1;
     $last = -1;
     foreach ($file['errors'] as $number => $error) {
         must(is_int($number) && $number > $last && $number <= $lines, 'an error has a line of the file, in order');
