@@ -438,6 +438,14 @@ TEST_F(AppConfigTest, AChangeOfTheModeIsBroughtToTheWebServiceWhenItIsStored) {
   EXPECT_EQ("1\n", Contents(folder + "/seen"));
 }
 
+TEST_F(AppConfigTest, AScriptFindsNothingOfTheCallersEnvironment) {
+  ASSERT_EQ(0, setenv("OF_THE_CALLER", "x", 1));
+  WriteScript(places.applyWebMode, "echo ${OF_THE_CALLER-none} $PATH >" + folder + "/seen");
+  EXPECT_EQ(Result::Succeeded, config->setSSLEnabled(true));
+  EXPECT_EQ("none /usr/sbin:/usr/bin:/sbin:/bin\n", Contents(folder + "/seen"));
+  unsetenv("OF_THE_CALLER");
+}
+
 TEST_F(AppConfigTest, AWebServiceThatDoesNotFollowFailsTheChangeOfTheModeWhichStaysAsItWas) {
   WriteScript(places.applyWebMode, "exit 3");
   const std::string said = Said([&] { EXPECT_EQ(Result::Failed, config->setSSLEnabled(true)); });
