@@ -100,20 +100,23 @@ void tryPort(const Answers& answers) {
 // All at once, by the library. What cannot be read is reported once and has the value that stands for "off".
 class Told {
  public:
+  // In the order in which they are asked; the last one only where the lease says nothing.
+  enum Command { HostName, Lease, Stateless, Ipv6Static, Ipv6Addresses, Dns, Port, Ipv4Static };
+
   explicit Told(const Answers& answers) : answers_(answers) {}
 
-  // What the next command says; nothing when it fails.
-  std::string Next() {
-    const DeviceAnswer& answer = answers_[asked_];
+  // What a command says; nothing when it fails.
+  std::string Of(Command command) {
+    const DeviceAnswer& answer = answers_[command];
     ++asked_;
     if (!answer.succeeded) ++reports_;
     return answer.succeeded ? answer.output : "";
   }
 
-  // The three fields that the next command says.
-  Pieces NextFields(const Pieces& otherwise) {
-    const bool succeeds = answers_[asked_].succeeded;
-    const Pieces fields = split(Next(), '?');
+  // The three fields that a command says.
+  Pieces FieldsOf(Command command, const Pieces& otherwise) {
+    const bool succeeds = answers_[command].succeeded;
+    const Pieces fields = split(Of(command), '?');
     if (succeeds && fields.size() != 3) ++reports_;
     return fields.size() == 3 ? fields : otherwise;
   }
@@ -131,9 +134,9 @@ class Told {
 void requireIpv4OfAll(const zval& result, Told& told) {
   const Pieces zeros(3, "0.0.0.0");
   const Pieces off(3);
-  Pieces fields = told.NextFields({});
+  Pieces fields = told.FieldsOf(Told::Lease, {});
   requireNumber(result, "dhcpEnabled", !fields.empty() && fields != off ? 1 : 0);
-  if (fields == off) fields = told.NextFields(zeros);
+  if (fields == off) fields = told.FieldsOf(Told::Ipv4Static, zeros);
   if (fields.empty() || fields == off) fields = zeros;
   requireText(result, "ip", fields[0]);
   requireText(result, "netmask", fields[1]);
@@ -141,8 +144,8 @@ void requireIpv4OfAll(const zval& result, Told& told) {
 }
 
 void requireIpv6OfAll(const zval& result, Told& told) {
-  requireNumber(result, "statelessEnabled", told.Next() == "1" ? 1 : 0);
-  const std::string text = told.Next();
+  requireNumber(result, "statelessEnabled", told.Of(Told::Stateless) == "1" ? 1 : 0);
+  const std::string text = told.Of(Told::Ipv6Static);
   const Pieces outer = split(text, '?');
   const Pieces inner = split(outer.empty() ? "" : outer[0], '/');
   const bool isStatic = outer.size() == 2 && inner.size() == 2;
@@ -151,7 +154,8 @@ void requireIpv6OfAll(const zval& result, Told& told) {
   requireText(result, "ipStatic", reference::expand(isStatic ? inner[0] : ""));
   requireText(result, "prefix", isStatic ? inner[1] : "64");
   requireText(result, "ipv6Gateway", reference::expand(isStatic ? outer[1] : ""));
-  require(result.lists.at("ipv6Addresses") == split(told.Next(), '?'), "the addresses are the fields");
+  require(result.lists.at("ipv6Addresses") == split(told.Of(Told::Ipv6Addresses), '?'),
+          "the addresses are the fields");
 }
 
 void tryAll(const Answers& answers) {
@@ -159,14 +163,14 @@ void tryAll(const Answers& answers) {
   require(result.texts.size() == 9 && result.numbers.size() == 10 && result.lists.size() == 1,
           "all properties are there");
   Told told(answers);
-  requireText(result, "hostname", told.Next());
+  requireText(result, "hostname", told.Of(Told::HostName));
   requireIpv4OfAll(result, told);
   requireIpv6OfAll(result, told);
-  Pieces servers = split(told.Next(), ' ');
+  Pieces servers = split(told.Of(Told::Dns), ' ');
   servers.resize(2);
   requireText(result, "dnsPrimary", servers[0] == "disabled" ? "" : servers[0]);
   requireText(result, "dnsSecondary", servers[1]);
-  const Pieces port = told.NextFields({"off", "100", ""});
+  const Pieces port = told.FieldsOf(Told::Port, {"off", "100", ""});
   requireNumber(result, "AutoNegotiate", port[0] == "on" ? 1 : 0);
   requireNumber(result, "Speed", port[1] == "10" ? 10 : 100);
   requireNumber(result, "Duplex", port[2] == "full" ? 1 : port[2] == "half" ? 0 : -1);

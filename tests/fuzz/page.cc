@@ -1,5 +1,6 @@
 #include "page.h"
 
+#include "libdovan_util/commands_at_once.h"
 #include "libdovan_util/property_values.h"
 #include "page_values.h"
 #include "platform/Result.h"
@@ -90,6 +91,17 @@ int Runtime::execute(std::string command) {
   int waitStatus = 0;
   execute(command, output, waitStatus);
   return waitStatus;
+}
+
+std::vector<CommandAnswer> runAtOnce(const std::vector<std::string>& commands) {
+  std::vector<CommandAnswer> answers;
+  for (const std::string& command : commands) {
+    std::string output;
+    int waitStatus = 0;
+    const bool succeeded = Runtime::getInstance()->execute(command, output, waitStatus);
+    answers.push_back({succeeded, output});
+  }
+  return answers;
 }
 
 // The management services.
