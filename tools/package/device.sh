@@ -43,7 +43,8 @@ collect_device_files() {
   mkdir -p "$folder" "$files$APP_MANAGER/bin" "$files$WEB_SERVER" &&
     install -m 644 "$CHECKOUT/tools/package/device-README" "$folder/README" &&
     install -m 755 "${scripts[@]/#/$CHECKOUT/appliance/device/scripts/}" "$files$APP_MANAGER/bin" &&
-    install --strip --strip-program "${strip:-strip}" -m 644 "$DEVICE_BUILD/network.so" "$folder" || return
+    install --strip --strip-program "${strip:-strip}" -m 644 "$DEVICE_BUILD/network.so" "$folder" &&
+    install --strip --strip-program "${strip:-strip}" -m 755 "$DEVICE_BUILD/verify" "$folder" || return
   [[ ${#programs[@]} == 0 ]] ||
     install --strip --strip-program "${strip:-strip}" -m 755 "${programs[@]}" "$files$APP_MANAGER/bin" || return
   for part in "${PAGES_FOLDERS[@]}"; do
