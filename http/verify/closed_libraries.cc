@@ -39,6 +39,7 @@ void takeName(const std::vector<Symbol>& symbols, Place& place) {
   for (const Symbol& symbol : symbols) {
     if (!contains(symbol, place.offset)) continue;
     const std::size_t behind = place.offset - symbol.value;
+    if (behind == 0) place.names.push_back(demangled(symbol.name));
     if (!place.name.empty() && behind >= place.behindName) continue;
     if (behind > 0 && behind == symbol.size) continue;
     place.name = demangled(symbol.name);

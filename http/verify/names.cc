@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <set>
 
 #include "findings.h"
 #include "platform/Result.h"
@@ -97,7 +98,7 @@ void checkSizeOfText(const Module& module, const ClosedLibraries& libraries) {
 void checkNames(const Module& module, const ClosedLibraries& libraries) {
   unsigned int found = 0;
   unsigned int missing = 0;
-  std::string ofInterpreter;
+  std::set<std::string> ofInterpreter;
   for (const Symbol& symbol : module.file.dynamicSymbols) {
     if (symbol.defined || symbol.weak) continue;
     const void* const address = libraries.find(symbol);
@@ -108,13 +109,15 @@ void checkNames(const Module& module, const ClosedLibraries& libraries) {
       ++missing;
       reportMissing(symbol, libraries);
     } else {
-      ofInterpreter += " " + symbol.name;
+      ofInterpreter.insert(symbol.name);
     }
   }
   const std::string sentence = "the libraries have " + number(found) + " names that the module needs";
   if (missing == 0) right(sentence + ", and lack none");
   if (missing > 0) note(sentence + ", and lack " + number(missing));
-  note("the interpreter has to give" + ofInterpreter);
+  std::string list;
+  for (const std::string& name : ofInterpreter) list += " " + name;
+  note("the interpreter has to give" + list);
   checkResultCodes(module, libraries);
   checkSizeOfText(module, libraries);
 }

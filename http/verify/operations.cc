@@ -102,20 +102,18 @@ class Table {
     if (entry >= entries_.size()) return "not there";
     const Place& place = entries_[entry];
     if (place.library.empty()) return "no operation";
-    if (hasName(entry)) return place.name;
+    if (hasName(entry)) return place.names[0];
     return "a nameless one (" + place.library + " at " + hexadecimal(place.offset) + ")";
   }
 
-  bool hasName(unsigned int entry) const {
-    return entry < entries_.size() && !entries_[entry].name.empty() && entries_[entry].behindName == 0;
-  }
+  bool hasName(unsigned int entry) const { return entry < entries_.size() && !entries_[entry].names.empty(); }
 
   bool is(unsigned int entry, const std::string& operation) const {
-    if (!hasName(entry)) return false;
-    // Folders of names have brackets of their own: "(anonymous namespace)::Name(parameters)".
-    const std::string& name = entries_[entry].name;
-    const std::string wanted = "::" + operation + "(";
-    return name.find(wanted) != std::string::npos;
+    if (entry >= entries_.size()) return false;
+    for (const std::string& name : entries_[entry].names) {
+      if (name.find("::" + operation + "(") != std::string::npos) return true;
+    }
+    return false;
   }
 
   // The entry that the operation has, or size().

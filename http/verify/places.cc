@@ -35,13 +35,22 @@ std::string rightsOf(const std::string& path) {
 
 std::string me() { return "user " + number(geteuid()); }
 
+enum class Kind { File, Folder };
+
+bool isOfKind(const std::string& path, Kind kind) {
+  struct stat status = {};
+  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) == (kind == Kind::Folder);
+}
+
 // As who runs this: the web service's user is who matters.
-void checkFile(const std::string& what, const std::string& path, int access, const std::string& forWhat) {
+void check(const std::string& what, const std::string& path, Kind kind, int access,
+           const std::string& forWhat) {
   const std::string rights = rightsOf(path);
   if (rights.empty()) {
     wrong(what + " " + path + " cannot be found: " + std::strerror(errno));
-  } else if (eaccess(path.c_str(), access) != 0) {
-    wrong(what + " " + path + " is no file that " + me() + " may " + forWhat + ": " + rights);
+  } else if (eaccess(path.c_str(), access) != 0 || !isOfKind(path, kind)) {
+    wrong(what + " " + path + " is no " + (kind == Kind::File ? "file" : "folder") + " that " + me() +
+          " may " + forWhat + ": " + rights);
   } else {
     right(what + " " + path + ": " + rights);
   }
@@ -61,9 +70,10 @@ void checkFlagFile(const std::string& path) {
 
 void checkTraceLog() {
   if (!rightsOf(TraceLogFile).empty()) {
-    checkFile("the trace", TraceLogFile, W_OK, "write");
+    check("the trace", TraceLogFile, Kind::File, W_OK, "write");
   } else {
-    checkFile("there is no trace yet; its folder", folderOf(TraceLogFile), W_OK | X_OK, "write into");
+    check("there is no trace yet; its folder", folderOf(TraceLogFile), Kind::Folder, W_OK | X_OK,
+          "write into");
   }
 }
 
@@ -73,8 +83,8 @@ void checkPlaces() {
   checkTraceLog();
   checkFlagFile(FlagFile::Ipv6Enabled);
   checkFlagFile(FlagFile::Ipv6Dhcp);
-  checkFile("the command wrapper", word(CommandLine::ReadHostName, 0), X_OK, "run");
-  checkFile("the script", word(CommandLine::ReadHostName, 3), R_OK, "read");
-  checkFile("the script", word(CommandLine::ReadStateless, 3), R_OK, "read");
-  checkFile("the script", word(CommandLine::TestTrapRegistrations, 3), R_OK, "read");
+  check("the command wrapper", word(CommandLine::ReadHostName, 0), Kind::File, X_OK, "run");
+  check("the script", word(CommandLine::ReadHostName, 3), Kind::File, R_OK, "read");
+  check("the script", word(CommandLine::ReadStateless, 3), Kind::File, R_OK, "read");
+  check("the script", word(CommandLine::TestTrapRegistrations, 3), Kind::File, R_OK, "read");
 }

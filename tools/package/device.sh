@@ -15,22 +15,31 @@ JUDGE=checkSettings
 ASK_JUDGE=(lookUpName.sh pingAddress.sh)
 
 package_device() {
-  local version name work reason
+  local version name work
   version=$(sed -n 's/^project(network VERSION \([0-9.]*\) .*/\1/p' "$CHECKOUT/CMakeLists.txt")
   name=network-$version-powerpc
   prepare "$CHECKOUT" for-device "${options[@]}" || exit
-  reason=$({ mkdir -p "$PACKAGES" && work=$(mktemp -d "$PACKAGES/.device.XXXXXX") && echo "$work" >&3; } 3>&1 1>/dev/null 2>&1) ||
-    fail "$STATUS_STATE" "The folder $PACKAGES cannot be written: ${reason##*: }."
-  work=$reason
-  # shellcheck disable=SC2064 # that folder
-  trap "rm -rf '$work'" EXIT
-  trap 'exit 130' INT TERM HUP
+  make_work_folder
+  work=$WORK_FOLDER
   must "$STATUS_STATE" 'The package cannot be put together' collect_device_files "$work/$name"
   must "$STATUS_STATE" 'The checksums cannot be written' write_checksums "$work/$name"
   must "$STATUS_STATE" 'The archive cannot be written' write_archive "$work" "$name"
   # The one of before stays until the new one is whole.
   must "$STATUS_STATE" 'The archive cannot be put in place' mv -f "$work/$name.tar.gz" "$PACKAGES/$name.tar.gz"
   echo "$PACKAGES/$name.tar.gz"
+}
+
+# Sets WORK_FOLDER to a new folder beside the packages, which goes when this process ends. One that was killed has left its own.
+make_work_folder() {
+  local reason left
+  reason=$(mkdir -p "$PACKAGES" 2>&1 && mktemp -d "$PACKAGES/.work.$$.XXXXXX" 2>&1) ||
+    fail "$STATUS_STATE" "The folder $PACKAGES cannot be written: ${reason##*: }."
+  WORK_FOLDER=$reason
+  trap 'rm -rf "$WORK_FOLDER"' EXIT
+  trap 'exit 130' INT TERM HUP
+  for left in "$PACKAGES"/.work.*; do
+    [[ ! $left =~ \.work\.([0-9]+)\.[^/]*$ || -e /proc/${BASH_REMATCH[1]} ]] || rm -rf "$left"
+  done
 }
 
 # collect_device_files FOLDER: below "files" is what goes to the same place on the device.
