@@ -4,12 +4,16 @@
 #include <link.h>
 #include <unistd.h>
 
+#include <map>
+
 #include "findings.h"
 #include "stand_ins.h"
 
 namespace {
 
 constexpr unsigned int MostStandIns = 1000;
+
+std::map<std::string, ElfFile> files;  // those that were read, by their paths
 
 // The name in the loader's sentence "FILE: undefined symbol: NAME, version VERSION"; empty in any other.
 std::string missingName(const std::string& sentence) {
@@ -23,6 +27,10 @@ std::string missingName(const std::string& sentence) {
 // Only the interpreter and the C library give names of C; what else the closed libraries take is each
 // other's.
 bool isNameOfCxx(const std::string& name) { return name.compare(0, 2, "_Z") == 0; }
+
+void reportOwnNeed(const std::string& library, const std::string& missing) {
+  wrong(library + " itself needs " + demangled(missing) + ", which no library here has");
+}
 
 std::string pathOf(void* handle, const std::string& name) {
   const link_map* map = nullptr;
@@ -72,7 +80,8 @@ void ClosedLibraries::load(const Module& module, bool withFindings) {
 
 // What the interpreter would give is stood in for, one name after the other, as the loader asks for them.
 void* ClosedLibraries::loadOne(const Module& module, const std::string& name, bool withFindings) {
-  std::string path = module.folder + "/" + name;
+  std::string path = module.folder;
+  path.append("/").append(name);
   if (access(path.c_str(), F_OK) != 0) path = name;
   std::string former;
   unsigned int ofInterpreter = 0;
@@ -95,7 +104,7 @@ void* ClosedLibraries::loadOne(const Module& module, const std::string& name, bo
     if (!isNameOfCxx(missing)) {
       ++ofInterpreter;
     } else if (withFindings) {
-      wrong(name + " itself needs " + demangled(missing) + ", which no library here has");
+      reportOwnNeed(name, missing);
     }
   }
   return nullptr;
@@ -119,7 +128,6 @@ void* ClosedLibraries::find(const Module& module, const std::string& readableNam
 }
 
 const ElfFile& fileOf(const std::string& path) {
-  static std::map<std::string, ElfFile> files;
   const auto known = files.find(path);
   if (known != files.end()) return known->second;
   std::string reason;

@@ -1,7 +1,6 @@
 // The module's file, and the libraries that it names, loaded as they are for the module.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 

@@ -23,7 +23,7 @@ std::string insteadOf(const Symbol& symbol, const ClosedLibraries& libraries) {
     for (const Symbol& other : fileOf(path).dynamicSymbols) {
       if (!other.defined || !isNameOfCxx(other)) continue;
       const std::string name = demangled(other.name);
-      if (withoutParameters(name) == readable) found += "; " + path + " has " + name;
+      if (withoutParameters(name) == readable) found.append("; ").append(path).append(" has ").append(name);
     }
   }
   return found;

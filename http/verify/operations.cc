@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -15,10 +16,10 @@ namespace {
 // be what we think.
 struct RawHandle {
   RawHandle() = default;
-  RawHandle(const RawHandle& other)
-      : object(other.object) {}  // not trivial, as the real one: it decides how it is returned
+  // Not trivial, as the real one's are not: that decides how a handle is returned.
+  RawHandle(const RawHandle& other) : object(other.object) {}  // NOLINT(modernize-use-equals-default)
   RawHandle& operator=(const RawHandle& other) = default;
-  ~RawHandle() {}
+  ~RawHandle() {}  // NOLINT(modernize-use-equals-default)
   const void* object = nullptr;
 };
 
@@ -110,10 +111,10 @@ class Table {
 
   bool is(unsigned int entry, const std::string& operation) const {
     if (entry >= entries_.size()) return false;
-    for (const std::string& name : entries_[entry].names) {
-      if (name.find("::" + operation + "(") != std::string::npos) return true;
-    }
-    return false;
+    const std::vector<std::string>& names = entries_[entry].names;
+    return std::any_of(names.begin(), names.end(), [&operation](const std::string& name) {
+      return name.find("::" + operation + "(") != std::string::npos;
+    });
   }
 
   // The entry that the operation has, or size().

@@ -22,6 +22,8 @@ void* operator new(std::size_t size) {
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
 
+// The library calls them by these names.
+// NOLINTBEGIN(cert-dcl58-cpp,cert-dcl50-cpp,bugprone-reserved-identifier)
 namespace std {
 void __throw_logic_error(const char* what) { giveUp(what); }
 void __throw_length_error(const char* what) { giveUp(what); }
@@ -33,3 +35,4 @@ void __glibcxx_assert_fail(const char* /*file*/, int /*line*/, const char* /*fun
   giveUp(what);
 }
 }  // namespace std
+// NOLINTEND(cert-dcl58-cpp,cert-dcl50-cpp,bugprone-reserved-identifier)

@@ -14,11 +14,12 @@ DEVICE_SCRIPTS=(auditTrail.sh certificateFacts.sh deviceFacts.sh probeAddress.sh
 JUDGE=checkSettings
 ASK_JUDGE=(lookUpName.sh pingAddress.sh)
 
+# package_device -DOPTION=VALUE...
 package_device() {
   local version name work
   version=$(sed -n 's/^project(network VERSION \([0-9.]*\) .*/\1/p' "$CHECKOUT/CMakeLists.txt")
   name=network-$version-powerpc
-  prepare "$CHECKOUT" for-device "${options[@]}" || exit
+  prepare "$CHECKOUT" for-device "$@" || exit
   make_work_folder
   work=$WORK_FOLDER
   must "$STATUS_STATE" 'The package cannot be put together' collect_device_files "$work/$name"
@@ -71,6 +72,7 @@ with_what_they_source() {
     waiting=("${waiting[@]:1}")
     [[ -z ${taken[$script]-} ]] || continue
     taken[$script]=yes
+    # shellcheck disable=SC2016 # the scripts' own words
     mapfile -t -O "${#waiting[@]}" waiting < <(sed -n -E 's,^\. "(\$BIN|\$\{0%/\*\})/([^"]*)"$,\2,p' "$CHECKOUT/appliance/device/scripts/$script")
   done
   printf '%s\n' "${!taken[@]}" | sort
@@ -78,6 +80,7 @@ with_what_they_source() {
 
 # For sha256sum -c, which a device's busybox has, too.
 write_checksums() {
+  # shellcheck disable=SC2094 # it does not read what it writes
   (cd "$1" && find . -type f ! -name SHA256SUMS -printf '%P\0' | LC_ALL=C sort -z | xargs -0 sha256sum >SHA256SUMS)
 }
 
