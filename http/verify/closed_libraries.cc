@@ -28,6 +28,10 @@ std::string missingName(const std::string& sentence) {
 // other's.
 bool isNameOfCxx(const std::string& name) { return name.compare(0, 2, "_Z") == 0; }
 
+void noteInterpreter(const std::string& library, unsigned int names) {
+  note(library + " takes " + number(names) + " names from the interpreter");
+}
+
 void reportOwnNeed(const std::string& library, const std::string& missing) {
   wrong(library + " itself needs " + demangled(missing) + ", which no library here has");
 }
@@ -88,9 +92,7 @@ void* ClosedLibraries::loadOne(const Module& module, const std::string& name, bo
   for (unsigned int count = 0; count < MostStandIns; ++count) {
     void* const handle = dlopen(path.c_str(), RTLD_LAZY | RTLD_GLOBAL);
     if (handle != nullptr) {
-      if (withFindings && ofInterpreter > 0) {
-        note(name + " takes " + number(ofInterpreter) + " names from the interpreter");
-      }
+      if (withFindings && ofInterpreter > 0) noteInterpreter(name, ofInterpreter);
       return handle;
     }
     const std::string sentence = dlerror();
