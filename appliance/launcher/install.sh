@@ -45,7 +45,8 @@ install_program() {
   install -D -m 755 "$build/cmdwrap" "$root$COMMAND_WRAPPER" &&
     install -D -m 644 -t "$root$PHP_EXTENSION_DIR" "${MODULE_FILES[@]/#/$build/}" || return
   for directory in "${PHP_CONFIGURATION_DIRS[@]}"; do
-    mkdir -p "$root$directory" &&
+    # A link of that name would lead out of the root.
+    mkdir -p "$root$directory" && rm -f "$root$directory/$MODULE_CONFIGURATION" &&
       printf '%s\n' 'extension=network.so' '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
         >"$root$directory/$MODULE_CONFIGURATION" || return
   done

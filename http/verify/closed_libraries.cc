@@ -32,6 +32,10 @@ void noteInterpreter(const std::string& library, unsigned int names) {
   note(library + " takes " + number(names) + " names from the interpreter");
 }
 
+void reportFailure(const std::string& library, const std::string& reason) {
+  wrong(library + " cannot be loaded: " + reason);
+}
+
 void reportOwnNeed(const std::string& library, const std::string& missing) {
   wrong(library + " itself needs " + demangled(missing) + ", which no library here has");
 }
@@ -99,7 +103,7 @@ void* ClosedLibraries::loadOne(const Module& module, const std::string& name, bo
     const std::string missing = missingName(sentence);
     std::string reason = sentence;
     if (missing.empty() || missing == former || !standIn(missing, reason)) {
-      if (withFindings) wrong(name + " cannot be loaded: " + reason);
+      if (withFindings) reportFailure(name, reason);
       return nullptr;
     }
     former = missing;
