@@ -13,6 +13,7 @@ if [[ $EUID == 0 ]]; then
   STATE=/var/lib/network-appliance WORK=/run/network-appliance STATE_SHOWN=$STATE
 else
   STATE=${XDG_STATE_HOME:-$HOME/.local/state}/network-appliance WORK=${XDG_CACHE_HOME:-$HOME/.cache}/network-appliance
+  # shellcheck disable=SC2088 # to be read
   STATE_SHOWN='~/.local/state/network-appliance'
 fi
 
