@@ -3,6 +3,7 @@
 #
 #   prepare CHECKOUT to-run     what the software appliance needs
 #   prepare CHECKOUT to-test    what the tests need, too
+#   prepare CHECKOUT to-bench   what bench/run needs, besides what the software appliance does
 #   prepare CHECKOUT for-device [-DOPTION=VALUE...]   what goes onto a device, with options for CMake
 #
 # What was built is in CHECKOUT/build, and what is for a device in CHECKOUT/build-powerpc. Each returns one of the
@@ -34,8 +35,9 @@ prepare() {
 install_missing_packages() {
   local -a lists=("$1/tools/packages-to-run") missing as_root=()
   case $2 in
-    to-test) lists+=("$1/tools/packages-to-test") ;;
+    to-run) ;;
     for-device) lists=("$1/tools/packages-for-device") ;;
+    *) lists+=("$1/tools/packages-$2") ;;
   esac
   mapfile -t missing < <(comm -23 <(sed -e 's/#.*//' -e 's/ //g' -e '/^$/d' "${lists[@]}" | sort) \
     <(installed_packages | sort -u))
@@ -74,12 +76,15 @@ installed_packages() {
 
 build() {
   local folder=$1/build log=$1/build/build.log
+  local -a targets=(software_appliance)
+  [[ $2 != to-bench ]] || targets+=(bench)
   forget_foreign_builds "$1"
   if [[ $2 == for-device ]]; then
     build_for_device "$1"
-  elif [[ $2 == to-run ]]; then
+  elif [[ $2 != to-test ]]; then
     [[ -e $folder/CMakeCache.txt ]] || configure "$1" default -D WITH_TESTS=OFF || return
-    compile --target software_appliance
+    [[ $2 != to-bench ]] || grep -qx 'WITH_BENCH:BOOL=ON' "$folder/CMakeCache.txt" || configure "$1" default -D WITH_BENCH=ON || return
+    compile "${targets[@]}"
   else
     grep -qx 'WITH_TESTS:BOOL=ON' "$folder/CMakeCache.txt" 2>/dev/null || configure "$1" default -D WITH_TESTS=ON || return
     compile
@@ -93,7 +98,7 @@ build_for_device() {
   if [[ ${#new[@]} -gt 0 || ${#cmake_options[@]} -gt 0 ]]; then
     configure "$1" powerpc ${new[@]+"${new[@]}"} ${cmake_options[@]+"${cmake_options[@]}"} || return
   fi
-  compile --target device
+  compile device
 }
 
 # What was built before the checkout was copied or moved knows the places where it was: it would be built there, or
@@ -116,4 +121,10 @@ configure() {
   (cd "$checkout" && cmake --preset "$preset" "$@") >"$log" 2>&1 || { cat "$log" >&2; return 1; }
 }
 
-compile() { cmake --build "$folder" --parallel "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }; }
+# compile [TARGET...]
+compile() { run_builder "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }; }
+
+# Mostly there is nothing to do, and asking cmake to ask ninja takes twice as long.
+run_builder() {
+  if [[ -e $folder/build.ninja ]]; then ninja -C "$folder" "$@"; else cmake --build "$folder" --parallel ${1:+--target "$@"}; fi
+}

@@ -5,11 +5,11 @@
 #include "handlers.h"
 #include "page_values.h"
 
-// The engine's headers declare these for C alone. Without a word about it C++ would look for other names in the
-// interpreter, which has none such.
+// The engine's headers declare these for C alone. Without a word about it C++ would look for other names in
+// the interpreter, which has none such.
 extern "C" {
 void php_info_print_table_start();
-void php_info_print_table_header(int columns, ...);
+void php_info_print_table_header(int num_cols, ...);
 void php_info_print_table_end();
 }
 
@@ -25,7 +25,8 @@ void php_info_print_table_end();
 EACH_HANDLER(CALL_HANDLER)
 #undef CALL_HANDLER
 
-// No argument is passed by reference. The engine's own macro for an entry is for C: the name is no constant there.
+// No argument is passed by reference. The engine's own macro for an entry is for C: the name is no constant
+// there.
 #define TABLE_ENTRY(name) {const_cast<char*>(#name), zif_##name, nullptr},
 zend_function_entry moduleFunctions[] = {EACH_HANDLER(TABLE_ENTRY){}};
 #undef TABLE_ENTRY

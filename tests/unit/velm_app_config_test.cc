@@ -328,6 +328,19 @@ TEST_F(AppConfigTest, TwentyTrapRegistrationsAreTheMost) {
   EXPECT_EQ(Result::Succeeded, config->createTrapRegistration(further));
 }
 
+TEST_F(AppConfigTest, AStoredIdentifierThatIsNoneIsNotReadAsAnother) {
+  TrapRegistration registration = Receiver("10.20.0.9");
+  ASSERT_EQ(Result::Succeeded, config->createTrapRegistration(registration));
+  for (const char* stored : {"", "1-2-3", "00000001-00000002-0000", "00000001-00000002-00000003x",
+                             "000000001-00000002-00000003", "0000000A-00000002-00000003"}) {
+    Ask(std::string("UPDATE trap_registrations SET identifier = '") + stored + "'");
+    Registrations registrations(Heap());
+    EXPECT_EQ(std::string("getTrapRegistrations: stored identifier '") + stored + "' is no identifier\n",
+              Said([&] { EXPECT_EQ(Result::Failed, config->getTrapRegistrations(registrations)); }));
+    EXPECT_EQ(0U, registrations.Size());
+  }
+}
+
 TEST_F(AppConfigTest, AReceiverThatIsThereAlreadyIsRefusedInAnyNotation) {
   for (TrapRegistration registration : {Receiver("10.20.0.9"), Receiver("2001:db8::9", 162, 2)}) {
     ASSERT_EQ(Result::Succeeded, config->createTrapRegistration(registration));

@@ -4,8 +4,8 @@
 #include <sstream>
 #include <string>
 
-// The engine's headers declare this for C alone. Without a word about it C++ would look for another name in the
-// interpreter, which has none such.
+// The engine's headers declare this for C alone. Without a word about it C++ would look for another name in
+// the interpreter, which has none such.
 extern "C" void php_error_docref0(const char* docref, int type, const char* format, ...);
 
 // The engine defines names of the standard library as macros, so it comes last.

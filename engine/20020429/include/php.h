@@ -153,8 +153,9 @@ int zend_is_true(zval* value);
 }
 #endif
 
-/* A warning or notice of the function that runs, with the place in the page. The engine declares it for C alone: C++ has to
-   be told of the linkage before it reads this. */
+/* A warning or notice of the function that runs, with the place in the page. The engine declares it for C
+   alone: C++ has to be told of the linkage before it reads this. */
+/* NOLINTNEXTLINE(readability-redundant-declaration) */
 void php_error_docref0(const char* docref, int type, const char* format, ...)
     __attribute__((format(printf, 3, 4)));
 

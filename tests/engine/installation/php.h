@@ -1,6 +1,7 @@
-/* The headers of an installed engine with module API number 20020429, as far as they get in the way of whoever includes them:
-   what the module uses is as it is declared under engine/, and besides there is the engine's own inside, and names that others
-   have, too. Found in front of those headers by the php-config that `run` writes. */
+/* The headers of an installed engine with module API number 20020429, as far as they get in the way of
+   whoever includes them: what the module uses is as it is declared under engine/, and besides there is the
+   engine's own inside, and names that others have, too. Found in front of those headers by the php-config
+   that `run` writes. */
 #pragma once
 
 #include_next <php.h>
