@@ -39,7 +39,7 @@ foreach (array(4, $most) as $count) {
 }
 $samples = in_turn($candidates, amount(5, 1));
 ratio_row('4 interpreters', '1', 'calls/s', null, $samples[4], $samples[1]);
-// Four of them have filled the processors here; what more of them bring must not be less, but for what comes by chance.
+// What more of them bring than fill the processors must not be less, but for what comes by chance.
 foreach (array_unique(array(16, $most)) as $count) {
     ratio_row("$count interpreters", '4', 'calls/s', at_least(0.95), $samples[$count], $samples[4]);
 }
