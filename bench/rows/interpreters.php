@@ -6,8 +6,8 @@ require dirname(__DIR__) . '/helpers.php';
 function at_once($count, $words, $further = array())
 {
     return function () use ($count, $words, $further) {
-        $start = hrtime(true) + 500e6 + $count * 60e6;
-        $end = $start + amount(1e9, 0.3e9);
+        $start = hrtime(true) + 500e6 + $count * 40e6;
+        $end = $start + amount(0.7e9, 0.3e9);
         $processes = $outputs = array();
         for ($number = 0; $number < $count; $number++) {
             $processes[] = proc_open(array_merge($words, array(sprintf('%d', $start), sprintf('%d', $end)), $further),

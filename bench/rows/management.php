@@ -2,7 +2,7 @@
 // Functions that ask the management services, beside bare SQLite reads of the same rows.
 require dirname(__DIR__) . '/helpers.php';
 
-$times = amount(5000, 500);
+$times = amount(3000, 500);
 $rounds = amount(15, 3);
 $ssl = array('SELECT ssl_enabled FROM settings');
 $snmp = array('SELECT version FROM snmp_versions ORDER BY version', 'SELECT auth_traps_enabled FROM settings',
