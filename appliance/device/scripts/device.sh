@@ -126,6 +126,7 @@ read_line() {
 # read_host_name VARIABLE: the one in force. The shell reads byte after byte, and the kernel may get another name in between:
 # only what was read twice alike is one name.
 read_host_name() {
+  host_name_again=
   read_line "$1" /proc/sys/kernel/hostname
   read_line host_name_again /proc/sys/kernel/hostname
   while eval "[ \"\$$1\" != \"\$host_name_again\" ]"; do
