@@ -1,6 +1,6 @@
-// commands TIMES [--at-once] WORD... [-- WORD...]...: runs the commands one after the other, or all at the same
-// time, TIMES times, and prints how many nanoseconds one time took. Their output is read and thrown away; one
-// that fails ends the measurement.
+// commands TIMES [--at-once] WORD... [-- WORD...]...: runs the commands one after the other, or all at the
+// same time, TIMES times, and prints how many nanoseconds one time took. Their output is read and thrown
+// away; one that fails ends the measurement.
 #include <cstring>
 #include <vector>
 
