@@ -48,7 +48,7 @@ foreach (array(4, $most) as $count) {
     $candidates["bare $count"] = at_once("bare $count", $count, array(PROGRAMS . '/flag_file'),
         array('/home/embedded/library/CoreService/dat/ipv6Enabled'));
 }
-$samples = in_turn($candidates, amount(9, 1));
+$samples = in_turn($candidates, amount(7, 1));
 ratio_row('4 interpreters', '1', 'calls/s', null, $samples[4], $samples[1]);
 // What more of them bring than fill the processors must not be less, but for what comes by chance.
 foreach (array_unique(array(16, $most)) as $count) {
