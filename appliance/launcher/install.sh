@@ -16,7 +16,7 @@ PHP_RUN=$APP_RUN/php
 DOOR=$APP_RUN/door # through which the web service has the device scripts run
 COMMAND_WRAPPER=/usr/bin/cmdwrap
 MODULE_FILES=(network.so libTarn.so libVelm.so libdovan_util.so)
-APP_MANAGER_PROGRAMS=(checkSettings cmdwrapd connectionLimits)
+APP_MANAGER_PROGRAMS=(checkSettings cmdwrapd connectionLimits keepWebServer)
 # All that is taken from the build folder:
 BUILT_FILES=(cmdwrap management_database "${APP_MANAGER_PROGRAMS[@]}" "${MODULE_FILES[@]}")
 MODULE_CONFIGURATION=50-network.ini # in the folders that the interpreters read settings from
