@@ -42,7 +42,7 @@ constexpr std::chrono::seconds LongestStart(20);
 constexpr std::chrono::seconds LongestEnd(3);
 // For an address that another web server has opened by itself: its configuration was newer than what was read
 // here.
-constexpr std::chrono::seconds LongestWaitForAddress(10);
+constexpr std::chrono::seconds LongestWaitForAddress(5);
 constexpr std::chrono::milliseconds BetweenTries(50);
 
 void complain(const std::string& what) {
