@@ -11,7 +11,6 @@ PAGES_FOLDERS=(htdocs shared templates errors) # the document root, what its pag
 ELSEWHERE=testTrapRegistration.sh # the one script that the device keeps in $LIBRARY
 IN_PLACE=$APP_MANAGER/dat/in-place # tells the device scripts to leave the interfaces alone
 APP_RUN=/run/appmanager
-WEB_RUN=$APP_RUN/web
 PHP_RUN=$APP_RUN/php
 DOOR=$APP_RUN/door # through which the web service has the device scripts run
 COMMAND_WRAPPER=/usr/bin/cmdwrap

@@ -281,14 +281,15 @@ void WebServerKeeper::LookForAnswer() {
 
 void WebServerKeeper::StartAnother() {
   const Addresses addresses = addressesToListenOn(mode_);
-  const std::string closed = sockets_.Open(addresses);
-  if (!closed.empty() && errno == EADDRINUSE && Clock::now() < lastTry_) {
+  std::string closed;
+  const bool isOpen = sockets_.Open(addresses, closed);
+  if (!isOpen && errno == EADDRINUSE && Clock::now() < lastTry_) {
     nextTry_ = Clock::now() + BetweenTries;
     return;
   }
   isAnotherWanted_ = false;
   std::string failure;
-  if (!closed.empty()) {
+  if (!isOpen) {
     failure = closed + " cannot be listened on: " + std::strerror(errno);
   } else if (addresses.empty()) {
     failure = mode_ + " names no address to listen on";

@@ -82,7 +82,7 @@ ListeningSockets::~ListeningSockets() {
   for (const auto& [address, descriptor] : sockets_) close(descriptor);
 }
 
-std::string ListeningSockets::Open(const Addresses& addresses) {
+bool ListeningSockets::Open(const Addresses& addresses, std::string& closed) {
   std::map<std::string, int> opened;
   for (const std::string& address : addresses) {
     if (sockets_.count(address) != 0) continue;
@@ -91,12 +91,13 @@ std::string ListeningSockets::Open(const Addresses& addresses) {
       const int error = errno;
       for (const auto& [other, itsDescriptor] : opened) close(itsDescriptor);
       errno = error;
-      return address;
+      closed = address;
+      return false;
     }
     opened[address] = descriptor;
   }
   sockets_.insert(opened.begin(), opened.end());
-  return "";
+  return true;
 }
 
 // A web server that has one of them open, and has not been scheduled for long, keeps nobody else from

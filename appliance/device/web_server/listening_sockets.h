@@ -10,8 +10,8 @@
 // "10.20.0.5:80", "[::]:443"
 using Addresses = std::set<std::string>;
 
-// Those of the web server's configuration of the mode, as applyWebMode.sh writes it; none when it cannot be
-// read.
+// Those of the web server's configuration of the mode, as applyWebMode.sh writes it; none where it cannot
+// be read.
 Addresses addressesToListenOn(const std::string& modeConfiguration);
 
 class ListeningSockets {
@@ -21,9 +21,9 @@ class ListeningSockets {
   ListeningSockets& operator=(const ListeningSockets&) = delete;
   ~ListeningSockets();
 
-  // Listens on these, too. Where that cannot be done it is as before, and the answer the address; errno says
+  // Listens on these, too. False, and as before, where that is not possible for the one in `closed`; errno says
   // why.
-  std::string Open(const Addresses& addresses);
+  bool Open(const Addresses& addresses, std::string& closed);
   // Gives up all others, for everybody who has them.
   void KeepOnly(const Addresses& addresses);
   std::vector<int> Descriptors(const Addresses& addresses) const;
