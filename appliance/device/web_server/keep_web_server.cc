@@ -127,6 +127,7 @@ void becomeServer(char** command, const std::vector<int>& descriptors) {
   const int first = 3;
   const int number = static_cast<int>(descriptors.size());
   std::vector<int> copies;  // none of them in the way of another
+  copies.reserve(descriptors.size());
   for (const int descriptor : descriptors)
     copies.push_back(fcntl(descriptor, F_DUPFD_CLOEXEC, first + number));
   for (int i = 0; i < number; ++i) dup2(copies[static_cast<std::size_t>(i)], first + i);

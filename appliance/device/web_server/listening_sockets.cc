@@ -70,9 +70,9 @@ Addresses addressesToListenOn(const std::string& modeConfiguration) {
   std::string port;
   std::string rest;
   for (std::string line; std::getline(configuration, line);) {
-    if (follows(line, "server.bind = \"", rest)) own = beforeQuote(rest);
+    if (follows(line, R"(server.bind = ")", rest)) own = beforeQuote(rest);
     if (follows(line, "server.port = ", rest)) port = rest;
-    if (follows(line, "$SERVER[\"socket\"] == \"", rest)) addresses.insert(beforeQuote(rest));
+    if (follows(line, R"($SERVER["socket"] == ")", rest)) addresses.insert(beforeQuote(rest));
   }
   if (!own.empty()) addresses.insert(own + ":" + port);
   return addresses;

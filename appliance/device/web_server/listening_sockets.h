@@ -21,8 +21,8 @@ class ListeningSockets {
   ListeningSockets& operator=(const ListeningSockets&) = delete;
   ~ListeningSockets();
 
-  // Listens on these, too. False, and as before, where that is not possible for the one in `closed`; errno says
-  // why.
+  // Listens on these, too. False, and as before, where that is not possible for the one in `closed`; errno
+  // says why.
   bool Open(const Addresses& addresses, std::string& closed);
   // Gives up all others, for everybody who has them.
   void KeepOnly(const Addresses& addresses);
