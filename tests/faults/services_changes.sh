@@ -74,7 +74,7 @@ agrees_agent() {
 
 # The services of PHP go on: nothing of these changes is theirs.
 power_off() {
-  pkill -KILL -x keepWebServer
+  pkill -KILL -f '/bin/(webServer\.sh|asUser\.sh web) ' # also one that is just starting
   pkill -KILL -x lighttpd
   pkill -KILL -x snmpd
   rm -f /run/appmanager/snmpd.* /run/appmanager/webServer.pid /run/appmanager/web_mode.lock
