@@ -2,13 +2,10 @@
 // configuration of the mode. COMMAND becomes a web server that takes these sockets as systemd hands them
 // over. The number of this process is in the file PROCESS from when the web server answers until this ends.
 //
-//   USR1, HUP  put another web server, with the configuration as it is now, in the place of the one that
-//   runs. That one is
-//              told when the other one answers: it takes no connection any more, and ends with its last
-//              answer. When the other one does not start, it goes on.
-//   TERM       ends all of them at once
-//
-// A web server that ends by itself ends this.
+// By USR1 and HUP another web server, with the configuration as it is now, is put in the place of the one
+// that runs. That one is told when the other one answers: it takes no connection any more, and ends with its
+// last answer. When the other one does not start, it goes on. TERM ends all of them at once. A web server
+// that ends by itself ends this.
 //
 // Why the web server does not start anew by itself: lighttpd 1.4.69 loses the connections that come in the
 // wrong millisecond of that.
@@ -40,8 +37,8 @@ using Clock = std::chrono::steady_clock;
 using Time = Clock::time_point;
 constexpr std::chrono::seconds LongestStart(20);
 constexpr std::chrono::seconds LongestEnd(3);
-// For an address that another web server has opened by itself: its configuration was newer than what was read
-// here.
+// For an address that a web server has opened by itself, because its configuration was newer than what was
+// read here.
 constexpr std::chrono::seconds LongestWaitForAddress(5);
 constexpr std::chrono::milliseconds BetweenTries(50);
 
