@@ -5,11 +5,15 @@
 #   run_test_files FOLDER AT_ONCE SECONDS [NAME...]
 #       Runs FOLDER/NAME.test, or all that are in the folder, AT_ONCE of them at the same time, the largest first, each
 #       for at most SECONDS. Shows what they say, file after file, and ends with "N passed, N failed"; returns 1 when
-#       one failed. What each has said stays in build/tests/logs/SUITE/.
+#       one failed. What each has said stays in build/tests/logs/SUITE/. All need an appliance: where the machine allows
+#       none, they are skipped.
 #
 # A suite whose files are no executables sets what they are called and what runs them before that.
 TEST_SUFFIX=.test
 TEST_RUNNER=()
+
+# shellcheck source=namespaces.sh
+source "${BASH_SOURCE[0]%/*}/namespaces.sh"
 
 run_test_files() {
   local folder=$1 at_once=$2 seconds=$3
@@ -21,6 +25,7 @@ run_test_files() {
     files=("${@/#/$folder/}")
     files=("${files[@]/%/$TEST_SUFFIX}")
   fi
+  skip_suite_without_namespaces "${folder##*/}" "${#files[@]}"
   rm -rf "$logs" && mkdir -p "$logs" || return
   for file in "${files[@]}"; do
     [[ -x $file || (-e $file && ${#TEST_RUNNER[@]} -gt 0) ]] || { echo "There is no test $file." >&2 && return 2; }
