@@ -2,13 +2,10 @@
 //
 //   allow_less WHAT... -- COMMAND...
 //
-// namespaces   a container as most are: no CAP_SYS_ADMIN, and a filter that refuses namespaces and mounts
-// ipv6         a kernel without IPv6: there are no sockets of that kind. (What it has in /proc is for the
-// caller to hide.) traces       no process may look into another newer-calls  the system calls that a library
-// asks for first and does without on an older kernel
+// namespaces   a container as most are: few capabilities, and a filter that refuses namespaces and mounts
+// ipv6         a kernel without IPv6: no such sockets. (What there is of it in /proc the caller hides.)
 //
-// The command cannot undo it. For a container is no machine on which a program gives rights: nor does it
-// here.
+// The command cannot undo it. No program gives it more rights, such as sudo would.
 #include <linux/capability.h>
 #include <linux/filter.h>
 #include <linux/sched.h>
@@ -18,11 +15,13 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -81,24 +80,31 @@ void refuse_namespaces(Filter& filter) {
   }
 }
 
-// A user without it has none to lose.
-bool give_up_administration() {
-  return prctl(PR_CAPBSET_READ, CAP_SYS_ADMIN, 0, 0, 0) != 1 ||
-         prctl(PR_CAPBSET_DROP, CAP_SYS_ADMIN, 0, 0, 0) == 0 || errno == EPERM;
+// What containers leave to root, as a rule.
+constexpr int KeptCapabilities[] = {
+    CAP_CHOWN,   CAP_DAC_OVERRIDE, CAP_FOWNER,           CAP_FSETID,     CAP_KILL,
+    CAP_SETGID,  CAP_SETUID,       CAP_SETPCAP,          CAP_NET_RAW,    CAP_MKNOD,
+    CAP_SETFCAP, CAP_SYS_CHROOT,   CAP_NET_BIND_SERVICE, CAP_AUDIT_WRITE};
+
+// A user without capabilities has none to lose, and may not say so.
+bool give_up_capabilities() {
+  for (int capability = 0; prctl(PR_CAPBSET_READ, capability, 0, 0, 0) >= 0; ++capability) {
+    if (std::find(std::begin(KeptCapabilities), std::end(KeptCapabilities), capability) !=
+        std::end(KeptCapabilities)) {
+      continue;
+    }
+    if (prctl(PR_CAPBSET_DROP, capability, 0, 0, 0) != 0 && errno != EPERM) return false;
+  }
+  return true;
 }
 
 bool refuse(const std::string& what, Filter& filter) {
   if (what == "namespaces") {
     refuse_namespaces(filter);
-    return give_up_administration();
+    return give_up_capabilities();
   }
   if (what == "ipv6") {
     filter.refuse_with(SYS_socket, BPF_JEQ, AF_INET6, EAFNOSUPPORT);
-  } else if (what == "traces") {
-    filter.refuse(SYS_ptrace, EPERM);
-  } else if (what == "newer-calls") {
-    for (const long call : {SYS_statx, SYS_faccessat2, SYS_openat2, SYS_close_range})
-      filter.refuse(call, ENOSYS);
   } else {
     errno = EINVAL;
     return false;
