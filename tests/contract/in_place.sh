@@ -4,7 +4,7 @@
 # install.sh.
 
 PAGE_USER=65534
-AS_PAGE_USER=(setpriv --reuid="$PAGE_USER" --regid="$PAGE_USER" --clear-groups)
+AS_PAGE_USER=(setpriv --pdeathsig KILL --reuid="$PAGE_USER" --regid="$PAGE_USER" --clear-groups)
 # All that the tests and their platform have there: nothing of a machine's own.
 PLACES=("$EMBEDDED" "$COMMAND_WRAPPER" /tmp/{module,scripted_platform,canary,engine,none,runs,words})
 PLACES_OF_PAGE=("$EMBEDDED" /tmp/{module,scripted_platform})
@@ -20,9 +20,15 @@ in_place_begin() {
     [[ ! -e $place && ! -L $place ]] || { echo "and $place, which they use on the machine itself, is there already" && return 1; }
   done
   # shellcheck disable=SC2016 # variables of the shell that is called
-  exec {in_place_guarded}> >(exec setsid bash -c 'trap "" INT QUIT HUP TERM; cat; rm -rf "$@"' bash "${PLACES[@]}" >/dev/null 2>&1)
+  exec {in_place_guarded}> >(exec setsid bash -c 'trap "" INT QUIT HUP TERM
+    while read -r line; do tests=$line; done
+    while [[ -n ${tests-} ]] && kill -KILL -- "-$tests"; do sleep 0.05; done
+    rm -rf "$@"' bash "${PLACES[@]}" >/dev/null 2>&1)
   in_place_guardian=$!
 }
+
+# in_place_tell GROUP: the group of processes that the tests are, or an empty one when they have ended.
+in_place_tell() { [[ -z ${in_place_guardian-} ]] || echo "$1" >&"$in_place_guarded"; }
 
 # For the processes of the tests: they must not keep it from ending.
 in_place_let_go() { [[ -z ${in_place_guardian-} ]] || exec {in_place_lock}<&- {in_place_guarded}>&-; }
