@@ -3,6 +3,7 @@
 #
 #   prepare CHECKOUT to-run     what the software appliance needs
 #   prepare CHECKOUT to-test    what the tests need, too
+#   prepare CHECKOUT to-bench   what bench/run needs, besides what the software appliance does
 #
 # What was built is in CHECKOUT/build. Each returns one of the launcher's exit statuses, after it has said on standard
 # error why.
@@ -31,7 +32,7 @@ prepare() {
 
 install_missing_packages() {
   local -a lists=("$1/tools/packages-to-run") missing as_root=()
-  [[ $2 == to-run ]] || lists+=("$1/tools/packages-to-test")
+  [[ $2 == to-run ]] || lists+=("$1/tools/packages-$2")
   mapfile -t missing < <(comm -23 <(sed -e 's/#.*//' -e 's/ //g' -e '/^$/d' "${lists[@]}" | sort) \
     <(installed_packages | sort -u))
   [[ ${#missing[@]} -gt 0 ]] || return 0
@@ -69,10 +70,13 @@ installed_packages() {
 
 build() {
   local folder=$1/build log=$1/build/build.log
+  local -a targets=(software_appliance)
+  [[ $2 != to-bench ]] || targets+=(bench)
   forget_foreign_builds "$1"
-  if [[ $2 == to-run ]]; then
+  if [[ $2 != to-test ]]; then
     [[ -e $folder/CMakeCache.txt ]] || configure "$1" -D WITH_TESTS=OFF || return
-    compile --target software_appliance
+    [[ $2 != to-bench ]] || grep -qx 'WITH_BENCH:BOOL=ON' "$folder/CMakeCache.txt" || configure "$1" -D WITH_BENCH=ON || return
+    compile "${targets[@]}"
   else
     grep -qx 'WITH_TESTS:BOOL=ON' "$folder/CMakeCache.txt" 2>/dev/null || configure "$1" -D WITH_TESTS=ON || return
     compile
@@ -98,4 +102,10 @@ configure() {
   (cd "$checkout" && cmake --preset default "$@") >"$log" 2>&1 || { cat "$log" >&2; return 1; }
 }
 
-compile() { cmake --build "$folder" --parallel "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }; }
+# compile [TARGET...]
+compile() { run_builder "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }; }
+
+# Mostly there is nothing to do, and asking cmake to ask ninja takes twice as long.
+run_builder() {
+  if [[ -e $folder/build.ninja ]]; then ninja -C "$folder" "$@"; else cmake --build "$folder" --parallel ${1:+--target "$@"}; fi
+}

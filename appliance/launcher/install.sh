@@ -24,13 +24,20 @@ MODULE_CONFIGURATION=50-network.ini # in the folders that the interpreters read 
 # Sets PHP_EXTENSION_DIR, and PHP_CONFIGURATION_DIRS of the command line and of the web service; returns 1 after one
 # sentence on standard error when an interpreter does not say them.
 ask_php_for_its_places() {
-  local ask='<?php echo PHP_EXTENSION_DIR, "\n", PHP_CONFIG_FILE_SCAN_DIR, "\n";' interpreter directory
+  local ask='<?php echo PHP_EXTENSION_DIR, "\n", PHP_CONFIG_FILE_SCAN_DIR, "\n";' interpreter directory answer
+  local -A answers=()
   PHP_CONFIGURATION_DIRS=()
+  for interpreter in php php-cgi; do # both at once
+    exec {answer}< <("$interpreter" -n -q <<<"$ask" 2>/dev/null)
+    answers[$interpreter]=$answer
+  done
   for interpreter in php php-cgi; do
-    { read -r PHP_EXTENSION_DIR && read -r directory; } < <("$interpreter" -n -q <<<"$ask" 2>/dev/null) || {
+    answer=${answers[$interpreter]}
+    { read -r PHP_EXTENSION_DIR && read -r directory; } <&"$answer" || {
       echo "The interpreter $interpreter does not say where its extensions and settings belong." >&2
       return 1
     }
+    exec {answer}<&-
     PHP_CONFIGURATION_DIRS+=("$directory")
   done
 }
@@ -43,15 +50,14 @@ install_program() {
     [[ ${script##*/} == "$ELSEWHERE" ]] || scripts+=("$script")
   done
   install -D -m 755 "$build/cmdwrap" "$root$COMMAND_WRAPPER" &&
-    install -D -m 644 -t "$root$PHP_EXTENSION_DIR" "${MODULE_FILES[@]/#/$build/}" || return
+    install -D -m 644 -t "$root$PHP_EXTENSION_DIR" "${MODULE_FILES[@]/#/$build/}" &&
+    mkdir -p "${PHP_CONFIGURATION_DIRS[@]/#/$root}" "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat,etc} \
+      "$root$WEB_SERVER"/{conf/extra,logs} "${PAGES_FOLDERS[@]/#/$root$WEB_SERVER/}" || return
   for directory in "${PHP_CONFIGURATION_DIRS[@]}"; do
-    mkdir -p "$root$directory" &&
-      printf '%s\n' 'extension=network.so' '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
-        >"$root$directory/$MODULE_CONFIGURATION" || return
+    printf '%s\n' 'extension=network.so' '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
+      >"$root$directory/$MODULE_CONFIGURATION" || return
   done
-  mkdir -p "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat} "$root$WEB_SERVER"/{conf/extra,logs} &&
-    mkdir -p "${PAGES_FOLDERS[@]/#/$root$WEB_SERVER/}" &&
-    install_changed 755 "$root$APP_MANAGER/bin" "${scripts[@]}" "${APP_MANAGER_PROGRAMS[@]/#/$build/}" &&
+  install_changed 755 "$root$APP_MANAGER/bin" "${scripts[@]}" "${APP_MANAGER_PROGRAMS[@]/#/$build/}" &&
     install_changed 755 "$root$LIBRARY" "$source/appliance/device/scripts/$ELSEWHERE" &&
     install_changed 755 "$root$CORE_SERVICE/bin" "$build/management_database" &&
     install_changed 644 "$root$APP_MANAGER/etc" "$source/appliance/device/etc/internal_networks" &&
@@ -59,4 +65,4 @@ install_program() {
 }
 
 # install_changed MODE FOLDER FILE...: what is there already as it is to be needs no room on the disk.
-install_changed() { mkdir -p "$2" && install -C -m "$1" -t "$2" "${@:3}"; }
+install_changed() { install -C -m "$1" -t "$2" "${@:3}"; }

@@ -20,17 +20,23 @@ network_create() {
       { echo "The kernel allows no network namespace: $error" >&2; return 1; }
   done
   error=$(_network_connect "$folder" 2>&1) ||
-    { echo "The kernel allows no virtual Ethernet: $error" >&2; return 1; }
+    { echo "The kernel allows no virtual Ethernet: ${error%%$'\n'*}" >&2; return 1; }
 }
 
+# IPv6 stays off on the appliance's side until its settings switch it on. The folder's path may have blanks, which the lines
+# for ip cannot.
 _network_connect() {
-  local folder=$1 address
-  _network_in appliance ip link set lo up && _network_in lan ip link set lo up && _network_open_to_users &&
-    _network_link eth0 lan0 00 && _network_link eth2 lan2 02 || return
-  for address in "${LAN_ADDRESSES[@]}"; do
-    # shellcheck disable=SC2086 # an address and its flags
-    _network_in lan ip address add dev lan0 $address || return
-  done
+  local folder=$1
+  # shellcheck disable=SC2016 # the inner shell's
+  _network_open_to_users && _network_in appliance sh -c 'cd "$1" && echo 1 >"$2" && ip -batch - && echo 0 >"$2"' sh \
+    "$folder" /proc/sys/net/ipv6/conf/default/disable_ipv6 < <(
+      echo link set lo up
+      _network_link eth0 lan0 00
+      _network_link eth2 lan2 02
+    ) && _network_in lan ip -batch - < <(
+    printf 'link set %s up\n' lo lan0 lan2
+    printf 'address add dev lan0 %s\n' "${LAN_ADDRESSES[@]}"
+  )
 }
 
 # There the web service has no rights: its ports are open to it, and ping to everybody. In a user namespace without a
@@ -58,11 +64,10 @@ _network_in() {
 }
 
 # The hardware addresses are the same at every start, as a real device's: leases and addresses that are
-# derived from them come back. IPv6 stays off on the appliance's side until its settings switch it on.
+# derived from them come back.
 _network_link() {
   local near=$1 far=$2 number=$3
-  _network_in appliance ip link add "$near" address "02:00:0a:14:$number:07" type veth \
-    peer name "$far" address "02:00:0a:14:$number:01" netns "$folder/lan.net" &&
-    _network_in appliance sh -c "echo 1 >/proc/sys/net/ipv6/conf/$near/disable_ipv6" &&
-    _network_in appliance ip link set "$near" up && _network_in lan ip link set "$far" up
+  echo "link add $near address 02:00:0a:14:$number:07 type veth" \
+    "peer name $far address 02:00:0a:14:$number:01 netns ./lan.net"
+  echo "link set $near up"
 }

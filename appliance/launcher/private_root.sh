@@ -25,36 +25,36 @@ private_root_create() {
   mount -t tmpfs -o mode=755 private-root "$root" || return
   # Written files land in the layers. The overlays keep hold of them when the name below is gone.
   local layers=$root/.layers
-  mkdir "$layers" && mount -t tmpfs -o mode=700 private-layers "$layers" || return
-  mkdir "$layers/upper" "$layers/work" || return
-  local path
-  for path in /etc /usr/bin /var/lib /var/tmp "$@"; do
-    _private_root_prepare "$layers/upper" "$path" || return
-  done
-  chmod 1777 "$layers/upper/var/tmp" || return
+  mkdir "$layers" && mount -t tmpfs -o mode=700 private-layers "$layers" &&
+    mkdir -p "$layers/upper" "$root"/{proc,sys,dev/pts,dev/shm,home,root,run/lock,tmp} || return
+  _private_root_prepare "$layers/upper" /etc /usr/bin /var/lib /var/tmp "$@" &&
+    chmod 1777 "$layers/upper/var/tmp" "$root"/{tmp,run/lock,dev/shm} || return
 
   local entry
+  local -a entries=()
   shopt -s dotglob nullglob
   for entry in /*; do
     case $entry in
       /proc | /sys | /dev | /run | /tmp | /home | /root) ;;
-      *) _private_root_place "$root" "$layers" "$entry" || return ;;
+      *) entries+=("$entry") ;;
     esac
   done
+  _private_root_place "$root" "$layers" "${entries[@]}" || return
   shopt -u dotglob nullglob
-  umount "$layers" && rmdir "$layers" || return
-  _private_root_hide "$root" || return
-  mkdir -p "$root"/{proc,sys,dev,home,root,run/lock,tmp} && chmod 1777 "$root/tmp" "$root/run/lock" || return
-  _private_root_kernel_views "$root" && _private_root_devices "$root/dev"
+  _private_root_hide "$root" && _private_root_kernel_views "$root" && _private_root_devices "$root/dev" || return
+  umount "$layers" && rmdir "$layers"
 }
 
 # Where the caller is no root of the machine's, what cannot be removed is what it cannot read either.
 _private_root_hide() {
   local root=$1 secret
-  for secret in /etc/{shadow,gshadow}{,-} /etc/security/opasswd /etc/ssl/private /etc/ssh; do
-    rm -rf "${root:?}$secret" 2>/dev/null || ! _private_root_has_all_users ||
-      { echo "The machine's $secret cannot be left out of the private root" >&2 && return 1; }
+  local -a secrets=(/etc/{shadow,gshadow}{,-} /etc/security/opasswd /etc/ssl/private /etc/ssh)
+  ! rm -rf "${secrets[@]/#/${root:?}}" 2>/dev/null && _private_root_has_all_users || return 0
+  for secret in "${secrets[@]}"; do
+    [[ ! -e $root$secret && ! -L $root$secret ]] ||
+      echo "The machine's $secret cannot be left out of the private root" >&2
   done
+  return 1
 }
 
 private_root_share() {
@@ -78,41 +78,95 @@ _private_root_replace() {
   mkdir "$1/.machine" && pivot_root "$1" "$1/.machine" && cd / && umount -l /.machine && rmdir /.machine
 }
 
+# _private_root_prepare UPPER PATH...
 # The owner of an overlay's directory is the upper layer's: made there in advance it belongs to the caller,
 # also when the machine's belongs to a user that the caller's namespace does not know.
 _private_root_prepare() {
-  local upper=$1 path=$2
-  if [[ -f $path ]]; then
-    mkdir -p "$upper${path%/*}" && cp -L "$path" "$upper$path"
-  else
-    mkdir -p "$upper$path"
-  fi
+  local upper=$1 path
+  local -a directories=() files=()
+  shift
+  for path; do
+    if [[ -f $path ]]; then
+      files+=("$path")
+      directories+=("$upper${path%/*}")
+    else
+      directories+=("$upper$path")
+    fi
+  done
+  mkdir -p "${directories[@]}" || return
+  for path in ${files[@]+"${files[@]}"}; do cp -L "$path" "$upper$path" || return; done
 }
 
+# _private_root_place ROOT LAYERS PATH...: all of them in one directory. One process for many of them: starting it takes
+# longer than what it does.
 _private_root_place() {
-  local root=$1 layers=$2 path=$3
-  if [[ $path == "$root" ]]; then
-    : # itself: it would be placed in itself without end
-  elif [[ -L $path ]]; then
-    cp -P "$path" "$root$path"
-  elif [[ -d $path ]]; then
-    _private_root_place_directory "$root" "$layers" "$path"
-  elif [[ -e $layers/upper$path ]]; then
-    cp "$layers/upper$path" "$root$path"
-  elif [[ -f $path && -r $path && $(stat --file-system --format %T "$path") != nsfs ]]; then # no namespaces
-    cp --preserve=mode,timestamps "$path" "$root$path"
-  fi
+  local root=$1 layers=$2 path mounts=''
+  local -a copied=() directories=() made=()
+  shift 2
+  IFS= read -r -d '' mounts </proc/self/mountinfo
+  for path; do
+    if [[ $path == "$root" ]]; then
+      : # itself: it would be placed in itself without end
+    elif [[ -L $path ]]; then
+      copied+=("$path")
+    elif [[ -d $path ]]; then
+      made+=("$root$path")
+      _private_root_is_just_empty "$path" || directories+=("$path")
+    elif [[ -e $layers/upper$path ]]; then
+      cp "$layers/upper$path" "$root$path" || return
+    elif [[ -f $path && -r $path && $(stat --file-system --format %T "$path") != nsfs ]]; then # no namespaces
+      copied+=("$path")
+    fi
+  done
+  [[ ${#made[@]} == 0 ]] || mkdir -p "${made[@]}" || return
+  [[ ${#copied[@]} == 0 ]] ||
+    cp -P --preserve=mode,timestamps -t "$root${copied[0]%/*}/" "${copied[@]}" || return
+  [[ ${#directories[@]} == 0 ]] || _private_root_place_directories "$root" "$layers" "${directories[@]}"
 }
 
+# Nothing is there that could be laid over. What is mounted there may fill by itself.
+_private_root_is_just_empty() {
+  local path=$1 entries
+  entries=("$path"/*)
+  [[ ${#entries[@]} == 0 && -r $path && -x $path && ! -e $layers/upper$path && $path != *[[:space:]]* && $mounts != *" $path "* ]]
+}
+
+# All overlays at once. What the kernel refuses of them is looked at one by one.
+_private_root_place_directories() {
+  local root=$1 layers=$2 path table='' options work
+  local -a made=()
+  shift 2
+  for path; do
+    _private_root_set_overlay
+    made+=("$layers/upper$path" "$work")
+    _private_root_note overlay private-overlay "$root$path" "$options"
+  done
+  mkdir -p "${made[@]}" || return
+  _private_root_mount_noted "$layers" 2>/dev/null && return
+  for path; do
+    mountpoint --quiet "$root$path" || _private_root_place_directory || return
+  done
+}
+
+# Sets options and work of the overlay of $path. The work directory is one of its own for each overlay, not one
+# inside another's.
+_private_root_set_overlay() {
+  work=${path//_/_u}
+  work=$layers/work${work//\//_s}
+  options=lowerdir=$path,upperdir=$layers/upper$path,workdir=$work
+  _private_root_has_all_users || options+=,userxattr
+}
+
+# The one at $path.
 _private_root_place_directory() {
-  local root=$1 layers=$2 path=$3 error
-  mkdir -p "$root$path" "$layers/upper$path" "$layers/work$path" || return
-  error=$(_private_root_overlay "$@" 2>&1) && return
+  local error options work entries
+  _private_root_set_overlay
+  error=$(mount -t overlay -o "$options" private-overlay "$root$path" 2>&1) && return
   if _private_root_holds_mounts "$path"; then
     # The mounts of another user namespace cannot be left out of a view of their directory: take apart
     # the directory instead.
-    local entry
-    for entry in "$path"/*; do _private_root_place "$root" "$layers" "$entry" || return; done
+    entries=("$path"/*)
+    [[ ${#entries[@]} == 0 ]] || _private_root_place "$root" "$layers" "${entries[@]}" || return
     [[ ! -d $layers/upper$path ]] || _private_root_complete "$layers/upper$path" "$root$path"
   elif [[ $path == /usr || $path == /etc ]]; then
     error=${error%%$'\n'*} # what follows is where else to look
@@ -123,14 +177,19 @@ _private_root_place_directory() {
   fi
 }
 
-_private_root_overlay() {
-  local root=$1 layers=$2 path=$3 options
-  # The work directory is one of its own for each overlay, not one inside another's.
-  local work=$layers/work${path//\//_}
-  mkdir -p "$work" || return
-  options=lowerdir=$path,upperdir=$layers/upper$path,workdir=$work
-  _private_root_has_all_users || options+=,userxattr
-  mount -t overlay -o "$options" private-overlay "$root$path"
+# _private_root_note TYPE SOURCE TARGET OPTIONS: appends a line to the table, a mount in the notation of fstab.
+_private_root_note() {
+  local field
+  for field in "$2" "$3" "$1" "$4"; do
+    field=${field//\\/\\134} field=${field// /\\040} field=${field//$'\t'/\\011} field=${field//$'\n'/\\012}
+    table+="$field "
+  done
+  table+=$'0 0\n'
+}
+
+# _private_root_mount_noted FOLDER: what is in the table, all that can be mounted; 0 when that is all of it.
+_private_root_mount_noted() {
+  printf '%s' "$table" >"$1/table" && mount --all --fstab "$1/table"
 }
 
 # What was prepared below a directory that had to be taken apart and that the machine does not have.
@@ -163,11 +222,12 @@ _private_root_kernel_views() {
 }
 
 _private_root_devices() {
-  local dev=$1 device
+  local dev=$1 device table=''
   for device in null zero full random urandom tty; do
-    : >"$dev/$device" && mount --bind "/dev/$device" "$dev/$device" || return
+    : >"$dev/$device" || return
+    _private_root_note none "/dev/$device" "$dev/$device" bind
   done
-  ln -s /proc/self/fd "$dev/fd" && ln -s /proc/self/fd/0 "$dev/stdin" && ln -s /proc/self/fd/1 "$dev/stdout" &&
-    ln -s /proc/self/fd/2 "$dev/stderr" && ln -s pts/ptmx "$dev/ptmx" && mkdir "$dev/pts" &&
-    mount -t devpts -o newinstance,ptmxmode=0666,mode=620 devpts "$dev/pts" && mkdir -m 1777 "$dev/shm"
+  _private_root_note devpts devpts "$dev/pts" newinstance,ptmxmode=0666,mode=620
+  _private_root_mount_noted "$layers" && ln -s /proc/self/fd pts/ptmx "$dev/" && ln -s /proc/self/fd/0 "$dev/stdin" &&
+    ln -s /proc/self/fd/1 "$dev/stdout" && ln -s /proc/self/fd/2 "$dev/stderr"
 }

@@ -42,28 +42,31 @@ rights_settle() {
     web=$WEB_ID pages=$PAGES_ID
     mkdir -p "$APP_RUN" && printf '%s\n' "web $web $web" "pages $pages $pages" >"$USERS" || return
   fi
-  # Root's; sticky where the interpreter's user makes files beside root's own, such as the agent's user.
-  _rights_folder 755 0 0 "$APP_RUN" && _rights_folder 1770 0 "$pages" "$CORE_SERVICE/dat" &&
-    _rights_folder 700 0 0 "$CORE_SERVICE/dat/snmp" && _rights_folder 755 0 0 "$WEB_SERVER/logs" &&
-    _rights_folder 755 0 0 "$WEB_SERVER/conf" && _rights_folder 755 "$web" "$web" "$WEB_RUN" &&
-    _rights_folder 750 "$pages" "$web" "$PHP_RUN" && _rights_folder 700 "$pages" "$pages" "$PAGES_DATA" || return
-  _rights_remove_traps "$pages" || return
-  chown -hR "$pages:$pages" "$PAGES_DATA" && chown -hR 0:0 "$CORE_SERVICE/dat/snmp" || return
-  for file in "$CORE_SERVICE"/dat/management.db{,-wal,-shm,.copy,.restored,.ssl_lock,.copy_lock}; do
-    _rights_file 600 "$pages" "$file" || return
-  done
+  _rights_settle_folders "$web" "$pages" && _rights_remove_traps "$pages" || return
+  chown -hR "$pages:$pages" "$PAGES_DATA" && chown -hR 0:0 "$CORE_SERVICE/dat/snmp" &&
+    _rights_files 600 "$pages" "$CORE_SERVICE"/dat/management.db{,-wal,-shm,.copy,.restored,.ssl_lock,.copy_lock} || return
   # Whoever takes one of these first would make it its own.
   /bin/sh "$APP_MANAGER/bin/asUser.sh" pages touch "$CORE_SERVICE"/dat/management.db{.ssl_lock,.copy_lock} || return
-  for file in php_extension.log trial.log; do
-    _rights_new_file "$WEB_SERVER/logs/$file" && _rights_file 640 "$pages" "$WEB_SERVER/logs/$file" || return
+  # A file is there for whoever may write to it, but not make it. Its folder is root's alone.
+  for file in php_extension.log trial.log error.log; do
+    [[ -e $WEB_SERVER/logs/$file ]] || : >>"$WEB_SERVER/logs/$file" || return
   done
-  _rights_new_file "$WEB_SERVER/logs/error.log" && _rights_file 640 "$web" "$WEB_SERVER/logs/error.log" &&
-    _rights_file 640 0 "$WEB_SERVER/logs/services.log" && _rights_file 600 "$web" "$WEB_SERVER/conf/key.pem" &&
-    _rights_file 644 0 "$WEB_SERVER/conf/certificate.pem"
+  _rights_files 640 "$pages" "$WEB_SERVER"/logs/{php_extension.log,trial.log} &&
+    _rights_files 640 "$web" "$WEB_SERVER/logs/error.log" && _rights_files 640 0 "$WEB_SERVER/logs/services.log" &&
+    _rights_files 600 "$web" "$WEB_SERVER/conf/key.pem" && _rights_files 644 0 "$WEB_SERVER/conf/certificate.pem"
 }
 
-# _rights_folder MODE USER GROUP FOLDER
-_rights_folder() { mkdir -p "$4" && chown -h "$2:$3" "$4" && chmod "$1" "$4"; }
+# _rights_settle_folders WEB PAGES: the most of them are root's. Sticky is where the interpreter's user makes files beside
+# root's own, such as the agent's user.
+_rights_settle_folders() {
+  local web=$1 pages=$2
+  local -a open=("$APP_RUN" "$WEB_SERVER/logs" "$WEB_SERVER/conf")
+  mkdir -p "${open[@]}" "$CORE_SERVICE/dat/snmp" "$WEB_RUN" "$PHP_RUN" "$PAGES_DATA" || return
+  chown -h 0:0 "${open[@]}" "$CORE_SERVICE/dat/snmp" && chown -h "0:$pages" "$CORE_SERVICE/dat" &&
+    chown -h "$web:$web" "$WEB_RUN" && chown -h "$pages:$web" "$PHP_RUN" && chown -h "$pages:$pages" "$PAGES_DATA" || return
+  chmod 755 "${open[@]}" "$WEB_RUN" && chmod 1770 "$CORE_SERVICE/dat" && chmod 750 "$PHP_RUN" &&
+    chmod 700 "$CORE_SERVICE/dat/snmp" "$PAGES_DATA"
+}
 
 # _rights_remove_traps USER: what nobody makes but a page with a fault, of which none runs now, where root opens files at a start
 # and gives them away. A link would lead root elsewhere, a pipe keep it waiting for ever. Another name of somebody else's
@@ -76,11 +79,15 @@ _rights_remove_traps() {
   [[ -z $other ]] || { echo "$other has other names, too, and is not the interpreter's" && return 1; }
 }
 
-# A file is there for whoever may write to it, but not make it. Its folder is root's alone.
-_rights_new_file() { [[ -e $1 ]] || : >>"$1"; }
-
-# _rights_file MODE USER FILE: where there is one, or whatever else lies in its place. No link is followed.
-_rights_file() {
-  [[ -e $3 || -L $3 ]] || return 0
-  chown -h "$2:$2" "$3" && if [[ -f $3 && ! -L $3 ]]; then chmod "$1" "$3"; fi
+# _rights_files MODE USER FILE...: those that are there, or whatever else lies in their place. No link is followed.
+_rights_files() {
+  local mode=$1 user=$2 file
+  local -a present=() regular=()
+  shift 2
+  for file; do
+    [[ ! -e $file && ! -L $file ]] || present+=("$file")
+    [[ ! -f $file || -L $file ]] || regular+=("$file")
+  done
+  [[ ${#present[@]} == 0 ]] || chown -h "$user:$user" "${present[@]}" || return
+  [[ ${#regular[@]} == 0 ]] || chmod "$mode" "${regular[@]}"
 }

@@ -5,9 +5,18 @@
 #include "handlers.h"
 #include "page_values.h"
 
+// The engine's headers declare these for C alone. Without a word about it C++ would look for other names in
+// the interpreter, which has none such.
+extern "C" {
+void php_info_print_table_start();
+void php_info_print_table_header(int num_cols, ...);
+void php_info_print_table_end();
+}
+
 // The engine defines names of the standard library as macros, so it comes last.
 // clang-format off
-#include "function_table.h"
+#include "engine_of_module.h"
+#include <ext/standard/info.h>
 // clang-format on
 
 // The engine calls its own kind of function, and that calls the handler.
@@ -16,10 +25,17 @@
 EACH_HANDLER(CALL_HANDLER)
 #undef CALL_HANDLER
 
-// No argument is passed by reference.
-#define TABLE_ENTRY(name) PHP_FE(name, nullptr)
+// No argument is passed by reference. The engine's own macro for an entry is for C: the name is no constant
+// there.
+#define TABLE_ENTRY(name) {const_cast<char*>(#name), zif_##name, nullptr},
 zend_function_entry moduleFunctions[] = {EACH_HANDLER(TABLE_ENTRY){}};
 #undef TABLE_ENTRY
+
+void printInformation(const char* name, const char* value) {
+  php_info_print_table_start();
+  php_info_print_table_header(2, name, value);
+  php_info_print_table_end();
+}
 
 namespace {
 

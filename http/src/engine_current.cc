@@ -7,7 +7,8 @@
 
 // The engine defines names of the standard library as macros, so it comes last.
 // clang-format off
-#include "function_table.h"
+#include "engine_of_module.h"
+#include <ext/standard/info.h>
 #include <zend_exceptions.h>
 #include "network_arginfo.h"
 // clang-format on
@@ -21,6 +22,12 @@ EACH_HANDLER(CALL_HANDLER)
 #define TABLE_ENTRY(name) PHP_FE(name, arginfo_##name)
 zend_function_entry moduleFunctions[] = {EACH_HANDLER(TABLE_ENTRY){}};
 #undef TABLE_ENTRY
+
+void printInformation(const char* name, const char* value) {
+  php_info_print_table_start();
+  php_info_print_table_header(2, name, value);
+  php_info_print_table_end();
+}
 
 namespace {
 

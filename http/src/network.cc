@@ -6,8 +6,7 @@
 
 // The engine defines names of the standard library as macros, so it comes last.
 // clang-format off
-#include "function_table.h"
-#include <ext/standard/info.h>
+#include "engine_of_module.h"
 // clang-format on
 
 namespace {
@@ -22,11 +21,7 @@ PHP_MSHUTDOWN_FUNCTION(network) { return SUCCESS; }
 PHP_RINIT_FUNCTION(network) { return SUCCESS; }
 PHP_RSHUTDOWN_FUNCTION(network) { return SUCCESS; }
 
-PHP_MINFO_FUNCTION(network) {
-  php_info_print_table_start();
-  php_info_print_table_header(2, "network support", "enabled");
-  php_info_print_table_end();
-}
+PHP_MINFO_FUNCTION(network) { printInformation("network support", "enabled"); }
 
 static zend_module_entry network_module_entry = {
     STANDARD_MODULE_HEADER,   const_cast<char*>("network"), moduleFunctions,        PHP_MINIT(network),

@@ -61,6 +61,8 @@ const wrongFiles = [
   [`${head}[name]\n= a\n`, {4: /neither a section/}],
   [`${head}[name]\nHost name = a\n`, {4: /neither a section/}],
   [`${head}[name]\n`, {3: /\[name\] lacks "host"/}],
+  ...['1e1', '010', '10.0', '+10'].map((speed) => [`${head}[port]\nautonegotiation = on\nspeed = ${speed}\nduplex = full\n`,
+    {5: /"speed" is one of: 10, 100\./}]),
   [`${head}[name]\nhost =\n`, {4: /Enter a name/}],
   [`${head}[name]\nhost = ${'a'.repeat(65)}\n`, {4: /too long: at most 64/}],
   [`${head}[name]\nhost = a_b\n`, {4: /only letters/}],

@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "libdovan_util/command_words.h"
+#include "libdovan_util/commands_at_once.h"
 
 namespace {
 
@@ -146,7 +147,10 @@ volatile std::sig_atomic_t alarms = 0;
 class Alarms {
  public:
   Alarms() { Set(1000); }
-  ~Alarms() { Set(0); }
+  ~Alarms() {
+    Set(0);
+    std::signal(SIGALRM, SIG_IGN);  // forgets one that has not been delivered yet
+  }
   Alarms(const Alarms&) = delete;
   Alarms& operator=(const Alarms&) = delete;
 
@@ -385,6 +389,16 @@ TEST(Runtime, AStatusThatTheHostsOwnHandlerTookIsAFailure) {
   EXPECT_EQ(CannotBeRun, outcome.waitStatus);
 }
 
+TEST(Runtime, ACommandFindsTheSameEnvironmentWhateverTheHostHas) {
+  ASSERT_EQ(0, setenv("LD_PRELOAD_OF_SOMEBODY", "x", 1));
+  EXPECT_EQ("PATH=/usr/sbin:/usr/bin:/sbin:/bin", run("/usr/bin/env").output);
+  unsetenv("LD_PRELOAD_OF_SOMEBODY");
+  char** const own = environ;
+  environ = nullptr;  // as a library may see it
+  EXPECT_EQ("PATH=/usr/sbin:/usr/bin:/sbin:/bin", run("/usr/bin/env").output);
+  environ = own;
+}
+
 TEST(Runtime, ManyThreadsGetTheirOwnAnswersAndLeaveNothingBehind) {
   const int before = openDescriptors();
   runOnManyThreads();
@@ -417,6 +431,93 @@ Words split(std::string command) {
 }
 
 }  // namespace
+
+// Each waits until the other one is there: one after the other, neither would come to its end.
+TEST(RunAtOnce, CommandsRunAtTheSameTime) {
+  char folder[] = "/tmp/runtime_test.XXXXXX";
+  ASSERT_NE(nullptr, mkdtemp(folder));
+  const std::string fifo = std::string(folder) + "/fifo";
+  ASSERT_EQ(0, mkfifo(fifo.c_str(), 0600));
+  const std::vector<CommandAnswer> answers = runAtOnce(
+      {"timeout 20 sh -c \"cat " + fifo + "\"", "timeout 20 sh -c \"echo met >" + fifo + "; echo said\""});
+  ASSERT_EQ(2U, answers.size());
+  EXPECT_TRUE(answers[0].succeeded);
+  EXPECT_EQ("met", answers[0].output);
+  EXPECT_TRUE(answers[1].succeeded);
+  EXPECT_EQ("said", answers[1].output);
+  EXPECT_EQ(0, std::system(("rm -r " + std::string(folder)).c_str()));
+}
+
+TEST(RunAtOnce, AnswersAreInTheOrderOfTheCommandsWhateverEndsFirst) {
+  const std::vector<CommandAnswer> answers =
+      runAtOnce({"sh -c \"sleep 0.2; echo slow\"", "echo fast", "false", ""});
+  ASSERT_EQ(4U, answers.size());
+  EXPECT_EQ("slow", answers[0].output);
+  EXPECT_EQ("fast", answers[1].output);
+  EXPECT_TRUE(answers[1].succeeded);
+  EXPECT_FALSE(answers[2].succeeded);
+  EXPECT_FALSE(answers[3].succeeded);
+}
+
+// More than a pipe holds, of one that is read late.
+TEST(RunAtOnce, NoneWaitsForeverForItsReader) {
+  const std::vector<CommandAnswer> answers =
+      runAtOnce({"head -c 3000000 /dev/zero", "head -c 2000000 /dev/zero"});
+  ASSERT_EQ(2U, answers.size());
+  EXPECT_EQ(3000000U, answers[0].output.size());
+  EXPECT_EQ(2000000U, answers[1].output.size());
+}
+
+// Room for one pipe, of which the reader keeps one end.
+TEST(RunAtOnce, WithTooFewDescriptorsForAllTheyRunOneAfterTheOther) {
+  rlimit before = {};
+  ASSERT_EQ(0, getrlimit(RLIMIT_NOFILE, &before));
+  rlimit few = before;
+  few.rlim_cur = 64;
+  testing::internal::CaptureStderr();
+  ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &few));
+  std::vector<int> filling;
+  for (int number = dup(STDERR_FILENO); number >= 0; number = dup(STDERR_FILENO)) filling.push_back(number);
+  ASSERT_LE(2U, filling.size());
+  for (int i = 0; i < 2; ++i, filling.pop_back()) close(filling.back());
+  const std::vector<CommandAnswer> answers = runAtOnce({"echo 1", "echo 2", "echo 3", "/no/such/program"});
+  for (const int number : filling) close(number);
+  const std::string complaints = testing::internal::GetCapturedStderr();
+  ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &before));
+  ASSERT_EQ(4U, answers.size());
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_TRUE(answers[i].succeeded);
+    EXPECT_EQ(std::to_string(i + 1), answers[i].output);
+  }
+  EXPECT_FALSE(answers[3].succeeded);
+  EXPECT_EQ("command '/no/such/program' failed: No such file or directory\n", complaints);
+}
+
+TEST(RunAtOnce, WithoutAnyDescriptorEachIsRefused) {
+  rlimit before = {};
+  ASSERT_EQ(0, getrlimit(RLIMIT_NOFILE, &before));
+  rlimit few = before;
+  few.rlim_cur = 64;
+  testing::internal::CaptureStderr();
+  ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &few));
+  std::vector<int> filling;
+  for (int number = dup(STDERR_FILENO); number >= 0; number = dup(STDERR_FILENO)) filling.push_back(number);
+  const std::vector<CommandAnswer> answers = runAtOnce({"echo 1", "echo 2"});
+  for (const int number : filling) close(number);
+  ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &before));
+  EXPECT_EQ("command 'echo 1' failed: Too many open files\ncommand 'echo 2' failed: Too many open files\n",
+            testing::internal::GetCapturedStderr());
+  ASSERT_EQ(2U, answers.size());
+  EXPECT_FALSE(answers[0].succeeded);
+  EXPECT_FALSE(answers[1].succeeded);
+  EXPECT_EQ("", answers[0].output + answers[1].output);
+}
+
+TEST(RunAtOnce, NoneIsLeftBehind) {
+  runAtOnce({"true", "false", "/no/such/program", "echo"});
+  EXPECT_EQ(-1, waitpid(-1, nullptr, WNOHANG));
+  EXPECT_EQ(ECHILD, errno);
+}
 
 TEST(SplitCommand, BlanksAndTabsPartWordsHoweverManyTheyAre) {
   EXPECT_EQ((Words{"a", "bc", "d"}), split("a bc d"));

@@ -328,6 +328,19 @@ TEST_F(AppConfigTest, TwentyTrapRegistrationsAreTheMost) {
   EXPECT_EQ(Result::Succeeded, config->createTrapRegistration(further));
 }
 
+TEST_F(AppConfigTest, AStoredIdentifierThatIsNoneIsNotReadAsAnother) {
+  TrapRegistration registration = Receiver("10.20.0.9");
+  ASSERT_EQ(Result::Succeeded, config->createTrapRegistration(registration));
+  for (const char* stored : {"", "1-2-3", "00000001-00000002-0000", "00000001-00000002-00000003x",
+                             "000000001-00000002-00000003", "0000000A-00000002-00000003"}) {
+    Ask(std::string("UPDATE trap_registrations SET identifier = '") + stored + "'");
+    Registrations registrations(Heap());
+    EXPECT_EQ(std::string("getTrapRegistrations: stored identifier '") + stored + "' is no identifier\n",
+              Said([&] { EXPECT_EQ(Result::Failed, config->getTrapRegistrations(registrations)); }));
+    EXPECT_EQ(0U, registrations.Size());
+  }
+}
+
 TEST_F(AppConfigTest, AReceiverThatIsThereAlreadyIsRefusedInAnyNotation) {
   for (TrapRegistration registration : {Receiver("10.20.0.9"), Receiver("2001:db8::9", 162, 2)}) {
     ASSERT_EQ(Result::Succeeded, config->createTrapRegistration(registration));
@@ -423,6 +436,14 @@ TEST_F(AppConfigTest, AChangeOfTheModeIsBroughtToTheWebServiceWhenItIsStored) {
               "sqlite3 " + places.database + " 'SELECT ssl_enabled FROM settings' >" + folder + "/seen");
   EXPECT_EQ(Result::Succeeded, config->setSSLEnabled(true));
   EXPECT_EQ("1\n", Contents(folder + "/seen"));
+}
+
+TEST_F(AppConfigTest, AScriptFindsNothingOfTheCallersEnvironment) {
+  ASSERT_EQ(0, setenv("OF_THE_CALLER", "x", 1));
+  WriteScript(places.applyWebMode, "echo ${OF_THE_CALLER-none} $PATH >" + folder + "/seen");
+  EXPECT_EQ(Result::Succeeded, config->setSSLEnabled(true));
+  EXPECT_EQ("none /usr/sbin:/usr/bin:/sbin:/bin\n", Contents(folder + "/seen"));
+  unsetenv("OF_THE_CALLER");
 }
 
 TEST_F(AppConfigTest, AWebServiceThatDoesNotFollowFailsTheChangeOfTheModeWhichStaysAsItWas) {

@@ -68,6 +68,6 @@ restore_before() {
 
 # One that stays, because it cannot be removed, matters only to a start at which the setting itself is refused.
 forget_before() {
-  rm -f "$SETTINGS/$1.before" 2>/dev/null
+  if [ -e "$SETTINGS/$1.before" ] || [ -L "$SETTINGS/$1.before" ]; then rm -f "$SETTINGS/$1.before" 2>/dev/null; fi
   return 0
 }

@@ -1,4 +1,4 @@
-// What properties need of an engine. Each engine has a file of its own: engine_20020429.cc is the
+// What the library needs of an engine. Each engine has a file of its own: engine_20020429.cc is the
 // appliance's, engine_current.cc is for today's.
 #pragma once
 
@@ -13,3 +13,6 @@ zval* findProperty(zval* object, const char* name);
 bool carriesText(zval* value);
 std::string textOf(zval* scalar);
 bool isTrue(zval* value);
+
+// A warning of the function that runs: what has failed, with its code and where it was reported.
+void warnPage(const char* message, unsigned int code, const char* file, int line);

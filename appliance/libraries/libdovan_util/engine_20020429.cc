@@ -4,6 +4,10 @@
 #include <sstream>
 #include <string>
 
+// The engine's headers declare this for C alone. Without a word about it C++ would look for another name in
+// the interpreter, which has none such.
+extern "C" void php_error_docref0(const char* docref, int type, const char* format, ...);
+
 // The engine defines names of the standard library as macros, so it comes last.
 // clang-format off
 #include "libdovan_util/engine.h"
@@ -29,18 +33,13 @@ bool isScalar(const zval* value) {
   }
 }
 
-// 1.5, 1.0E+25, 1.0E-7
+// 1.5, 1E+25, 1E-05
 std::string textOf(double number) {
   constexpr int Precision = 14;  // the engine's default
   std::ostringstream stream;
   stream.imbue(std::locale::classic());
   stream << std::setprecision(Precision) << std::uppercase << number;
-  std::string text = stream.str();
-  const std::size_t exponent = text.find('E');
-  if (exponent == std::string::npos) return text;  // also INF and NAN: neither has an E
-  text.erase(exponent + 2, text.find_first_not_of('0', exponent + 2) - (exponent + 2));
-  if (text.find('.') == std::string::npos) text.insert(exponent, ".0");
-  return text;
+  return stream.str();
 }
 
 }  // namespace
@@ -53,22 +52,7 @@ zval* findProperty(zval* object, const char* name) {
   return *static_cast<zval**>(place);
 }
 
-// The interface has no call that counts elements: an array or object is true whatever it holds.
-bool isTrue(zval* value) {
-  switch (Z_TYPE_P(value)) {
-    case IS_NULL:
-      return false;
-    case IS_LONG:
-    case IS_BOOL:
-      return Z_LVAL_P(value) != 0;
-    case IS_DOUBLE:
-      return Z_DVAL_P(value) != 0;
-    case IS_STRING:
-      return Z_STRLEN_P(value) > 1 || (Z_STRLEN_P(value) == 1 && Z_STRVAL_P(value)[0] != '0');
-    default:
-      return true;
-  }
-}
+bool isTrue(zval* value) { return zend_is_true(value) != 0; }
 
 bool carriesText(zval* value) {
   if (!isScalar(value)) return false;
@@ -106,4 +90,8 @@ void addTexts(zval* object, const char* name, const std::vector<std::string>& te
   for (const std::string& text : texts) {
     add_next_index_string(list, const_cast<char*>(text.c_str()), /*duplicate=*/1);
   }
+}
+
+void warnPage(const char* message, unsigned int code, const char* file, int line) {
+  php_error_docref(nullptr, E_WARNING, "%s (code 0x%08X, %s:%d)", message, code, file, line);
 }

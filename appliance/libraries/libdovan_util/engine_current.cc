@@ -51,3 +51,7 @@ void addTexts(zval* object, const char* name, const std::vector<std::string>& te
   add_property_zval(object, name, &list);
   zval_ptr_dtor(&list);
 }
+
+void warnPage(const char* message, unsigned int code, const char* file, int line) {
+  php_error_docref(nullptr, E_WARNING, "%s (code 0x%08X, %s:%d)", message, code, file, line);
+}

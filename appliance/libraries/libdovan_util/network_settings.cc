@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "libdovan_util/commands_at_once.h"
 #include "libdovan_util/property_values.h"
 #include "platform/List.h"
 #include "platform/MemoryMgmt.h"
@@ -54,18 +55,44 @@ Pieces split(const std::string& text, const char* separator) {
   return pieces;
 }
 
-bool ask(const char* command, const char* what, std::string& answer) {
-  int waitStatus = 0;
-  if (Runtime::getInstance()->execute(command, answer, waitStatus)) return true;
+// What the scripts answer that are needed in any case. All are read before the first failure is reported: a
+// report may end the request.
+class Answers {
+ public:
+  Answers() : answers_(runAtOnce(Commands())) {}
+
+  // Runs the command now when it is not one of those.
+  bool Get(const std::string& command, std::string& answer) const {
+    for (std::size_t i = 0; i < answers_.size(); ++i) {
+      if (Commands()[i] != command) continue;
+      answer = answers_[i].output;
+      return answers_[i].succeeded;
+    }
+    int waitStatus = 0;
+    return Runtime::getInstance()->execute(command, answer, waitStatus);
+  }
+
+ private:
+  static const std::vector<std::string>& Commands() {
+    static const auto* const commands =
+        new std::vector<std::string>{HostName, Ipv4Lease, Stateless, Ipv6Static, Ipv6Addresses, Dns, Port};
+    return *commands;
+  }
+
+  std::vector<CommandAnswer> answers_;
+};
+
+bool ask(const Answers& answers, const char* command, const char* what, std::string& answer) {
+  if (answers.Get(command, answer)) return true;
   reportUnreadable(what);
   answer.clear();
   return false;
 }
 
 // True when the command printed as many fields as there are in settings, which then has them.
-bool askForFields(const char* command, const char* what, Pieces& settings) {
+bool askForFields(const Answers& answers, const char* command, const char* what, Pieces& settings) {
   std::string answer;
-  if (!ask(command, what, answer)) return false;
+  if (!ask(answers, command, what, answer)) return false;
   const Pieces fields = split(answer, "?");
   if (fields.size() != settings.size()) {
     reportUnreadable(what);
@@ -83,20 +110,20 @@ std::string fullAddress(const std::string& address) {
   return StringUtilities::listToString(groups, ":");
 }
 
-void addHostName(zval* object) {
+void addHostName(zval* object, const Answers& answers) {
   std::string name;
-  ask(HostName, "hostname information", name);
+  ask(answers, HostName, "hostname information", name);
   add_property_string_q(object, "hostname", name.c_str(), 1);
 }
 
-void addIpv4(zval* object) {
+void addIpv4(zval* object, const Answers& answers) {
   const Pieces nothing(3);  // what stands for "off" in the lease, and for "none" in the static settings
   Pieces settings(3, NoIpv4Address);
-  bool dhcp = askForFields(Ipv4Lease, "IPv4 network information", settings);
+  bool dhcp = askForFields(answers, Ipv4Lease, "IPv4 network information", settings);
   if (settings == nothing) {
     dhcp = false;
     settings.assign(3, NoIpv4Address);
-    askForFields(Ipv4Static, "static IPv4 settings", settings);
+    askForFields(answers, Ipv4Static, "static IPv4 settings", settings);
   }
   if (settings == nothing) settings.assign(3, NoIpv4Address);
   addFlag(object, "dhcpEnabled", dhcp);
@@ -105,19 +132,19 @@ void addIpv4(zval* object) {
   add_property_string_q(object, "gateway", settings[2].c_str(), 1);
 }
 
-void addIpv6Modes(zval* object) {
+void addIpv6Modes(zval* object, const Answers& answers) {
   std::string stateless;
-  ask(Stateless, "stateless settings", stateless);
+  ask(answers, Stateless, "stateless settings", stateless);
   addFlag(object, "ipv6Enabled", isReadable(Ipv6EnabledFile));
   addFlag(object, "ipv6DhcpEnabled", isReadable(Ipv6DhcpFile));
   addFlag(object, "statelessEnabled", stateless == "1");
 }
 
 // The text is address/prefix?gateway, or empty.
-void addIpv6Static(zval* object) {
+void addIpv6Static(zval* object, const Answers& answers) {
   constexpr const char* What = "static IPv6 settings";
   std::string text;
-  ask(Ipv6Static, What, text);
+  ask(answers, Ipv6Static, What, text);
   const Pieces outer = split(text, "?");
   const Pieces inner = outer.empty() ? Pieces() : split(outer[0], "/");
   const bool enabled = outer.size() == 2 && inner.size() == 2;
@@ -128,15 +155,15 @@ void addIpv6Static(zval* object) {
   add_property_string_q(object, "ipv6Gateway", enabled ? fullAddress(outer[1]).c_str() : NoIpv6Address, 1);
 }
 
-void addIpv6Addresses(zval* object) {
+void addIpv6Addresses(zval* object, const Answers& answers) {
   std::string addresses;
-  ask(Ipv6Addresses, "IPv6 addresses", addresses);
+  ask(answers, Ipv6Addresses, "IPv6 addresses", addresses);
   addTexts(object, "ipv6Addresses", split(addresses, "?"));
 }
 
-void addDns(zval* object) {
+void addDns(zval* object, const Answers& answers) {
   std::string text;
-  ask(Dns, "DNS addresses", text);
+  ask(answers, Dns, "DNS addresses", text);
   Pieces servers = split(text, " ");
   servers.resize(2);
   if (servers[0] == "disabled") servers[0].clear();
@@ -172,9 +199,9 @@ void addServiceStates(zval* object) {
   addFlag(object, "snmpEnabled", isSNMPEnabled(config));
 }
 
-void addPort(zval* object) {
+void addPort(zval* object, const Answers& answers) {
   Pieces settings = {"off", "100", ""};
-  askForFields(Port, "port settings", settings);
+  askForFields(answers, Port, "port settings", settings);
   const std::string& duplex = settings[2];
   addNumber(object, "AutoNegotiate", settings[0] == "on" ? 1 : 0);
   addNumber(object, "Speed", settings[1] == "10" ? 10 : 100);
@@ -184,12 +211,13 @@ void addPort(zval* object) {
 }  // namespace
 
 void getNetworkSettings(zval* object) {
-  addHostName(object);
-  addIpv4(object);
-  addIpv6Modes(object);
-  addIpv6Static(object);
-  addIpv6Addresses(object);
-  addDns(object);
+  const Answers answers;
+  addHostName(object, answers);
+  addIpv4(object, answers);
+  addIpv6Modes(object, answers);
+  addIpv6Static(object, answers);
+  addIpv6Addresses(object, answers);
+  addDns(object, answers);
   addServiceStates(object);
-  addPort(object);
+  addPort(object, answers);
 }

@@ -9,11 +9,15 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <deque>
 #include <exception>
+#include <utility>
 #include <vector>
 
 #include "libdovan_util/command_words.h"
+#include "libdovan_util/commands_at_once.h"
 #include "libtarn/child_statuses.h"
+#include "libtarn/command_environment.h"
 
 namespace {
 
@@ -97,7 +101,10 @@ int spawn(const std::vector<char*>& words, const Descriptor& output, pid_t& chil
   posix_spawnattr_init(&attributes);
   int error = arrangeDescriptors(actions, output);
   arrangeSignals(attributes);
-  if (error == 0) error = posix_spawnp(&child, words[0], &actions, &attributes, words.data(), environ);
+  if (error == 0) {
+    error = posix_spawnp(&child, words[0], &actions, &attributes, words.data(),
+                         TarnAbstract::commandEnvironment());
+  }
   posix_spawnattr_destroy(&attributes);
   posix_spawn_file_actions_destroy(&actions);
   return error;
@@ -137,35 +144,77 @@ void removeLineEnds(std::string& text) {
   text.resize(length);
 }
 
-// The raw wait status. Without an output the command's own goes nowhere: it must not get into a page.
-int run(std::string& command, std::string* output) {
-  std::vector<char*> words;
-  const char* fault = splitCommand(command, words);
-  if (fault != nullptr) return refuse(command, fault);
+// One that has been started is waited for, whatever becomes of it otherwise. Without output the command's own
+// goes nowhere: it must not get into a page.
+class RunningCommand {
+ public:
+  enum class Output { Dropped, Read };
 
-  Descriptor reader;
-  Descriptor writer;
-  int error = output == nullptr ? 0 : openPipe(reader, writer);
-  const TarnAbstract::ChildStatuses statuses;
-  pid_t child = -1;
-  if (error == 0) error = spawn(words, writer, child);
-  if (error != 0) {
-    return refuse(words, std::strerror(error), error == ENOENT ? NoSuchProgram : CannotBeRun);
+  RunningCommand(std::string command, Output output) : command_(std::move(command)) {
+    try {
+      Start(output);
+    } catch (const std::exception& exception) {
+      waitStatus_ = refuse(command_, exception.what());
+    }
+  }
+  ~RunningCommand() {
+    if (child_ >= 0) WaitFor(nullptr);
+  }
+  RunningCommand(const RunningCommand&) = delete;
+  RunningCommand& operator=(const RunningCommand&) = delete;
+
+  // It has not been started, for want of what others may give back when they end.
+  bool LacksRoom() const {
+    return spawnError_ == EAGAIN || spawnError_ == ENOMEM || spawnError_ == EMFILE || spawnError_ == ENFILE;
   }
 
-  writer.Close();
-  if (output != nullptr) fault = readAll(reader, *output);
-  reader.Close();  // a command that still writes ends by that
-  int waitStatus = 0;
-  const char* const waitFault = waitFor(child, waitStatus);
-  if (fault == nullptr) fault = waitFault;
-  return fault == nullptr ? waitStatus : refuse(words, fault);
-}
+  // The raw wait status. What the command printed comes behind the output.
+  int WaitFor(std::string* output) try {
+    if (spawnError_ != 0) {
+      return refuse(words_, std::strerror(spawnError_), spawnError_ == ENOENT ? NoSuchProgram : CannotBeRun);
+    }
+    if (child_ < 0) return waitStatus_;
+    const char* fault = output == nullptr ? nullptr : readAll(reader_, *output);
+    reader_.Close();  // a command that still writes ends by that
+    const char* const waitFault = waitFor(child_, waitStatus_);
+    child_ = -1;
+    if (fault == nullptr) fault = waitFault;
+    return fault == nullptr ? waitStatus_ : refuse(words_, fault);
+  } catch (const std::exception& exception) {
+    return refuse(command_, exception.what());
+  }
 
-int runOrRefuse(std::string& command, std::string* output) try {
-  return run(command, output);
-} catch (const std::exception& exception) {
-  return refuse(command, exception.what());
+ private:
+  void Start(Output output) {
+    const char* const fault = splitCommand(command_, words_);
+    if (fault != nullptr) {
+      waitStatus_ = refuse(command_, fault);
+      return;
+    }
+    Descriptor writer;
+    int error = output == Output::Dropped ? 0 : openPipe(reader_, writer);
+    if (error == 0) error = spawn(words_, writer, child_);
+    if (error == 0) return;
+    child_ = -1;
+    reader_.Close();
+    spawnError_ = error;
+  }
+
+  std::string command_;
+  std::vector<char*> words_;
+  const TarnAbstract::ChildStatuses statuses_;
+  Descriptor reader_;
+  pid_t child_ = -1;  // below 0: none runs
+  int spawnError_ = 0;
+  int waitStatus_ = 0;
+};
+
+// Replaces the output, without the line ends at its end.
+bool answer(RunningCommand& command, std::string& output, int& waitStatus) {
+  output.clear();
+  waitStatus = command.WaitFor(&output);
+  removeLineEnds(output);
+  return waitStatus == 0;
 }
 
 }  // namespace
@@ -175,11 +224,26 @@ Runtime* Runtime::getInstance() {
   return &instance;
 }
 
-int Runtime::execute(std::string command) { return runOrRefuse(command, nullptr); }
+int Runtime::execute(std::string command) {
+  return RunningCommand(std::move(command), RunningCommand::Output::Dropped).WaitFor(nullptr);
+}
 
 bool Runtime::execute(std::string command, std::string& output, int& waitStatus) {
-  output.clear();
-  waitStatus = runOrRefuse(command, &output);
-  removeLineEnds(output);
-  return waitStatus == 0;
+  RunningCommand running(std::move(command), RunningCommand::Output::Read);
+  return answer(running, output, waitStatus);
+}
+
+std::vector<CommandAnswer> runAtOnce(const std::vector<std::string>& commands) {
+  std::vector<CommandAnswer> answers(commands.size());
+  std::deque<RunningCommand> running;
+  for (const std::string& command : commands) running.emplace_back(command, RunningCommand::Output::Read);
+  int waitStatus = 0;
+  for (std::size_t i = 0; i < commands.size(); ++i) {
+    if (!running[i].LacksRoom()) answers[i].succeeded = answer(running[i], answers[i].output, waitStatus);
+  }
+  for (std::size_t i = 0; i < commands.size(); ++i) {
+    if (!running[i].LacksRoom()) continue;
+    answers[i].succeeded = Runtime::getInstance()->execute(commands[i], answers[i].output, waitStatus);
+  }
+  return answers;
 }

@@ -43,11 +43,13 @@ std::string ToText(const GUID& identifier) {
 
 GUID ToIdentifier(const std::string& text) {
   std::uint32_t words[3] = {0, 0, 0};
-  // NOLINTNEXTLINE(cert-err34-c): only ToText writes such a text
-  if (std::sscanf(text.c_str(), "%" SCNx32 "-%" SCNx32 "-%" SCNx32, &words[0], &words[1], &words[2]) != 3) {
+  // NOLINTNEXTLINE(cert-err34-c): what was read is compared
+  std::sscanf(text.c_str(), "%8" SCNx32 "-%8" SCNx32 "-%8" SCNx32, &words[0], &words[1], &words[2]);
+  const GUID identifier(words[0], words[1], words[2]);
+  // Another text could be read as an identifier, too, but not be found by it again.
+  if (ToText(identifier) != text)
     throw ServiceError("stored identifier '" + Excerpt(text) + "' is no identifier");
-  }
-  return {words[0], words[1], words[2]};
+  return identifier;
 }
 
 // Zero stands for "no identifier".

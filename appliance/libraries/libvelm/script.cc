@@ -10,6 +10,7 @@
 #include <cstring>
 
 #include "libtarn/child_statuses.h"
+#include "libtarn/command_environment.h"
 #include "libvelm/service_error.h"
 
 namespace Velm {
@@ -55,8 +56,8 @@ void RunScript(const std::string& path) {
   char* const arguments[] = {name.data(), nullptr};
   const TarnAbstract::ChildStatuses statuses;
   pid_t child = 0;
-  const int error =
-      posix_spawn(&child, path.c_str(), settings.Actions(), settings.Attributes(), arguments, environ);
+  const int error = posix_spawn(&child, path.c_str(), settings.Actions(), settings.Attributes(), arguments,
+                                TarnAbstract::commandEnvironment());
   if (error != 0) throw ServiceError(path + " cannot be started: " + std::strerror(error));
   int status = 0;
   while (waitpid(child, &status, 0) < 0) {

@@ -82,7 +82,8 @@ typedef struct _zend_function_entry {
   unsigned char* func_arg_types; /* null: nothing is passed by reference */
 } zend_function_entry;
 
-#define PHP_FE(name, arg_types) {(char*)#name, zif_##name, (arg_types)},
+/* In C++ the name is a constant text where a changeable one is wanted. */
+#define PHP_FE(name, arg_types) {#name, zif_##name, (arg_types)},
 
 /* -1 after a warning to the page when the arguments do not fit; "o" writes a zval*, "s" a char* and an
    int, "l" a long, "b" an unsigned char. */
@@ -146,12 +147,16 @@ int zend_hash_find(HashTable* table, char* key, unsigned int key_len, void** dat
 #define object_init(value) _object_init(value)
 #define array_init(value) _array_init(value)
 
-/* A warning or notice of the function that runs, with the place in the page. */
-void php_error_docref0(const char* docref, int type, const char* format, ...)
-    __attribute__((format(printf, 3, 4)));
-
-#define php_error_docref php_error_docref0
+int zend_is_true(zval* value);
 
 #ifdef __cplusplus
 }
 #endif
+
+/* A warning or notice of the function that runs, with the place in the page. The engine declares it for C
+   alone: C++ has to be told of the linkage before it reads this. */
+/* NOLINTNEXTLINE(readability-redundant-declaration) */
+void php_error_docref0(const char* docref, int type, const char* format, ...)
+    __attribute__((format(printf, 3, 4)));
+
+#define php_error_docref php_error_docref0

@@ -207,7 +207,8 @@ function read_backup_value($file, $number, $name, $value)
     }
     if (isset($names[$name]['values'])) {
         $value = strtolower($value);
-        if (!in_array($value, $names[$name]['values'])) {
+        // As texts: as numbers 1e1 would be 10.
+        if (!in_array($value, $names[$name]['values'], true)) {
             $file['errors'][$number] = "\"$name\" is one of: " . implode(', ', $names[$name]['values']) . '.';
             $file['wrong'][$number] = true;
         }

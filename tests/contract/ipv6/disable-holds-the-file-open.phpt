@@ -9,8 +9,7 @@ append_to(IPV6_ENABLED_FILE, '');
 // Which of the interpreter's files are the flag file, while the command runs.
 unlink('/bin/rm');
 write_script('/bin/rm', '#!/bin/sh
-find /proc/$PPID/fd -lname "$1" -printf "open at removal: %l\n" >>"$SCRIPTED_PLATFORM/transcript"
-');
+find /proc/$PPID/fd -lname "$1" -printf "open at removal: %l\n" >>' . platform_file('transcript') . "\n");
 chmod('/bin/rm', 0755);
 set_ipv6_enabled(new Session(), false);
 show_transcript();

@@ -3,10 +3,10 @@ A property that is missing, null, false, the empty text, zero, an array or an ob
 --FILE--
 <?php
 include 'scripted_platform.inc';
-class NoUser {
+class no_user {
   var $name = 'admin';
 }
-class AnyUser {
+class any_user {
   var $user;
 }
 answer('gethostname', 'library');
@@ -18,20 +18,20 @@ function attach($session) {
   forget_transcript();
 }
 
-attach(new NoUser());
-$session = new AnyUser();
-foreach (array(null, false, '', 0, 0.0, -0.0, array(), array('admin'), new NoUser()) as $value) {
+attach(new no_user());
+$session = new any_user();
+foreach (array(null, false, '', 0, 0.0, 0.0 * -1, array(), array('admin'), new no_user()) as $value) {
   $session->user = $value;
   attach($session);
 }
 --EXPECT--
-NoUser {name: "admin"} -> session of nobody
-AnyUser {user: null} -> session of nobody
-AnyUser {user: false} -> session of nobody
-AnyUser {user: ""} -> session of nobody
-AnyUser {user: integer 0} -> session of nobody
-AnyUser {user: double 0} -> session of nobody
-AnyUser {user: double -0} -> session of nobody
-AnyUser {user: array()} -> session of nobody
-AnyUser {user: array(0: "admin")} -> session of nobody
-AnyUser {user: NoUser {name: "admin"}} -> session of nobody
+no_user {name: "admin"} -> session of nobody
+any_user {user: null} -> session of nobody
+any_user {user: false} -> session of nobody
+any_user {user: ""} -> session of nobody
+any_user {user: integer 0} -> session of nobody
+any_user {user: double 0} -> session of nobody
+any_user {user: double -0} -> session of nobody
+any_user {user: array()} -> session of nobody
+any_user {user: array(0: "admin")} -> session of nobody
+any_user {user: no_user {name: "admin"}} -> session of nobody

@@ -14,7 +14,7 @@ function read_number($number, $width) {
 }
 
 foreach (array(0, 1, 2, 255) as $number) read_number($number, 'byte');
-foreach (array(0, 1, 2, 255, 256, 65536, 2147483647, 4294967295) as $number) read_number($number, 'word');
+foreach (array(0, 1, 2, 255, 256, 65536, 16843013, 2147483647, 4294967295) as $number) read_number($number, 'word');
 --EXPECT--
 byte 0: false
 TRACE[time]:SNMP auth traps are enabled::<0>
@@ -36,6 +36,8 @@ word 256: true
 TRACE[time]:SNMP auth traps are enabled::<256>
 word 65536: true
 TRACE[time]:SNMP auth traps are enabled::<65536>
+word 16843013: true
+TRACE[time]:SNMP auth traps are enabled::<16843013>
 word 2147483647: true
 TRACE[time]:SNMP auth traps are enabled::<2147483647>
 word 4294967295: true

@@ -1,3 +1,11 @@
+// As a program in C has them.
+extern "C" {
+void php_error_docref0(const char* docref, int type, const char* format, ...);
+void php_info_print_table_start();
+void php_info_print_table_header(int num_cols, ...);
+void php_info_print_table_end();
+}
+
 #include "engine.h"
 
 #include <dlfcn.h>
@@ -272,6 +280,11 @@ int zend_hash_find(HashTable* table, char* key, unsigned int key_len, void** dat
     return SUCCESS;
   }
   return FAILURE;
+}
+
+int zend_is_true(zval* value) {
+  isEngineThread("zend_is_true");
+  return truthOf(value) ? 1 : 0;
 }
 
 void php_error_docref0(const char* /*docref*/, int type, const char* format, ...) {

@@ -2,6 +2,8 @@
 /* Calls one function of the module and answers with what it returned and what it warned of, as JSON. Without a
    function: the names of all. Served only while the functions are being checked. */
 
+include 'json.php';
+
 $warnings = array();
 
 function note_warning($level, $message)
@@ -11,16 +13,23 @@ function note_warning($level, $message)
     return true;
 }
 
-$module = new ReflectionExtension('network');
-$functions = array_keys($module->getFunctions());
+$functions = get_extension_funcs('network');
 header('Content-Type: application/json');
 if (!isset($_REQUEST['function'])) {
-    echo json_encode($functions), "\n";
+    echo json_of($functions), "\n";
 } elseif (!in_array($_REQUEST['function'], $functions)) {
     header('HTTP/1.1 404 Not Found');
-    echo json_encode('no function of the module: ' . $_REQUEST['function']), "\n";
+    echo json_of('no function of the module: ' . $_REQUEST['function']), "\n";
 } else {
+    $arguments = value_of_json($_REQUEST['arguments']);
+    if (!is_array($arguments)) {
+        header('HTTP/1.1 400 Bad Request');
+        echo json_of('no list of arguments: ' . $_REQUEST['arguments']), "\n";
+        exit;
+    }
     set_error_handler('note_warning');
-    $answer = call_user_func_array($_REQUEST['function'], json_decode($_REQUEST['arguments']));
-    echo json_encode(array('answer' => $answer, 'warnings' => $warnings), JSON_UNESCAPED_SLASHES), "\n";
+    $answer = new stdClass();
+    $answer->answer = call_user_func_array($_REQUEST['function'], $arguments);
+    $answer->warnings = $warnings;
+    echo json_of($answer), "\n";
 }

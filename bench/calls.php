@@ -1,0 +1,84 @@
+<?php
+// calls.php FUNCTION TIMES: calls the function so many times and prints how many nanoseconds one call took. Besides the
+// module's functions there are those below, which do the same in plain PHP.
+
+// As a page would do it that has only PHP: the same lines of the trace, the same look for the file.
+function plain_trace($message, $extra = '')
+{
+    $time = microtime(true);
+    file_put_contents('/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log', sprintf("TRACE[%s.%03d]:%s:<%s>\n",
+        date('Y-m-d H:i:s', (int) $time), ($time - floor($time)) * 1000, $message, $extra), FILE_APPEND);
+}
+
+function plain_is_ipv6_enabled()
+{
+    plain_trace('Entering is_ipv6_enabled');
+    $file = @fopen('/home/embedded/library/CoreService/dat/ipv6Enabled', 'r');
+    plain_trace($file ? 'IPv6 was enabled' : 'IPv6 was NOT enabled');
+    plain_trace('Exiting is_ipv6_enabled');
+    return (bool) $file;
+}
+
+function plain_is_ipv6_dhcp_enabled()
+{
+    plain_trace('Entering is_ipv6_dhcp_enabled');
+    $file = @fopen('/etc/ipv6dhcp', 'r');
+    plain_trace($file ? 'IPv6 DHCP was enabled' : 'IPv6 DHCP was NOT enabled');
+    plain_trace('Exiting is_ipv6_dhcp_enabled');
+    return (bool) $file;
+}
+
+function plain_command($script, $options)
+{
+    return rtrim((string) shell_exec('/usr/bin/cmdwrap -NO_END_OF_FILE /bin/sh /home/embedded/library/AppManager/bin/'
+        . "$script $options"), "\r\n");
+}
+
+function plain_get_network_hostname()
+{
+    plain_trace('Entering get_network_hostname');
+    $name = plain_command('ipv4Manager.sh', '-g host');
+    plain_trace('Output = ', $name);
+    plain_trace('Exiting get_network_hostname');
+    return $name;
+}
+
+function plain_get_network_configuration_ipv4()
+{
+    plain_trace('Entering get_network_configuration_ipv4');
+    $lease = plain_command('ipv4Manager.sh', '-d status');
+    plain_trace('Output1 = ', $lease);
+    $is_dhcp = $lease != '??';
+    if (!$is_dhcp) {
+        $lease = plain_command('ipv4Manager.sh', '-g static');
+        plain_trace('Output2 = ', $lease);
+    }
+    $parts = explode('?', $lease);
+    $name = plain_command('ipv4Manager.sh', '-g host');
+    plain_trace('Output3 = ', $name);
+    plain_trace('Exiting get_network_configuration_ipv4');
+    return (object) array('hostname' => $name, 'dhcpEnabled' => $is_dhcp, 'ip' => $parts[0], 'gateway' => $parts[2],
+        'netmask' => $parts[1]);
+}
+
+function plain_get_network_dns()
+{
+    plain_trace('Entering get_network_dns');
+    $servers = explode(' ', plain_command('ipv6Manager.sh', '-g dns'));
+    plain_trace('Exiting get_network_dns');
+    return (object) array('dnsPrimary' => $servers[0] == 'disabled' ? '' : $servers[0],
+        'dnsSecondary' => isset($servers[1]) ? $servers[1] : '');
+}
+
+if (basename($argv[0]) != basename(__FILE__)) {
+    return; // for count_calls.php
+}
+$function = $argv[1];
+$arguments = preg_match('/^(is_|get_network_hostname|get_all_|plain_)/', $function) ? array() : array(new stdClass());
+$times = (int) $argv[2];
+call_user_func_array($function, $arguments); // the first call opens what stays open
+$start = hrtime(true);
+for ($time = 0; $time < $times; $time++) {
+    call_user_func_array($function, $arguments);
+}
+printf("%.1f\n", (hrtime(true) - $start) / $times);

@@ -1,0 +1,148 @@
+<?php
+// What the rows share: taking samples in turn, and making a row of them. A row file prints one line of JSON for each
+// row; bench/run collects them.
+
+define('CHECKOUT', dirname(__DIR__));
+define('PROGRAMS', CHECKOUT . '/build/bench');
+define('MODULE', CHECKOUT . '/build/network.so');
+define('TRACE_LOG', '/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log');
+define('ERRORS', '/tmp/bench.errors'); // where the errors of the last command are
+define('QUICK', getenv('BENCH_QUICK') == 'yes');
+
+// The first number for a whole run, the second for a quick one.
+function amount($whole, $quick) { return QUICK ? $quick : $whole; }
+
+function at_most($number) { return array('<=', $number); }
+function at_least($number) { return array('>=', $number); }
+
+// Ends the row file; what was measured before stays.
+function fail($sentence)
+{
+    fwrite(STDERR, basename($_SERVER['argv'][0]) . ": $sentence\n");
+    exit(1);
+}
+
+// The last line that the command prints, which is a list of words or a line for the shell.
+function last_line($command, $folder = null)
+{
+    $process = proc_open($command, array(0 => array('file', '/dev/null', 'r'), 1 => array('pipe', 'w'),
+        2 => array('file', ERRORS, 'w')), $pipes, $folder);
+    $lines = explode("\n", rtrim(stream_get_contents($pipes[1])));
+    fclose($pipes[1]);
+    $status = proc_close($process);
+    if ($status != 0) {
+        $errors = substr((string) @file_get_contents(ERRORS), -400);
+        fail(implode(' ', (array) $command) . " ended with $status: $errors");
+    }
+    return end($lines);
+}
+
+// A candidate: a function that measures once and returns a number. This one lets a command do that.
+function command(...$words)
+{
+    return function () use ($words) {
+        $line = last_line($words);
+        if (!is_numeric($line)) {
+            fail(implode(' ', $words) . " printed \"$line\", which is no number");
+        }
+        return (float) $line;
+    };
+}
+
+// An interpreter without the machine's settings, with the module or without it.
+function interpreter($with_module)
+{
+    return array_merge(array(PHP_BINARY, '-n'), $with_module ? array('-d', 'extension=' . MODULE) : array());
+}
+
+// How many nanoseconds one call of the function in calls.php takes, in a process of its own.
+function calls($function, $times)
+{
+    return command(...array_merge(interpreter(true), array(__DIR__ . '/calls.php', $function, (string) $times)));
+}
+
+function program($name, ...$arguments) { return command(PROGRAMS . "/$name", ...array_map('strval', $arguments)); }
+
+// Lets the candidates measure in turn, A B A B ..., and returns the samples of each. What comes first in a round changes, so
+// that no one always finds the other's caches.
+function in_turn($candidates, $rounds)
+{
+    $samples = array_fill_keys(array_keys($candidates), array());
+    for ($round = 0; $round < $rounds; $round++) {
+        foreach ($round % 2 == 0 ? $candidates : array_reverse($candidates, true) as $name => $measure) {
+            $samples[$name][] = $measure();
+        }
+        @file_put_contents(TRACE_LOG, ''); // the disk is not what is measured
+    }
+    return $samples;
+}
+
+// Of an odd or even number of numbers: the one below which the part of them is, 0.5 for the median.
+function quantile($numbers, $part)
+{
+    sort($numbers);
+    $place = (count($numbers) - 1) * $part;
+    $below = (int) floor($place);
+    $above = (int) ceil($place);
+    return $numbers[$below] + ($numbers[$above] - $numbers[$below]) * ($place - $below);
+}
+
+function median($numbers) { return quantile($numbers, 0.5); }
+function spread($numbers) { return array(quantile($numbers, 0.25), quantile($numbers, 0.75)); }
+
+// One row of two candidates. What is judged is their ratio, round by round.
+function compare($what, $beside, $unit, $target, $ours, $theirs, $rounds)
+{
+    $samples = in_turn(array($ours, $theirs), $rounds);
+    ratio_row($what, $beside, $unit, $target, $samples[0], $samples[1]);
+}
+
+function ratio_row($what, $beside, $unit, $target, $ours, $theirs)
+{
+    $ratios = array_map(function ($one, $other) { return $one / $other; }, $ours, $theirs);
+    row($what, $beside, $unit, $target, 'ratio', $ratios, $ours, $theirs);
+}
+
+// One row of two candidates of which the difference is judged, by medians: those of single rounds are mostly noise.
+function difference_row($what, $beside, $unit, $target, $ours, $theirs)
+{
+    $differences = array_map(function ($one, $other) { return $one - $other; }, $ours, $theirs);
+    row($what, $beside, $unit, $target, 'difference', $differences, $ours, $theirs);
+}
+
+// One of numbers that stand for themselves.
+function value_row($what, $unit, $target, $ours) { row($what, '-', $unit, $target, 'value', $ours, $ours, array()); }
+
+// $judged: what the target is about, 'ratio', 'difference' or 'value'; $numbers: that, round by round. $target: null where
+// the number is only stated.
+function row($what, $beside, $unit, $target, $judged, $numbers, $ours, $theirs)
+{
+    $number = median($numbers);
+    $met = null;
+    if ($target !== null) {
+        $met = $target[0] == '<=' ? $number <= $target[1] : $number >= $target[1];
+    }
+    echo json_encode(array('name' => basename($_SERVER['argv'][0], '.php'), 'what' => $what, 'unit' => $unit, 'ours' => median($ours),
+        'ours_spread' => spread($ours), 'beside_what' => $beside, 'beside' => $theirs ? median($theirs) : null,
+        'beside_spread' => $theirs ? spread($theirs) : null, 'judged' => $judged, $judged => $number,
+        'spread' => spread($numbers), 'rounds' => count($numbers), 'target' => $target === null ? null : implode(' ', $target),
+        'met' => $met), JSON_UNESCAPED_SLASHES), "\n";
+}
+
+// The samples of Google Benchmark, whose repetitions take turns: name => nanoseconds of each. $pattern: the benchmarks.
+function google_samples($pattern, $unit = 'real_time', $mode = array())
+{
+    $command = array_merge(array(PROGRAMS . '/parts'), $mode, array("--benchmark_filter=$pattern",
+        '--benchmark_format=console', '--benchmark_out=/tmp/bench.json', '--benchmark_out_format=json',
+        '--benchmark_enable_random_interleaving=true', '--benchmark_repetitions=' . amount(11, 5),
+        '--benchmark_min_time=' . amount(0.05, 0.005)));
+    last_line($command);
+    file_put_contents(TRACE_LOG, '');
+    $samples = array();
+    foreach (json_decode(file_get_contents('/tmp/bench.json'), true)['benchmarks'] as $one) {
+        if ($one['run_type'] == 'iteration') {
+            $samples[preg_replace('#/real_time$#', '', $one['run_name'])][] = $one[$unit];
+        }
+    }
+    return $samples;
+}

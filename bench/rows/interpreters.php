@@ -1,0 +1,48 @@
+<?php
+// is_ipv6_enabled() in 1, 4, 16 and 64 interpreters at once: all their calls per second.
+require dirname(__DIR__) . '/helpers.php';
+
+// A round of so many processes, which begin and end together. $words: each; it is told when.
+function at_once($count, $words, $further = array())
+{
+    return function () use ($count, $words, $further) {
+        $start = hrtime(true) + 500e6 + $count * 60e6;
+        $end = $start + amount(1e9, 0.3e9);
+        $processes = $outputs = array();
+        for ($number = 0; $number < $count; $number++) {
+            $processes[] = proc_open(array_merge($words, array(sprintf('%d', $start), sprintf('%d', $end)), $further),
+                array(1 => array('pipe', 'w')), $pipes);
+            $outputs[] = $pipes[1];
+        }
+        $calls = 0;
+        foreach ($outputs as $number => $output) {
+            $calls += (int) stream_get_contents($output);
+            if (proc_close($processes[$number]) != 0) {
+                fail("not all of $count processes were there in time");
+            }
+        }
+        file_put_contents(TRACE_LOG, '');
+        return $calls / (($end - $start) / 1e9);
+    };
+}
+
+$interpreter = array_merge(interpreter(true), array(dirname(__DIR__) . '/count_calls.php', 'is_ipv6_enabled'));
+$candidates = array();
+$most = amount(64, 16);
+foreach (array_unique(array(1, 4, 16, $most)) as $count) {
+    $candidates[$count] = at_once($count, $interpreter);
+}
+$plain = array_merge(interpreter(false), array(dirname(__DIR__) . '/count_calls.php', 'plain_is_ipv6_enabled'));
+foreach (array(4, $most) as $count) {
+    $candidates["plain $count"] = at_once($count, $plain);
+    $candidates["bare $count"] = at_once($count, array(PROGRAMS . '/flag_file'), array('/home/embedded/library/CoreService/dat/ipv6Enabled'));
+}
+$samples = in_turn($candidates, amount(5, 1));
+ratio_row('4 interpreters', '1', 'calls/s', null, $samples[4], $samples[1]);
+// Four of them have filled the processors here; what more of them bring must not be less, but for what comes by chance.
+foreach (array_unique(array(16, $most)) as $count) {
+    ratio_row("$count interpreters", '4', 'calls/s', at_least(0.95), $samples[$count], $samples[4]);
+}
+// Where the rest goes: without the module, and without an interpreter.
+ratio_row("... $most interpreters in plain PHP", '4', 'calls/s', null, $samples["plain $most"], $samples['plain 4']);
+ratio_row("... the same system calls, by $most programs in C++", '4', 'calls/s', null, $samples["bare $most"], $samples['bare 4']);

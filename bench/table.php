@@ -1,0 +1,113 @@
+<?php
+// Shows what was measured: table.php heading | rows FILE | json FOLDER | markdown FOLDER [FILE]
+//
+// The last one puts the table into the file, between its two lines that say so; a file without those becomes the table.
+
+define('LINE', "%-54s %11s %11s  %-21s %-9s %s\n");
+
+// Three figures, whatever the size; the units that people read.
+function figure($number)
+{
+    if ($number === null) {
+        return '-';
+    }
+    $digits = $number == 0 ? 0 : max(0, 2 - (int) floor(log10(abs($number))));
+    return number_format(round($number, $digits), min($digits, 3), '.', '');
+}
+
+function quantity($number, $unit)
+{
+    if ($number === null) {
+        return '-';
+    }
+    $scales = array('ns' => array(array(1e9, 's'), array(1e6, 'ms'), array(1e3, 'us')),
+        'bytes' => array(array(1048576, 'MiB'), array(1024, 'KiB')));
+    foreach (isset($scales[$unit]) ? $scales[$unit] : array() as $scale) {
+        if (abs($number) >= $scale[0]) {
+            return figure($number / $scale[0]) . ' ' . $scale[1];
+        }
+    }
+    return figure($number) . ($unit == '' ? '' : " $unit");
+}
+
+// The number that is judged, and where the middle half of the rounds was.
+function judged($row)
+{
+    $show = function ($number) use ($row) {
+        return $row['judged'] == 'ratio' ? figure($number) : quantity($number, $row['unit']);
+    };
+    $number = $show($row[$row['judged']]);
+    return $row['rounds'] < 2 ? $number : "$number ({$show($row['spread'][0])} - {$show($row['spread'][1])})";
+}
+
+function target($row)
+{
+    if ($row['target'] === null) {
+        return '-';
+    }
+    list($sign, $number) = explode(' ', $row['target']);
+    return $sign . ' ' . ($row['judged'] == 'ratio' ? $number : quantity((float) $number, $row['unit']));
+}
+
+function verdict($row) { return $row['met'] === null ? '' : ($row['met'] ? 'met' : 'MISSED'); }
+
+function rows_of($file)
+{
+    $rows = array();
+    foreach (file($file, FILE_IGNORE_NEW_LINES | FILE_SKIP_EMPTY_LINES) as $line) {
+        $rows[] = json_decode($line, true, 16, JSON_THROW_ON_ERROR);
+    }
+    return $rows;
+}
+
+function all_rows($folder) { return array_merge(...array_values(array_map('rows_of', glob("$folder/*.rows")))); }
+
+// What the numbers depend on.
+function circumstances()
+{
+    preg_match('/^model name\s*: (.*)$/m', (string) file_get_contents('/proc/cpuinfo'), $processor);
+    return array('time' => gmdate('Y-m-d H:i:s') . ' UTC', 'processor' => isset($processor[1]) ? $processor[1] : php_uname('m'),
+        'processors' => substr_count(file_get_contents('/proc/cpuinfo'), "processor\t"), 'kernel' => php_uname('r'),
+        'interpreter' => PHP_VERSION, 'load' => round(sys_getloadavg()[0], 1), 'quick' => getenv('BENCH_QUICK') == 'yes');
+}
+
+function markdown($rows)
+{
+    echo "| What | Beside | Ours | Theirs | Ratio or difference (middle half) | Target | | `bench/run` |\n", str_repeat('|---', 8), "|\n";
+    foreach ($rows as $row) {
+        echo '| ', implode(' | ', array($row['what'], $row['beside_what'], quantity($row['ours'], $row['unit']),
+            quantity($row['beside'], $row['unit']), judged($row), target($row), verdict($row), "`{$row['name']}`")), " |\n";
+    }
+}
+
+switch ($argv[1]) {
+    case 'heading':
+        printf(LINE, 'what', 'ours', 'beside', 'ratio/difference', 'target', '');
+        break;
+    case 'rows':
+        foreach (rows_of($argv[2]) as $row) {
+            printf(LINE, $row['what'], quantity($row['ours'], $row['unit']), quantity($row['beside'], $row['unit']), judged($row),
+                target($row), verdict($row));
+        }
+        break;
+    case 'json':
+        echo json_encode(array('run' => circumstances(), 'rows' => all_rows($argv[2])),
+            JSON_PRETTY_PRINT | JSON_UNESCAPED_SLASHES | JSON_THROW_ON_ERROR), "\n";
+        break;
+    case 'markdown':
+        $facts = circumstances();
+        ob_start();
+        echo "{$facts['time']}; {$facts['processors']} processors ({$facts['processor']}), Linux {$facts['kernel']}, ",
+            "PHP {$facts['interpreter']}, load average {$facts['load']}.\n\n";
+        markdown(all_rows($argv[2]));
+        $table = ob_get_clean();
+        if (!isset($argv[3])) {
+            echo $table;
+            break;
+        }
+        $place = '/(^<!-- table -->\n).*(^<!-- end of the table -->$)/ms';
+        $text = (string) @file_get_contents($argv[3]);
+        $put = function ($lines) use ($table) { return "{$lines[1]}\n$table\n{$lines[2]}"; };
+        file_put_contents($argv[3], preg_match($place, $text) ? preg_replace_callback($place, $put, $text) : $table);
+        break;
+}
