@@ -6,8 +6,8 @@
 function plain_trace($message, $extra = '')
 {
     $time = microtime(true);
-    file_put_contents('/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log', sprintf("TRACE[%s.%03d]:%s:<%s>\n",
-        date('Y-m-d H:i:s', (int) $time), ($time - floor($time)) * 1000, $message, $extra), FILE_APPEND);
+    file_put_contents('/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log', sprintf("TRACE[%s.%03d %s]:%s:<%s>\n",
+        date('Y-m-d H:i:s', (int) $time), ($time - floor($time)) * 1000, date('O', (int) $time), $message, $extra), FILE_APPEND);
 }
 
 function plain_is_ipv6_enabled()
@@ -70,11 +70,37 @@ function plain_get_network_dns()
         'dnsSecondary' => isset($servers[1]) ? $servers[1] : '');
 }
 
+// What the module makes of 20 trap registrations for the page.
+function plain_registrations()
+{
+    $registrations = array();
+    for ($number = 0; $number < 20; $number++) {
+        $registration = new stdClass();
+        $registration->transport = 1;
+        $registration->ip = '192.0.2.1';
+        $registration->port = 162;
+        $registration->id = '00000001-00000002-00000003';
+        $registrations[] = $registration;
+    }
+    return $registrations;
+}
+
+// Calls of the module with arguments. SSL is off here.
+function with_arguments_unchanged_ssl() { set_ssl_settings(new stdClass(), false); }
+
+function with_arguments_trap_registration()
+{
+    create_snmp_trap_reg(new stdClass(), 1, '192.0.2.1', '162');
+    foreach (get_snmp_trap_regs(new stdClass()) as $registration) {
+        delete_snmp_trap_reg(new stdClass(), $registration->id);
+    }
+}
+
 if (basename($argv[0]) != basename(__FILE__)) {
     return; // for count_calls.php
 }
 $function = $argv[1];
-$arguments = preg_match('/^(is_|get_network_hostname|get_all_|plain_)/', $function) ? array() : array(new stdClass());
+$arguments = preg_match('/^(is_|get_network_hostname|get_all_|plain_|with_arguments_)/', $function) ? array() : array(new stdClass());
 $times = (int) $argv[2];
 call_user_func_array($function, $arguments); // the first call opens what stays open
 $start = hrtime(true);

@@ -6,7 +6,10 @@ define('CHECKOUT', dirname(__DIR__));
 define('PROGRAMS', CHECKOUT . '/build/bench');
 define('MODULE', CHECKOUT . '/build/network.so');
 define('TRACE_LOG', '/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log');
-define('ERRORS', '/tmp/bench.errors'); // where the errors of the last command are
+define('WORK', getenv('BENCH_WORK')); // the folder of this run alone
+define('ERRORS', WORK . '/errors'); // where the errors of the last command are
+define('DOOR', '/run/appmanager/door');
+define('DATABASE', '/home/embedded/library/CoreService/dat/management.db');
 define('QUICK', getenv('BENCH_QUICK') == 'yes');
 
 // The first number for a whole run, the second for a quick one.
@@ -63,6 +66,26 @@ function calls($function, $times)
 
 function program($name, ...$arguments) { return command(PROGRAMS . "/$name", ...array_map('strval', $arguments)); }
 
+// Measures as on a device, where the web service has root's rights and there is no door: the wrapper becomes the command.
+// Nobody else is in this appliance who would miss the door meanwhile.
+function as_on_a_device($measure)
+{
+    rename(DOOR, DOOR . '.away');
+    $result = $measure();
+    rename(DOOR . '.away', DOOR);
+    return $result;
+}
+
+function register_traps($count)
+{
+    $commands = 'DELETE FROM trap_registrations;';
+    for ($number = 1; $number <= $count; $number++) {
+        $commands .= "INSERT INTO trap_registrations (identifier, transport, address, port)"
+            . " VALUES (printf('%08x-%08x-%08x', $number, 2, 3), 1, '192.0.2.$number', 162);";
+    }
+    last_line(array('sqlite3', '-cmd', '.timeout 5000', DATABASE, $commands));
+}
+
 // Lets the candidates measure in turn, A B A B ..., and returns the samples of each. What comes first in a round changes, so
 // that no one always finds the other's caches.
 function in_turn($candidates, $rounds)
@@ -103,7 +126,19 @@ function ratio_row($what, $beside, $unit, $target, $ours, $theirs)
     row($what, $beside, $unit, $target, 'ratio', $ratios, $ours, $theirs);
 }
 
-// One row of two candidates of which the difference is judged, by medians: those of single rounds are mostly noise.
+// For candidates whose samples have no rounds in common: each of the one is set beside each of the other.
+function ratio_row_of_all_pairs($what, $beside, $unit, $target, $ours, $theirs)
+{
+    $ratios = array();
+    foreach ($ours as $one) {
+        foreach ($theirs as $other) {
+            $ratios[] = $one / $other;
+        }
+    }
+    row($what, $beside, $unit, $target, 'ratio', $ratios, $ours, $theirs);
+}
+
+// One row of two candidates. What is judged is their difference, round by round.
 function difference_row($what, $beside, $unit, $target, $ours, $theirs)
 {
     $differences = array_map(function ($one, $other) { return $one - $other; }, $ours, $theirs);
@@ -114,32 +149,37 @@ function difference_row($what, $beside, $unit, $target, $ours, $theirs)
 function value_row($what, $unit, $target, $ours) { row($what, '-', $unit, $target, 'value', $ours, $ours, array()); }
 
 // $judged: what the target is about, 'ratio', 'difference' or 'value'; $numbers: that, round by round. $target: null where
-// the number is only stated.
+// the number is only stated. Where the target lies within the middle half of the numbers, another run may see it otherwise.
 function row($what, $beside, $unit, $target, $judged, $numbers, $ours, $theirs)
 {
     $number = median($numbers);
-    $met = null;
+    $spread = spread($numbers);
+    $met = $is_close = null;
     if ($target !== null) {
-        $met = $target[0] == '<=' ? $number <= $target[1] : $number >= $target[1];
+        $meets = function ($number) use ($target) { return $target[0] == '<=' ? $number <= $target[1] : $number >= $target[1]; };
+        $met = $meets($number);
+        $is_close = $meets($spread[0]) != $meets($spread[1]);
     }
     echo json_encode(array('name' => basename($_SERVER['argv'][0], '.php'), 'what' => $what, 'unit' => $unit, 'ours' => median($ours),
         'ours_spread' => spread($ours), 'beside_what' => $beside, 'beside' => $theirs ? median($theirs) : null,
         'beside_spread' => $theirs ? spread($theirs) : null, 'judged' => $judged, $judged => $number,
-        'spread' => spread($numbers), 'rounds' => count($numbers), 'target' => $target === null ? null : implode(' ', $target),
-        'met' => $met), JSON_UNESCAPED_SLASHES), "\n";
+        'spread' => $spread, 'rounds' => count($ours), 'target' => $target === null ? null : implode(' ', $target), 'met' => $met,
+        'target_is_within_spread' => $is_close), JSON_UNESCAPED_SLASHES), "\n";
 }
 
-// The samples of Google Benchmark, whose repetitions take turns: name => nanoseconds of each. $pattern: the benchmarks.
-function google_samples($pattern, $unit = 'real_time', $mode = array())
+// The samples of Google Benchmark, which takes the repetitions of all in random order: name => nanoseconds of each.
+// $pattern: the benchmarks.
+function google_samples($pattern, $unit = 'real_time', $mode = array(), $repetitions = 11)
 {
+    $results = WORK . '/benchmark.json';
     $command = array_merge(array(PROGRAMS . '/parts'), $mode, array("--benchmark_filter=$pattern",
-        '--benchmark_format=console', '--benchmark_out=/tmp/bench.json', '--benchmark_out_format=json',
-        '--benchmark_enable_random_interleaving=true', '--benchmark_repetitions=' . amount(11, 5),
+        '--benchmark_format=console', "--benchmark_out=$results", '--benchmark_out_format=json',
+        '--benchmark_enable_random_interleaving=true', '--benchmark_repetitions=' . amount($repetitions, 5),
         '--benchmark_min_time=' . amount(0.05, 0.005)));
     last_line($command);
     file_put_contents(TRACE_LOG, '');
     $samples = array();
-    foreach (json_decode(file_get_contents('/tmp/bench.json'), true)['benchmarks'] as $one) {
+    foreach (json_decode(file_get_contents($results), true)['benchmarks'] as $one) {
         if ($one['run_type'] == 'iteration') {
             $samples[preg_replace('#/real_time$#', '', $one['run_name'])][] = $one[$unit];
         }

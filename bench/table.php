@@ -1,8 +1,10 @@
 <?php
-// Shows what was measured: table.php heading | rows FILE | json FOLDER | markdown FOLDER [FILE]
+// Shows what was measured: table.php heading | rows FILE | json FOLDER FILE | has_place FILE | markdown FOLDER FILE
 //
-// The last one puts the table into the file, between its two lines that say so; a file without those becomes the table.
+// The last one puts the table into the file, between its two lines that say so, or makes the file. It says whether a file
+// has a place for it, or is none yet, with has_place: others are left alone. Files are written whole or not at all.
 
+define('PLACE', '/(^<!-- table -->\n).*(^<!-- end of the table -->$)/ms');
 define('LINE', "%-54s %11s %11s  %-21s %-9s %s\n");
 
 // Three figures, whatever the size; the units that people read.
@@ -49,7 +51,13 @@ function target($row)
     return $sign . ' ' . ($row['judged'] == 'ratio' ? $number : quantity((float) $number, $row['unit']));
 }
 
-function verdict($row) { return $row['met'] === null ? '' : ($row['met'] ? 'met' : 'MISSED'); }
+function verdict($row)
+{
+    if ($row['met'] === null) {
+        return '';
+    }
+    return ($row['met'] ? 'met' : 'MISSED') . ($row['target_is_within_spread'] ? ' (within the spread)' : '');
+}
 
 function rows_of($file)
 {
@@ -60,15 +68,17 @@ function rows_of($file)
     return $rows;
 }
 
-function all_rows($folder) { return array_merge(...array_values(array_map('rows_of', glob("$folder/*.rows")))); }
+function all_rows($folder) { return array_merge(array(), ...array_values(array_map('rows_of', glob("$folder/*.rows")))); }
 
-// What the numbers depend on.
+// What the numbers depend on. The load is that of before: the measurements themselves are one.
 function circumstances()
 {
     preg_match('/^model name\s*: (.*)$/m', (string) file_get_contents('/proc/cpuinfo'), $processor);
     return array('time' => gmdate('Y-m-d H:i:s') . ' UTC', 'processor' => isset($processor[1]) ? $processor[1] : php_uname('m'),
         'processors' => substr_count(file_get_contents('/proc/cpuinfo'), "processor\t"), 'kernel' => php_uname('r'),
-        'interpreter' => PHP_VERSION, 'load' => round(sys_getloadavg()[0], 1), 'quick' => getenv('BENCH_QUICK') == 'yes');
+        'interpreter' => PHP_VERSION,
+        'load_before' => (float) getenv('BENCH_LOAD'), 'quick' => getenv('BENCH_QUICK') == 'yes',
+        'seconds' => time() - (int) getenv('BENCH_START'));
 }
 
 function markdown($rows)
@@ -78,6 +88,20 @@ function markdown($rows)
         echo '| ', implode(' | ', array($row['what'], $row['beside_what'], quantity($row['ours'], $row['unit']),
             quantity($row['beside'], $row['unit']), judged($row), target($row), verdict($row), "`{$row['name']}`")), " |\n";
     }
+}
+
+function has_place($file) { return !is_file($file) || filesize($file) == 0 || preg_match(PLACE, file_get_contents($file)); }
+
+// A full disk leaves the file as it was.
+function replace_file($file, $text)
+{
+    $file = is_link($file) ? realpath($file) : $file;
+    if (@file_put_contents("$file.new", $text) === strlen($text) && @rename("$file.new", $file)) {
+        return;
+    }
+    @unlink("$file.new");
+    fwrite(STDERR, "$file cannot be written.\n");
+    exit(1);
 }
 
 switch ($argv[1]) {
@@ -91,23 +115,20 @@ switch ($argv[1]) {
         }
         break;
     case 'json':
-        echo json_encode(array('run' => circumstances(), 'rows' => all_rows($argv[2])),
-            JSON_PRETTY_PRINT | JSON_UNESCAPED_SLASHES | JSON_THROW_ON_ERROR), "\n";
+        replace_file($argv[3], json_encode(array('run' => circumstances(), 'rows' => all_rows($argv[2])),
+            JSON_PRETTY_PRINT | JSON_UNESCAPED_SLASHES | JSON_THROW_ON_ERROR) . "\n");
         break;
+    case 'has_place':
+        exit(has_place($argv[2]) ? 0 : 1);
     case 'markdown':
         $facts = circumstances();
         ob_start();
-        echo "{$facts['time']}; {$facts['processors']} processors ({$facts['processor']}), Linux {$facts['kernel']}, ",
-            "PHP {$facts['interpreter']}, load average {$facts['load']}.\n\n";
+        echo "{$facts['time']}, after {$facts['seconds']} seconds; {$facts['processors']} processors ({$facts['processor']}), ",
+            "Linux {$facts['kernel']}, PHP {$facts['interpreter']}, load average before {$facts['load_before']}.\n\n";
         markdown(all_rows($argv[2]));
         $table = ob_get_clean();
-        if (!isset($argv[3])) {
-            echo $table;
-            break;
-        }
-        $place = '/(^<!-- table -->\n).*(^<!-- end of the table -->$)/ms';
         $text = (string) @file_get_contents($argv[3]);
         $put = function ($lines) use ($table) { return "{$lines[1]}\n$table\n{$lines[2]}"; };
-        file_put_contents($argv[3], preg_match($place, $text) ? preg_replace_callback($place, $put, $text) : $table);
+        replace_file($argv[3], preg_match(PLACE, $text) ? preg_replace_callback(PLACE, $put, $text) : $table);
         break;
 }

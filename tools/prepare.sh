@@ -4,9 +4,10 @@
 #   prepare CHECKOUT to-run     what the software appliance needs
 #   prepare CHECKOUT to-test    what the tests need, too
 #   prepare CHECKOUT to-bench   what bench/run needs, besides what the software appliance does
+#   prepare CHECKOUT for-device [-DOPTION=VALUE...]   what goes onto a device, with options for CMake
 #
-# What was built is in CHECKOUT/build. Each returns one of the launcher's exit statuses, after it has said on standard
-# error why.
+# What was built is in CHECKOUT/build, and what is for a device in CHECKOUT/build-powerpc. Each returns one of the
+# launcher's exit statuses, after it has said on standard error why.
 
 # shellcheck source=../appliance/launcher/exit_statuses.sh
 source "${BASH_SOURCE[0]%/*}/../appliance/launcher/exit_statuses.sh"
@@ -16,6 +17,7 @@ PATH=$PATH:/usr/sbin:/sbin
 
 prepare() {
   local checkout=$1 purpose=$2 reason
+  local -a cmake_options=("${@:3}")
   reason=$({ mkdir -p "$checkout/build" && : >>"$checkout/build/.prepare"; } 2>&1) || {
     echo "The folder $checkout/build cannot be written: ${reason##*: }. Copy the checkout to a folder that you may write to." >&2
     return "$STATUS_STATE"
@@ -32,7 +34,11 @@ prepare() {
 
 install_missing_packages() {
   local -a lists=("$1/tools/packages-to-run") missing as_root=()
-  [[ $2 == to-run ]] || lists+=("$1/tools/packages-$2")
+  case $2 in
+    to-run) ;;
+    for-device) lists=("$1/tools/packages-for-device") ;;
+    *) lists+=("$1/tools/packages-$2") ;;
+  esac
   mapfile -t missing < <(comm -23 <(sed -e 's/#.*//' -e 's/ //g' -e '/^$/d' "${lists[@]}" | sort) \
     <(installed_packages | sort -u))
   [[ ${#missing[@]} -gt 0 ]] || return 0
@@ -73,14 +79,26 @@ build() {
   local -a targets=(software_appliance)
   [[ $2 != to-bench ]] || targets+=(bench)
   forget_foreign_builds "$1"
-  if [[ $2 != to-test ]]; then
-    [[ -e $folder/CMakeCache.txt ]] || configure "$1" -D WITH_TESTS=OFF || return
-    [[ $2 != to-bench ]] || grep -qx 'WITH_BENCH:BOOL=ON' "$folder/CMakeCache.txt" || configure "$1" -D WITH_BENCH=ON || return
+  if [[ $2 == for-device ]]; then
+    build_for_device "$1"
+  elif [[ $2 != to-test ]]; then
+    [[ -e $folder/CMakeCache.txt ]] || configure "$1" default -D WITH_TESTS=OFF || return
+    [[ $2 != to-bench ]] || grep -qx 'WITH_BENCH:BOOL=ON' "$folder/CMakeCache.txt" || configure "$1" default -D WITH_BENCH=ON || return
     compile "${targets[@]}"
   else
-    grep -qx 'WITH_TESTS:BOOL=ON' "$folder/CMakeCache.txt" 2>/dev/null || configure "$1" -D WITH_TESTS=ON || return
+    grep -qx 'WITH_TESTS:BOOL=ON' "$folder/CMakeCache.txt" 2>/dev/null || configure "$1" default -D WITH_TESTS=ON || return
     compile
   fi
+}
+
+build_for_device() {
+  local folder=$1/build-powerpc log=$1/build/build-powerpc.log
+  local -a new=()
+  [[ -e $folder/CMakeCache.txt ]] || new=(-D WITH_TESTS=OFF)
+  if [[ ${#new[@]} -gt 0 || ${#cmake_options[@]} -gt 0 ]]; then
+    configure "$1" powerpc ${new[@]+"${new[@]}"} ${cmake_options[@]+"${cmake_options[@]}"} || return
+  fi
+  compile device
 }
 
 # What was built before the checkout was copied or moved knows the places where it was: it would be built there, or
@@ -95,11 +113,12 @@ forget_foreign_builds() {
   done
 }
 
+# configure CHECKOUT PRESET OPTION...
 configure() {
-  local checkout=$1
-  shift
+  local checkout=$1 preset=$2
+  shift 2
   [[ -e $folder/CMakeCache.txt ]] || echo "Building in $folder" >&2
-  (cd "$checkout" && cmake --preset default "$@") >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+  (cd "$checkout" && cmake --preset "$preset" "$@") >"$log" 2>&1 || { cat "$log" >&2; return 1; }
 }
 
 # compile [TARGET...]

@@ -54,8 +54,10 @@ install_program() {
     mkdir -p "${PHP_CONFIGURATION_DIRS[@]/#/$root}" "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat,etc} \
       "$root$WEB_SERVER"/{conf/extra,logs} "${PAGES_FOLDERS[@]/#/$root$WEB_SERVER/}" || return
   for directory in "${PHP_CONFIGURATION_DIRS[@]}"; do
-    printf '%s\n' 'extension=network.so' '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
-      >"$root$directory/$MODULE_CONFIGURATION" || return
+    # A link of that name would lead out of the root.
+    rm -f "$root$directory/$MODULE_CONFIGURATION" &&
+      printf '%s\n' 'extension=network.so' '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
+        >"$root$directory/$MODULE_CONFIGURATION" || return
   done
   install_changed 755 "$root$APP_MANAGER/bin" "${scripts[@]}" "${APP_MANAGER_PROGRAMS[@]/#/$build/}" &&
     install_changed 755 "$root$LIBRARY" "$source/appliance/device/scripts/$ELSEWHERE" &&

@@ -101,7 +101,7 @@ _private_root_prepare() {
 # longer than what it does.
 _private_root_place() {
   local root=$1 layers=$2 path mounts=''
-  local -a copied=() directories=() made=()
+  local -a copied=() directories=() made=() unprepared=()
   shift 2
   IFS= read -r -d '' mounts </proc/self/mountinfo
   for path; do
@@ -111,6 +111,7 @@ _private_root_place() {
       copied+=("$path")
     elif [[ -d $path ]]; then
       made+=("$root$path")
+      [[ -e $layers/upper$path ]] || unprepared+=("$path")
       _private_root_is_just_empty "$path" || directories+=("$path")
     elif [[ -e $layers/upper$path ]]; then
       cp "$layers/upper$path" "$root$path" || return
@@ -119,9 +120,22 @@ _private_root_place() {
     fi
   done
   [[ ${#made[@]} == 0 ]] || mkdir -p "${made[@]}" || return
+  [[ ${#unprepared[@]} == 0 ]] || _private_root_keep_rights "${unprepared[@]}" || return
   [[ ${#copied[@]} == 0 ]] ||
     cp -P --preserve=mode,timestamps -t "$root${copied[0]%/*}/" "${copied[@]}" || return
   [[ ${#directories[@]} == 0 ]] || _private_root_place_directories "$root" "$layers" "${directories[@]}"
+}
+
+# _private_root_keep_rights PATH...: of directories that mkdir does not make like that. An overlay's are those of its upper
+# layer. An owner that the caller's namespace does not know cannot be kept.
+_private_root_keep_rights() {
+  local mode owner path
+  while read -r -d '' mode owner path; do
+    [[ $mode.$owner != 755.0:0 ]] || continue
+    mkdir -p "$layers/upper$path" || return
+    ! _private_root_has_all_users || chown "$owner" "$root$path" "$layers/upper$path" || return
+    chmod "$mode" "$root$path" "$layers/upper$path" || return
+  done < <(stat --printf '%a %u:%g %n/\0' "$@")
 }
 
 # Nothing is there that could be laid over. What is mounted there may fill by itself.

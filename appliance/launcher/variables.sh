@@ -4,6 +4,7 @@
 
 # Set by launch, from its options:
 export APPLIANCE_BUILD=${APPLIANCE_BUILD-}       # the folder of what was built
+export APPLIANCE_WORK=${APPLIANCE_WORK-}         # the folder in which others are mounted
 export APPLIANCE_STATE=${APPLIANCE_STATE-}       # the folder that is /home/embedded; none: it goes with the appliance
 export APPLIANCE_PORT=${APPLIANCE_PORT-}         # where the machine has the web service, at 127.0.0.1; none: nowhere
 export APPLIANCE_TLS_PORT=${APPLIANCE_TLS_PORT-} # the same by HTTPS

@@ -14,6 +14,7 @@ constexpr const char* Log = "/home/embedded/library/HTTPService/lighttpd/logs/ph
 void writeLine(const char* message) {
   static std::time_t second = 0;
   static char date[64];
+  static char zone[16];
   std::timespec now = {};
   clock_gettime(CLOCK_REALTIME, &now);
   if (now.tv_sec != second) {
@@ -21,10 +22,11 @@ void writeLine(const char* message) {
     second = now.tv_sec;
     localtime_r(&second, &parts);
     std::strftime(date, sizeof(date), "%Y-%m-%d %H:%M:%S", &parts);
+    std::strftime(zone, sizeof(zone), "%z", &parts);
   }
   char line[256];
-  const int length =
-      std::snprintf(line, sizeof(line), "TRACE[%s.%03ld]:%s:<>\n", date, now.tv_nsec / 1000000, message);
+  const int length = std::snprintf(line, sizeof(line), "TRACE[%s.%03ld %s]:%s:<>\n", date,
+                                   now.tv_nsec / 1000000, zone, message);
   bare::appendLine(Log, line, static_cast<std::size_t>(length));
 }
 

@@ -5,7 +5,7 @@ require dirname(__DIR__) . '/helpers.php';
 
 function seconds_until_it_answers()
 {
-    $state = sys_get_temp_dir() . '/bench.' . getmypid();
+    $state = WORK . '/state';
     $socket = stream_socket_server('tcp://127.0.0.1:0');
     $port = (int) substr(strrchr(stream_socket_get_name($socket, false), ':'), 1);
     fclose($socket);

@@ -2,8 +2,8 @@
 // Loading the module, beside the interpreter without it: time and memory of the process.
 require dirname(__DIR__) . '/helpers.php';
 
-$times = amount(40, 5);
-$rounds = amount(15, 3);
+$times = amount(10, 5);
+$rounds = amount(41, 3);
 $samples = in_turn(array(program('commands', $times, ...interpreter(true), ...array('-r', ';')),
     program('commands', $times, ...interpreter(false), ...array('-r', ';'))), $rounds);
 difference_row('loading the module: time', 'the interpreter without it', 'ns', at_most(1e6), $samples[0], $samples[1]);

@@ -2,37 +2,42 @@
 // Functions that ask the management services, beside bare SQLite reads of the same rows.
 require dirname(__DIR__) . '/helpers.php';
 
-define('DATABASE', '/home/embedded/library/CoreService/dat/management.db');
-$times = amount(5000, 500);
+$times = amount(3000, 500);
 $rounds = amount(15, 3);
 $ssl = array('SELECT ssl_enabled FROM settings');
 $snmp = array('SELECT version FROM snmp_versions ORDER BY version', 'SELECT auth_traps_enabled FROM settings',
     'SELECT read_community FROM settings');
 $traps = array('SELECT identifier, transport, address, port FROM trap_registrations ORDER BY number');
 
-// Beside the rows, and beside the rows and as many bare lines as the function writes into the trace and the error log.
+// How many lines a call writes into the trace and into the error log.
+function lines_of($function)
+{
+    file_put_contents(TRACE_LOG, '');
+    calls($function, 1)(); // which calls twice
+    return array((int) (count(file(TRACE_LOG)) / 2), (int) (count(file(ERRORS)) / 2));
+}
+
+function in_words($lines, $errors) { return "$lines bare lines of the trace" . ($errors ? ", $errors of the error log" : ''); }
+
+// Beside the rows, and beside the rows and as many bare lines as the function writes.
 function beside_rows($what, $function, $queries)
 {
     global $times, $rounds;
-    file_put_contents(TRACE_LOG, '');
-    calls($function, 1)(); // which calls twice
-    $lines = (int) (count(file(TRACE_LOG)) / 2);
-    $errors = (int) (count(file(ERRORS)) / 2);
+    list($lines, $errors) = lines_of($function);
     $samples = in_turn(array(calls($function, $times), program('rows_of_sqlite', $times, 0, 0, ...$queries),
         program('rows_of_sqlite', $times, $lines, $errors, ...$queries)), $rounds);
     ratio_row($what, 'SQLite reads', 'ns', at_most(1.3), $samples[0], $samples[1]);
-    ratio_row("... $what", "SQLite reads, $lines bare lines of the trace" . ($errors ? ", $errors of the error log" : ''), 'ns', null, $samples[0], $samples[2]);
+    ratio_row("... $what", 'SQLite reads, ' . in_words($lines, $errors), 'ns', null, $samples[0], $samples[2]);
     return $samples[0];
 }
 
-function register_traps($count)
+// Beside all that the function asks of the kernel, and SQLite.
+function beside_the_same($what, $function, $times, $queries, $in_words)
 {
-    $commands = 'DELETE FROM trap_registrations;';
-    for ($number = 1; $number <= $count; $number++) {
-        $commands .= "INSERT INTO trap_registrations (identifier, transport, address, port)"
-            . " VALUES (printf('%08x-%08x-%08x', $number, 2, 3), 1, '192.0.2.$number', 162);";
-    }
-    last_line(array('sqlite3', '-cmd', '.timeout 5000', DATABASE, $commands));
+    global $rounds;
+    list($lines, $errors) = lines_of($function);
+    compare($what, "$in_words, " . in_words($lines, $errors), 'ns', at_most(1.25), calls($function, $times),
+        program('rows_of_sqlite', $times, $lines, $errors, ...$queries), $rounds);
 }
 
 beside_rows('get_ssl_settings()', 'get_ssl_settings', $ssl);
@@ -42,9 +47,30 @@ foreach (array(0, 4, 5, 20) as $count) {
     register_traps($count);
     $samples[$count] = beside_rows("get_snmp_trap_regs(), $count", 'get_snmp_trap_regs', $traps);
 }
+// Where the time of 20 goes: reading them by the management library, and making the page's values of them.
+compare('... 20 trap registrations by the management library', 'SQLite reads', 'ns', null, program('registrations', $times),
+    program('rows_of_sqlite', $times, 0, 0, ...$traps), $rounds);
+compare('... 20 objects of four properties in PHP', 'get_snmp_trap_regs(), 20', 'ns', null, calls('plain_registrations', $times),
+    calls('get_snmp_trap_regs', $times), $rounds);
 register_traps(0);
 // Linear: what one registration more costs from 5 to 20, beside what it costs from 0 to 5.
 $slope = function ($from, $to) use ($samples) {
     return (median($samples[$to]) - median($samples[$from])) / ($to - $from);
 };
 ratio_row('one trap registration more, 5 to 20', '0 to 5', 'ns', at_most(1.3), array($slope(5, 20)), array($slope(0, 5)));
+
+// Changes that run no command.
+beside_the_same('set_ssl_settings(), unchanged', 'with_arguments_unchanged_ssl', $times, $ssl, 'SQLite reads');
+$change = function ($operation, $values, ...$queries) {
+    return array_merge(array('BEGIN IMMEDIATE'), $queries, array('INSERT INTO audit (user, operation, "values", result)'
+        . " VALUES ('', '$operation', '$values', 'stored')", 'COMMIT', 'COPY'));
+};
+$place = 'transport 1, address 192.0.2.1, port 162';
+$id = '00000001-00000002-00000003';
+last_line(array('sqlite3', '-cmd', '.timeout 5000', DATABASE, 'DELETE FROM audit'));
+beside_the_same('create_snmp_trap_reg(), get_, delete_', 'with_arguments_trap_registration', amount(20, 3),
+    array_merge($change('createTrapRegistration', "$place, id $id", 'SELECT count(*) FROM trap_registrations',
+        'SELECT identifier, address FROM trap_registrations WHERE transport = 1 AND port = 162', 'INSERT INTO trap_registrations'
+        . " (identifier, transport, address, port) VALUES ('$id', 1, '192.0.2.1', 162)"),
+        $traps, $change('deleteTrapRegistration', "id $id", "DELETE FROM trap_registrations WHERE identifier = '$id'")),
+    'the same changes and copies by SQLite');

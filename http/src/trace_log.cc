@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr const char* LogFile = "/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log";
 constexpr const char* Level = "TRACE";
 constexpr mode_t ReadAndWriteForAll = 0666;  // less the process's mask
 
@@ -17,7 +16,7 @@ const char* orNull(const char* text) { return text == nullptr ? "NULL" : text; }
 
 // One write on a descriptor in append mode: lines of concurrent writers cannot mix.
 void appendToLog(const std::string& line) {
-  const int log = open(LogFile, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, ReadAndWriteForAll);
+  const int log = open(TraceLogFile, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, ReadAndWriteForAll);
   if (log < 0) return;
   while (write(log, line.data(), line.size()) < 0 && errno == EINTR) {
   }

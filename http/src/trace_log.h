@@ -4,6 +4,8 @@
 
 #include <string>
 
+constexpr const char* TraceLogFile = "/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log";
+
 // LEVEL[time]:message:<extra> and a line end. A null text is written as NULL.
 std::string traceLine(const std::string& level, const char* message, const char* extra);
 

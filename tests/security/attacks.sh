@@ -43,7 +43,7 @@ header() { lan curl --silent --insecure --output /dev/null --max-time 10 --dump-
 # switch_https on|off, until the LAN sees it.
 switch_https() {
   if [[ $1 == on ]]; then does set_ssl_settings true; else does set_ssl_settings false; fi
-  await 10 https_is "$1"
+  await 60 https_is "$1"
   if [[ $1 == on ]]; then WEB=https://127.0.0.1; else WEB=http://127.0.0.1; fi
 }
 https_is() { if [[ $1 == on ]]; then [[ $(status_of "https://$(address)/") == 200 ]]; else [[ $(status_of "https://$(address)/") == 000 ]]; fi; }

@@ -52,6 +52,13 @@ function are_agent_settings($answer) {
                     '"community_name":"(public|soak\d+x\d+)"\}$/', json_encode($answer)) == 1;
 }
 
+// Servers and port of one change each.
+function is_overview($answer) {
+  $servers = (object)['dnsPrimary' => $answer->dnsPrimary, 'dnsSecondary' => $answer->dnsSecondary];
+  $port = ['AutoNegotiate' => $answer->AutoNegotiate, 'Speed' => $answer->Speed, 'Duplex' => $answer->Duplex];
+  return is_host_name($answer->hostname) && are_servers($servers) && in_array(json_encode($port), PORTS);
+}
+
 function are_ipv4_settings($answer) {
   return is_host_name($answer->hostname) &&
          preg_match('/^\{"hostname":"[^"]*","dhcpEnabled":true,"ip":"10\.20\.0\.\d+","gateway":"10\.20\.0\.1","netmask":"255\.255\.255\.0"\}$/',
@@ -69,7 +76,7 @@ function read_something() {
     case 5: $answer = get_snmp_settings($session); return right('get_snmp_settings', $answer, are_agent_settings($answer));
     case 6: $answer = is_ipv6_enabled(); return right('is_ipv6_enabled', $answer, $answer === false);
     case 7: $answer = get_ssl_settings($session); return right('get_ssl_settings', $answer, json_encode($answer) == '{"isEnabled":false,"port":443,"cipher":"RSA"}');
-    case 8: $answer = get_fw_settings($session); return right('get_fw_settings', $answer, is_host_name($answer->hostname));
+    case 8: $answer = get_fw_settings($session); return right('get_fw_settings', $answer, is_overview($answer));
     default: $answer = get_snmp_trap_regs($session); return right('get_snmp_trap_regs', $answer, are_receivers($answer));
   }
 }

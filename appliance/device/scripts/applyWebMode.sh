@@ -26,7 +26,7 @@ RENEWED_BEFORE=2592000 # seconds before its end
 
 # The names and addresses that the certificate is for, in openssl's notation.
 certificate_names() {
-  read -r host </proc/sys/kernel/hostname
+  read_host_name host
   printf 'DNS:%s,DNS:localhost,IP:127.0.0.1' "$host"
   ip -oneline address show scope global | while read -r _ _ _ address _; do
     printf ',IP:%s' "${address%/*}"

@@ -122,3 +122,15 @@ read_line() {
   set_variable "$1" "${3-}"
   [ ! -f "$2" ] || [ ! -r "$2" ] || IFS= read -r "$1" <"$2"
 }
+
+# read_host_name VARIABLE: the one in force. The shell reads byte after byte, and the kernel may get another name in between:
+# only what was read twice alike is one name.
+read_host_name() {
+  host_name_again=
+  read_line "$1" /proc/sys/kernel/hostname
+  read_line host_name_again /proc/sys/kernel/hostname
+  while eval "[ \"\$$1\" != \"\$host_name_again\" ]"; do
+    set_variable "$1" "$host_name_again"
+    read_line host_name_again /proc/sys/kernel/hostname
+  done
+}

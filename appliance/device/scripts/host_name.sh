@@ -8,7 +8,7 @@ apply_host_name() {
   [ -n "$host_name" ] || return 0
   hostname "$host_name" || return
   # The command passes over most of what the kernel can have against it.
-  read_line name_in_force /proc/sys/kernel/hostname
+  read_host_name name_in_force
   [ "$name_in_force" = "$host_name" ] || return
   # The web server takes it up within a minute (housekeeping.sh): starting anew it would cut off whoever is just connecting.
   # One that starts later asks for the name itself. What it cannot be told is no reason for another name.

@@ -38,7 +38,7 @@ print_static() {
 print_host_name() {
   name=
   ! in_place || read_setting name hostname
-  [ -n "$name" ] || read_line name /proc/sys/kernel/hostname
+  [ -n "$name" ] || read_host_name name
   printf '%s\n' "$name"
 }
 

@@ -32,10 +32,20 @@ ignores_interrupts() {
 
 # The one of before that last ended so is not waited for any longer.
 replace_server() {
+  again=
   [ -z "$leaving" ] || kill -TERM "$leaving" 2>/dev/null
   leaving=$server tries=$TRIES
   if ignores_interrupts "$leaving"; then kill -TERM "$leaving"; else kill -INT "$leaving"; fi 2>/dev/null
   start_server
+}
+
+# A signal may come in between, and start or end one itself: there is never one of which this does not know.
+keep_serving() {
+  keeping=yes
+  [ -n "$ending" ] || kill -0 "$server" 2>/dev/null || start_server
+  keeping=
+  [ -z "$ending" ] || kill -TERM "$server" 2>/dev/null
+  [ -z "$again" ] || replace_server
 }
 
 # Those that have started anew still answer what was under way, as children of the one that they have started.
@@ -44,12 +54,12 @@ answering() {
 }
 
 [ $# = 1 ] || refuse_call 'CONFIGURATION' "$@"
-configuration=$1 ending='' leaving='' tries=0 status=1
+configuration=$1 ending='' leaving='' keeping='' again='' tries=0 status=1
 [ -n "$program" ] || fail 'there is no program lighttpd'
 [ "$(ulimit -n)" = unlimited ] || [ "$(ulimit -n)" -ge "$OPEN_FILES" ] || ulimit -n "$OPEN_FILES" 2>/dev/null
 # A second one that comes while it starts anew would end it.
 trap 'tries=$TRIES; kill -USR1 "$server"' USR1
-trap '[ -n "$ending" ] || replace_server' HUP
+trap '[ -n "$ending" ] || if [ -n "$keeping" ]; then again=yes; else replace_server; fi' HUP
 trap 'ending=yes; kill -TERM "$server" $leaving $(answering) 2>/dev/null' TERM
 : >"$RUN/webServer.names" # as web_server.sh has it
 start_server
@@ -63,7 +73,7 @@ while :; do
   if [ -n "$ending" ] || [ "$tries" -le 0 ]; then break; fi
   tries=$((tries - 1))
   sleep 0.05
-  start_server
+  keep_serving
 done
 rm -f "$PROCESS"
 exit "$status"

@@ -10,7 +10,7 @@ NAMES_TAKEN=$RUN/webServer.names # as old as the names that the web server has t
 
 # Prints the expression of the names that a request may be for: the appliance's, also within a domain, and further ones.
 own_names() {
-  read_line name /proc/sys/kernel/hostname
+  read_host_name name
   printf '%s(\\.[a-z0-9.-]+)?' "$(as_expression "$name")"
   [ -r "$FURTHER_NAMES" ] || return 0
   while IFS= read -r name || [ -n "$name" ]; do

@@ -16,20 +16,20 @@ function note_warning($level, $message)
 $functions = get_extension_funcs('network');
 header('Content-Type: application/json');
 if (!isset($_REQUEST['function'])) {
-    echo json_of($functions), "\n";
+    echo encoded($functions), "\n";
 } elseif (!in_array($_REQUEST['function'], $functions)) {
     header('HTTP/1.1 404 Not Found');
-    echo json_of('no function of the module: ' . $_REQUEST['function']), "\n";
+    echo encoded('no function of the module: ' . $_REQUEST['function']), "\n";
 } else {
-    $arguments = value_of_json($_REQUEST['arguments']);
+    $arguments = decoded($_REQUEST['arguments']);
     if (!is_array($arguments)) {
         header('HTTP/1.1 400 Bad Request');
-        echo json_of('no list of arguments: ' . $_REQUEST['arguments']), "\n";
+        echo encoded('no list of arguments: ' . $_REQUEST['arguments']), "\n";
         exit;
     }
     set_error_handler('note_warning');
     $answer = new stdClass();
     $answer->answer = call_user_func_array($_REQUEST['function'], $arguments);
     $answer->warnings = $warnings;
-    echo json_of($answer), "\n";
+    echo encoded($answer), "\n";
 }

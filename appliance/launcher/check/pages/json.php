@@ -1,5 +1,15 @@
 <?php
-/* As much of JSON as the table of the check has, for every engine: not each brings it. */
+/* JSON, also for an engine that does not bring it: then as much of it as the table of the check has. */
+
+function encoded($value)
+{
+    return function_exists('json_encode') ? json_encode($value, JSON_UNESCAPED_SLASHES) : json_of($value);
+}
+
+function decoded($text)
+{
+    return function_exists('json_decode') ? json_decode($text) : value_of_json($text);
+}
 
 /* Lists are arrays, objects have the class stdClass. */
 function json_of($value)
@@ -26,7 +36,7 @@ function json_of($value)
 /* The value that the text stands for; false for a text that is none. */
 function value_of_json($text)
 {
-    $tokens = preg_split('/("(?:[^"\\\\]|\\\\.)*"|[][{},:])|\s+/', $text, -1, PREG_SPLIT_DELIM_CAPTURE | PREG_SPLIT_NO_EMPTY);
+    $tokens = preg_split('/("(?>(?>[^"\\\\]+|\\\\.)*)"|[][{},:])|\s+/s', $text, -1, PREG_SPLIT_DELIM_CAPTURE | PREG_SPLIT_NO_EMPTY);
     $place = 0;
     $value = value_at($tokens, $place);
     return $place == count($tokens) ? $value : false;

@@ -1,6 +1,6 @@
-// output_of_64_mib runtime|bare time|memory COMMAND...: reads the output of the command, 64 MiB, by Runtime
-// or into a buffer that was reserved for it. Prints the nanoseconds, or by how many bytes the process grew at
-// most.
+// long_output runtime|bare|growing time|memory MIB COMMAND...: reads the output of the command, so many MiB,
+// by Runtime, into a buffer that was reserved for it, or into a text that grows. Prints the nanoseconds, or
+// by how many bytes the process grew at most.
 #include <cstring>
 #include <string>
 
@@ -8,8 +8,6 @@
 #include "utility/Runtime.h"
 
 namespace {
-
-constexpr std::size_t Size = std::size_t{64} << 20U;
 
 // Of this program: what getrusage() says is also that of the one that was here before it.
 long mostMemory() {
@@ -32,14 +30,14 @@ std::size_t readByRuntime(char** words) {
   return Runtime::getInstance()->execute(command, output, waitStatus) ? output.size() : 0;
 }
 
-std::size_t readBare(char** words) {
+std::size_t readBare(char** words, std::size_t size) {
   std::string buffer;
-  buffer.reserve(Size + 1);
+  buffer.reserve(size + 1);
   const bare::Command command = bare::start(words);
   std::size_t length = 0;
   ssize_t piece = 0;
   do {
-    piece = read(command.output, buffer.data() + length, Size - length);
+    piece = read(command.output, buffer.data() + length, size - length);
     if (piece > 0) length += static_cast<std::size_t>(piece);
   } while (piece > 0);
   return bare::finish(command) == 0 ? length : 0;
@@ -57,18 +55,19 @@ std::size_t readGrowing(char** words) {
   return bare::finish(command) == 0 ? text.size() : 0;
 }
 
-std::size_t readBy(const std::string& way, char** words) {
+std::size_t readBy(const std::string& way, char** words, std::size_t size) {
   if (way == "runtime") return readByRuntime(words);
-  return way == "growing" ? readGrowing(words) : readBare(words);
+  return way == "growing" ? readGrowing(words) : readBare(words, size);
 }
 
 }  // namespace
 
 int main(int count, char** arguments) {
-  if (count < 4) return 2;
+  if (count < 5) return 2;
+  const auto size = static_cast<std::size_t>(std::atoi(arguments[3])) << 20U;
   const long before = mostMemory();
   const double start = bare::nanoseconds();
-  if (readBy(arguments[1], arguments + 3) != Size) return 1;
+  if (readBy(arguments[1], arguments + 4, size) != size) return 1;
   const double time = bare::nanoseconds() - start;
   std::printf("%.1f\n",
               std::strcmp(arguments[2], "time") == 0 ? time : static_cast<double>(mostMemory() - before));

@@ -1,0 +1,100 @@
+# shellcheck shell=bash
+# The archive for a device: the module, the pages with what they ask of the device, a program that looks at the device,
+# and checksums. To be sourced by ./package, which sets CHECKOUT, PACKAGES and options.
+
+# shellcheck source=../../appliance/launcher/install.sh
+source "$CHECKOUT/appliance/launcher/install.sh"
+
+DEVICE_BUILD=$CHECKOUT/build-powerpc
+# Scripts of the device that the pages call, that its start calls, and that somebody on its shell does. What those source goes
+# with them.
+DEVICE_SCRIPTS=(auditTrail.sh certificateFacts.sh deviceFacts.sh probeAddress.sh testTrapResults.sh trialWatch.sh
+  trialAtStart.sh firstPassword.sh resetPassword.sh)
+# Two of them ask this program about addresses. It is not there when the vendor's libraries were built with.
+JUDGE=checkSettings
+ASK_JUDGE=(lookUpName.sh pingAddress.sh)
+
+# package_device -DOPTION=VALUE...
+package_device() {
+  local version name work
+  version=$(sed -n 's/^project(network VERSION \([0-9.]*\) .*/\1/p' "$CHECKOUT/CMakeLists.txt")
+  name=network-$version-powerpc
+  prepare "$CHECKOUT" for-device "$@" || exit
+  make_work_folder
+  work=$WORK_FOLDER
+  must "$STATUS_STATE" 'The package cannot be put together' collect_device_files "$work/$name"
+  must "$STATUS_STATE" 'The checksums cannot be written' write_checksums "$work/$name"
+  must "$STATUS_STATE" 'The archive cannot be written' write_archive "$work" "$name"
+  # The one of before stays until the new one is whole.
+  must "$STATUS_STATE" 'The archive cannot be put in place' mv -f "$work/$name.tar.gz" "$PACKAGES/$name.tar.gz"
+  echo "$PACKAGES/$name.tar.gz"
+}
+
+# Sets WORK_FOLDER to a new folder beside the packages, which goes when this process ends. One that was killed has left its own.
+make_work_folder() {
+  local reason left
+  reason=$(mkdir -p "$PACKAGES" 2>&1 && mktemp -d "$PACKAGES/.work.$$.XXXXXX" 2>&1) ||
+    fail "$STATUS_STATE" "The folder $PACKAGES cannot be written: ${reason##*: }."
+  WORK_FOLDER=$reason
+  trap 'rm -rf "$WORK_FOLDER"' EXIT
+  trap 'exit 130' INT TERM HUP
+  for left in "$PACKAGES"/.work.*; do
+    [[ ! $left =~ \.work\.([0-9]+)\.[^/]*$ || -e /proc/${BASH_REMATCH[1]} ]] || rm -rf "$left"
+  done
+}
+
+# collect_device_files FOLDER: below "files" is what goes to the same place on the device.
+collect_device_files() {
+  local folder=$1 files=$1/files strip part
+  local -a scripts=("${DEVICE_SCRIPTS[@]}") programs=()
+  strip=$(sed -n 's/^CMAKE_STRIP:FILEPATH=//p' "$DEVICE_BUILD/CMakeCache.txt")
+  [[ ! -e $DEVICE_BUILD/$JUDGE ]] || { programs=("$DEVICE_BUILD/$JUDGE") && scripts+=("${ASK_JUDGE[@]}"); }
+  mapfile -t scripts < <(with_what_they_source "${scripts[@]}")
+  mkdir -p "$folder" "$files$APP_MANAGER/bin" "$files$WEB_SERVER" &&
+    install -m 644 "$CHECKOUT/tools/package/device-README" "$folder/README" &&
+    install -m 755 "${scripts[@]/#/$CHECKOUT/appliance/device/scripts/}" "$files$APP_MANAGER/bin" &&
+    install --strip --strip-program "${strip:-strip}" -m 644 "$DEVICE_BUILD/network.so" "$folder" &&
+    install --strip --strip-program "${strip:-strip}" -m 755 "$DEVICE_BUILD/verify" "$folder" || return
+  [[ ${#programs[@]} == 0 ]] ||
+    install --strip --strip-program "${strip:-strip}" -m 755 "${programs[@]}" "$files$APP_MANAGER/bin" || return
+  for part in "${PAGES_FOLDERS[@]}"; do
+    cp -R "$CHECKOUT/http/pages/$part" "$files$WEB_SERVER" || return
+  done
+}
+
+# with_what_they_source SCRIPT...: those and all that they source, each once.
+with_what_they_source() {
+  local script
+  local -a waiting=("$@")
+  local -A taken=()
+  while [[ ${#waiting[@]} -gt 0 ]]; do
+    script=${waiting[0]}
+    waiting=("${waiting[@]:1}")
+    [[ -z ${taken[$script]-} ]] || continue
+    taken[$script]=yes
+    # shellcheck disable=SC2016 # the scripts' own words
+    mapfile -t -O "${#waiting[@]}" waiting < <(sed -n -E 's,^\. "(\$BIN|\$\{0%/\*\})/([^"]*)"$,\2,p' "$CHECKOUT/appliance/device/scripts/$script")
+  done
+  printf '%s\n' "${!taken[@]}" | sort
+}
+
+# For sha256sum -c, which a device's busybox has, too.
+write_checksums() {
+  # shellcheck disable=SC2094 # it does not read what it writes
+  (cd "$1" && find . -type f ! -name SHA256SUMS -printf '%P\0' | LC_ALL=C sort -z | xargs -0 sha256sum >SHA256SUMS)
+}
+
+# The same files make the same archive: whoever packs them, when and where.
+write_archive() {
+  find "$1/$2" -type d -exec chmod 755 {} + && find "$1/$2" -type f ! -perm -u+x -exec chmod 644 {} + &&
+    tar --create --file "$1/$2.tar" --directory "$1" --format ustar --sort name --owner 0 --group 0 --numeric-owner \
+      --mtime "@$(time_of_files)" "$2" &&
+    gzip --no-name --best "$1/$2.tar"
+}
+
+# The time that all files get: that of the last change that was committed, where that can be told.
+time_of_files() {
+  local seconds=${SOURCE_DATE_EPOCH-}
+  [[ $seconds =~ ^[0-9]+$ ]] || seconds=$(git -C "$CHECKOUT" log -1 --format=%ct 2>/dev/null) || seconds=946684800
+  echo "$seconds"
+}
