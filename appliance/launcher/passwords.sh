@@ -13,7 +13,7 @@ reserve_passwords() {
   [[ ! -t 1 ]] || return 0
   # Room is taken now: a full disk is to be noticed before anything is changed.
   (umask 077 && rm -f "$1" && set -o noclobber && printf "%${PASSWORDS_ROOM}s\n" '' >"$1") 2>/dev/null && return
-  rm -f "$1"
+  rm -f "$1" 2>/dev/null
   echo "The file $1, for the passwords, cannot be written." >&2
   return 1
 }

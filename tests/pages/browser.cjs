@@ -9,14 +9,14 @@ const {chromium, firefox} = require('playwright-core');
 const appliance = require('./appliance.cjs');
 
 const failures = `${process.env.PAGES_TEST_FOLDER}/failures`;
-const flags = ['--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
+const flags = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
   '--disable-background-networking', '--disable-component-update', '--disable-sync'];
 const axe = fs.readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 const pages = ['index.php', 'ipv4.php', 'ipv6.php', 'dns.php', 'port.php', 'security.php', 'snmp.php', 'traps.php',
   'backup.php', 'diagnostics.php', 'account.php'];
 
 const browsers = {
-  chromium: () => chromium.launch({executablePath: '/usr/bin/chromium', args: flags}),
+  chromium: () => chromium.launch({executablePath: '/usr/bin/chromium-headless-shell', args: flags}),
   // Debian's, told what to do by the protocol that browsers have in common: that is what the channel stands for.
   firefox: () => firefox.launch({channel: 'moz-firefox', executablePath: '/usr/bin/firefox-esr', timeout: 120000}),
 };
