@@ -19,7 +19,7 @@ prepare() {
   local checkout=$1 purpose=$2 reason
   local -a cmake_options=("${@:3}")
   reason=$({ mkdir -p "$checkout/build" && : >>"$checkout/build/.prepare"; } 2>&1) || {
-    echo "The folder $checkout/build cannot be written: ${reason##*: }." >&2
+    echo "The folder $checkout/build cannot be written: ${reason##*: }. Copy the checkout to a folder that you may write to." >&2
     return "$STATUS_STATE"
   }
   (

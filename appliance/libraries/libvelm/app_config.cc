@@ -78,6 +78,7 @@ void AppendAll(TarnAbstract::List<T, 4>& list, const std::vector<T>& elements) {
 
 std::vector<eSNMPVersion> ToVector(const TarnAbstract::List<eSNMPVersion, 4>& versions) {
   std::vector<eSNMPVersion> elements;
+  elements.reserve(versions.Size());
   for (unsigned int index = 0; index < versions.Size(); ++index) elements.push_back(Element(versions, index));
   return elements;
 }
