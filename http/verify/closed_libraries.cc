@@ -4,8 +4,11 @@
 #include <link.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <map>
 
+#include "apart.h"
 #include "findings.h"
 #include "stand_ins.h"
 
@@ -38,6 +41,45 @@ void reportFailure(const std::string& library, const std::string& reason) {
 
 void reportOwnNeed(const std::string& library, const std::string& missing) {
   wrong(library + " itself needs " + demangled(missing) + ", which no library here has");
+}
+
+std::string besideModule(const Module& module, const std::string& name) {
+  std::string path = module.folder;
+  path.append("/").append(name);
+  return access(path.c_str(), F_OK) == 0 ? path : "";
+}
+
+// What is to be searched by name; the loader knows more, which only it can tell.
+std::vector<std::string> searchedFolders() {
+  const char* const variable = std::getenv("LD_LIBRARY_PATH");
+  std::string list = variable == nullptr ? "" : variable;
+  std::vector<std::string> folders;
+  while (!list.empty()) {
+    const std::size_t size = list.find_first_of(":;");
+    folders.push_back(list.substr(0, size));
+    list = size == std::string::npos ? "" : list.substr(size + 1);
+  }
+  folders.emplace_back("/lib");
+  folders.emplace_back("/usr/lib");
+  return folders;
+}
+
+// The file that the loader would take, read; the loader passes over those for other processors, unless it is told
+// the path. False, with the reason, when it cannot be loaded; true, too, when none is found.
+bool readLibrary(const Module& module, const std::string& name, ElfFile& file, std::string& reason) {
+  std::string path = besideModule(module, name);
+  bool readable = path.empty() || readElfFile(path, file, reason) || file.complete;
+  if (path.empty()) {
+    for (const std::string& folder : searchedFolders()) {
+      path = folder.empty() ? name : folder + "/" + name;
+      if (access(path.c_str(), F_OK) != 0) continue;
+      file = ElfFile();
+      readable = readElfFile(path, file, reason) || file.complete || file.forOtherProcessor;
+      if (!file.forOtherProcessor) break;
+    }
+  }
+  reason = path + " " + reason;
+  return readable;
 }
 
 std::string pathOf(void* handle, const std::string& name) {
@@ -76,9 +118,28 @@ bool readModule(const std::string& path, Module& module) {
   return false;
 }
 
+bool readLibraries(const Module& module) {
+  std::vector<std::string> names = module.file.needed;
+  bool all = true;
+  for (std::size_t index = 0; index < names.size(); ++index) {
+    ElfFile file;
+    std::string reason;
+    if (!readLibrary(module, names[index], file, reason)) {
+      reportFailure(names[index], reason);
+      all = false;
+    }
+    for (const std::string& name : file.needed) {
+      if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+    }
+  }
+  return all;
+}
+
 void ClosedLibraries::load(const Module& module, bool withFindings) {
   for (const std::string& name : module.file.needed) {
+    sayWhere("while " + name + " was loaded");
     void* const handle = loadOne(module, name, withFindings);
+    sayWhere("");
     if (handle == nullptr) continue;
     handles_.push_back(handle);
     paths_.push_back(pathOf(handle, name));
@@ -88,9 +149,8 @@ void ClosedLibraries::load(const Module& module, bool withFindings) {
 
 // What the interpreter would give is stood in for, one name after the other, as the loader asks for them.
 void* ClosedLibraries::loadOne(const Module& module, const std::string& name, bool withFindings) {
-  std::string path = module.folder;
-  path.append("/").append(name);
-  if (access(path.c_str(), F_OK) != 0) path = name;
+  std::string path = besideModule(module, name);
+  if (path.empty()) path = name;
   std::string former;
   unsigned int ofInterpreter = 0;
   for (unsigned int count = 0; count < MostStandIns; ++count) {

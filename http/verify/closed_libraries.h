@@ -15,6 +15,10 @@ struct Module {
 // False, said as a finding, when that cannot be read.
 bool readModule(const std::string& path, Module& module);
 
+// Whether the files of the libraries, and of those that they need, are what the loader expects, as far as they are
+// found; each that is not is a finding.
+bool readLibraries(const Module& module);
+
 class ClosedLibraries {
  public:
   // Loads what the module needs; with findings, also about what the libraries take from elsewhere and do not

@@ -14,6 +14,7 @@ namespace {
 
 using Header = ElfW(Ehdr);
 using Section = ElfW(Shdr);
+using Segment = ElfW(Phdr);
 
 // Nothing in a damaged file is believed before it was compared with the file's size.
 class Content {
@@ -30,6 +31,10 @@ class Content {
   }
 
   bool empty() const { return bytes_.empty(); }
+
+  bool has(std::size_t offset, std::size_t size) const {
+    return offset <= bytes_.size() && size <= bytes_.size() - offset;
+  }
 
   // count records from offset on; none when they are not all there.
   template <class Record>
@@ -65,6 +70,7 @@ class Reader {
   // Whether it is a library for this processor, with names that can be read.
   bool read(std::string& reason) {
     if (!readHeader(reason)) return false;
+    file_.complete = true;
     for (const Section& section : sections_) {
       if (section.sh_link >= sections_.size()) continue;
       const Section& texts = sections_[section.sh_link];
@@ -85,8 +91,28 @@ class Reader {
     if (headers.empty() || std::memcmp(headers[0].e_ident, ELFMAG, SELFMAG) != 0) return false;
     const Header& header = headers[0];
     reason = "is not for this processor";
-    if (!isForThisProcessor(header)) return false;
+    file_.forOtherProcessor = !isForThisProcessor(header);
+    if (file_.forOtherProcessor) return false;
+    reason = "is a program, and no library";
+    if (header.e_type != ET_DYN) return false;
+    return hasSegments(header, reason) && readSections(header, reason);
+  }
+
+  // The loader believes that all of them are in the file, and the program ends where one is not.
+  bool hasSegments(const Header& header, std::string& reason) const {
+    reason = "is damaged: it ends before its content does";
+    if (header.e_phentsize != sizeof(Segment)) return false;
+    const std::vector<Segment> segments = content_.records<Segment>(header.e_phoff, header.e_phnum);
+    for (const Segment& segment : segments) {
+      if (segment.p_type != PT_NULL && !content_.has(segment.p_offset, segment.p_filesz)) return false;
+    }
+    return !segments.empty();
+  }
+
+  // A library may do without.
+  bool readSections(const Header& header, std::string& reason) {
     reason = "is damaged: its table of contents is not there";
+    if (header.e_shnum == 0) return true;
     if (header.e_shentsize != sizeof(Section)) return false;
     sections_ = content_.records<Section>(header.e_shoff, header.e_shnum);
     return !sections_.empty();

@@ -19,6 +19,8 @@ struct ElfFile {
   std::vector<Symbol> dynamicSymbols;   // what it gives and takes
   std::vector<Symbol> internalSymbols;  // all that it has, unless it was stripped
   std::vector<std::string> needed;      // the libraries that it names
+  bool forOtherProcessor = false;
+  bool complete = false;  // all that its tables name lies in the file; it need have no names
 };
 
 // Of a file for the processor that this program runs on. False, with the reason as the end of a sentence

@@ -1,13 +1,10 @@
 // Looks at the device that it runs on and says, a line for each finding, whether the module can work there.
 // It changes nothing of the device.
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <string>
 
+#include "apart.h"
 #include "closed_libraries.h"
 #include "findings.h"
 #include "names.h"
@@ -16,7 +13,6 @@
 
 namespace {
 
-constexpr unsigned int SecondsForAnswer = 10;
 constexpr int StatusUsage = 64;
 
 void printUsage(std::FILE* stream) {
@@ -36,37 +32,15 @@ std::string besideThisProgram(const std::string& program) {
   return (slash == std::string::npos ? "." : program.substr(0, slash)) + "/network.so";
 }
 
-// The vendor's code runs in processes of their own: one that ends there, or never answers, is a finding like
-// others.
-template <class Check>
-void apart(const std::string& what, const Check& check) {
-  std::fflush(stdout);
-  const pid_t process = fork();
-  if (process == 0) {
-    alarm(SecondsForAnswer);
-    check();
-    std::fflush(stdout);
-    _exit(allRight() ? 0 : 1);
-  }
-  int status = 0;
-  if (process < 0 || waitpid(process, &status, 0) < 0) {
-    unknown(what + " cannot be looked at: no process can be started");
-  } else if (WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM) {
-    wrong(what + ": no answer within " + number(SecondsForAnswer) + " seconds");
-  } else if (WIFSIGNALED(status)) {
-    wrong(what + ": the libraries ended with signal " + number(WTERMSIG(status)) + ", " +
-          strsignal(WTERMSIG(status)));
-  } else if (WEXITSTATUS(status) != 0) {
-    someWasWrong();
-  }
-}
-
+// What keeps one library from being loaded keeps all that is asked of them from being told: it is said once.
 void checkAll(const Module& module) {
-  apart("the libraries", [&module] {
+  if (!readLibraries(module)) return;
+  const bool loaded = apart("the libraries", [&module] {
     ClosedLibraries libraries;
     libraries.load(module, true);
     checkNames(module, libraries);
   });
+  if (!loaded) return;
   apart("IMgmtAppConfig", [&module] {
     ClosedLibraries libraries;
     libraries.load(module, false);

@@ -1,5 +1,6 @@
 // A management library whose base has two operations more. What becomes of a question for its services is
-// said by the environment: VELM=ends, =silent, =empty, =wild; otherwise they are given.
+// said by the environment: VELM=ends, =exits0, =exits3, =silent, =empty, =wild; otherwise they are given. VELM=ends_loaded,
+// =exits0_loaded and =exits3_loaded do so as soon as it is loaded.
 #include <unistd.h>
 
 #include <csignal>
@@ -48,11 +49,24 @@ class StorageLibrary : public Kept<Library::IStorageLibrary> {
 
 class Connectivity : public Kept<IConnectivity> {};
 
+std::string chosenWay() {
+  const char* const way = std::getenv("VELM");
+  return way == nullptr ? "" : way;
+}
+
+void endIfChosen(const std::string& when) {
+  const std::string chosen = chosenWay();
+  if (chosen == "ends" + when) std::abort();
+  if (chosen == "exits0" + when) std::exit(0);  // NOLINT(concurrency-mt-unsafe): there is one thread
+  if (chosen == "exits3" + when) std::exit(3);  // NOLINT(concurrency-mt-unsafe)
+}
+
+[[gnu::constructor]] void whenLoaded() { endIfChosen("_loaded"); }
+
 template <class Interface, class Service>
 sp<Interface> answer() {
-  const char* const way = std::getenv("VELM");
-  const std::string chosen = way == nullptr ? "" : way;
-  if (chosen == "ends") std::abort();
+  const std::string chosen = chosenWay();
+  endIfChosen("");
   while (chosen == "silent") pause();
   static Service service;
   sp<Interface> handle(chosen == "empty" ? nullptr : &service);
