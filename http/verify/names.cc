@@ -133,9 +133,9 @@ void checkNames(const Module& module, const ClosedLibraries& libraries) {
       ofInterpreter.insert(symbol.name);
     }
   }
-  const std::string sentence = "the libraries have " + number(found) + " names that the module needs";
-  if (missing == 0) right(sentence + ", and lack none");
-  if (missing > 0) note(sentence + ", and lack " + number(missing));
+  const std::string summary = "the libraries have " + number(found) + " names that the module needs";
+  if (missing == 0) right(summary + ", and lack none");
+  if (missing > 0) note(summary + ", and lack " + number(missing));
   std::string list;
   for (const std::string& name : ofInterpreter) list += " " + name;
   note("the interpreter has to give" + list);
