@@ -10,7 +10,7 @@ DEVICE_BUILD=$CHECKOUT/build-powerpc
 # with them.
 DEVICE_SCRIPTS=(auditTrail.sh certificateFacts.sh deviceFacts.sh probeAddress.sh testTrapResults.sh trialWatch.sh
   trialAtStart.sh firstPassword.sh resetPassword.sh)
-# Two of them ask this program about addresses. It is not there when the vendor's libraries were built with.
+# Two of them ask this program about addresses. It is not built with the vendor's libraries.
 JUDGE=checkSettings
 ASK_JUDGE=(lookUpName.sh pingAddress.sh)
 
@@ -48,7 +48,7 @@ collect_device_files() {
   local folder=$1 files=$1/files strip part
   local -a scripts=("${DEVICE_SCRIPTS[@]}") programs=()
   strip=$(sed -n 's/^CMAKE_STRIP:FILEPATH=//p' "$DEVICE_BUILD/CMakeCache.txt")
-  [[ ! -e $DEVICE_BUILD/$JUDGE ]] || { programs=("$DEVICE_BUILD/$JUDGE") && scripts+=("${ASK_JUDGE[@]}"); }
+  ! is_built_with_ours || { programs=("$DEVICE_BUILD/$JUDGE") && scripts+=("${ASK_JUDGE[@]}"); }
   mapfile -t scripts < <(with_what_they_source "${scripts[@]}")
   mkdir -p "$folder" "$files$APP_MANAGER/bin" "$files$WEB_SERVER" &&
     install -m 644 "$CHECKOUT/tools/package/device-README" "$folder/README" &&
@@ -61,6 +61,9 @@ collect_device_files() {
     cp -R "$CHECKOUT/http/pages/$part" "$files$WEB_SERVER" || return
   done
 }
+
+# What was built before with other options still lies there: only the configuration says what belongs to this build.
+is_built_with_ours() { ! grep -q '^CLOSED_LIBRARY_DIRS:[A-Z]*=.' "$DEVICE_BUILD/CMakeCache.txt"; }
 
 # with_what_they_source SCRIPT...: those and all that they source, each once.
 with_what_they_source() {
