@@ -14,8 +14,8 @@ namespace {
 
 constexpr unsigned int SecondsForAnswer = 10;
 
-// The process says through a pipe where it is, a line each time, and last that it is done: how it ends says little, as
-// a library may end it with any status.
+// The process says through a pipe where it is, a line each time, and last that it is done: how it ends says
+// little, as a library may end it with any status.
 const char* const Done = "done";
 int ends[2] = {-1, -1};
 pid_t process = -1;
@@ -25,12 +25,14 @@ void tell(const std::string& line) {
   (void)!write(ends[1], text.c_str(), text.size());
 }
 
-// The last line that the process has told. It has ended: what it told is all there, and nothing is waited for.
+// The last line that the process has told. It has ended: what it told is all there, and nothing is waited
+// for.
 std::string lastTold() {
   std::string told;
   char buffer[4096];
   ssize_t count = 0;
-  while ((count = read(ends[0], buffer, sizeof(buffer))) > 0) told.append(buffer, static_cast<std::size_t>(count));
+  while ((count = read(ends[0], buffer, sizeof(buffer))) > 0)
+    told.append(buffer, static_cast<std::size_t>(count));
   if (told.empty()) return "";
   told.resize(told.size() - 1);
   return told.substr(told.rfind('\n') + 1);

@@ -64,14 +64,16 @@ std::vector<std::string> searchedFolders() {
   return folders;
 }
 
-// The file that the loader would take, read; the loader passes over those for other processors, unless it is told
-// the path. False, with the reason, when it cannot be loaded; true, too, when none is found.
+// The file that the loader would take, read; the loader passes over those for other processors, unless it is
+// told the path. False, with the reason, when it cannot be loaded; true, too, when none is found.
 bool readLibrary(const Module& module, const std::string& name, ElfFile& file, std::string& reason) {
   std::string path = besideModule(module, name);
   bool readable = path.empty() || readElfFile(path, file, reason) || file.complete;
   if (path.empty()) {
     for (const std::string& folder : searchedFolders()) {
-      path = folder.empty() ? name : folder + "/" + name;
+      path = folder;
+      if (!path.empty()) path.append("/");
+      path.append(name);
       if (access(path.c_str(), F_OK) != 0) continue;
       file = ElfFile();
       readable = readElfFile(path, file, reason) || file.complete || file.forOtherProcessor;

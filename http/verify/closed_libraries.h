@@ -15,8 +15,8 @@ struct Module {
 // False, said as a finding, when that cannot be read.
 bool readModule(const std::string& path, Module& module);
 
-// Whether the files of the libraries, and of those that they need, are what the loader expects, as far as they are
-// found; each that is not is a finding.
+// Whether the files of the libraries, and of those that they need, are what the loader expects, as far as
+// they are found; each that is not is a finding.
 bool readLibraries(const Module& module);
 
 class ClosedLibraries {

@@ -74,8 +74,8 @@ void checkResultCodes(const Module& module, const ClosedLibraries& libraries) {
   }
 }
 
-// How many bytes the library writes for a text, of which it is handed more than the module has. What it writes may
-// look like what was there.
+// How many bytes the library writes for a text, of which it is handed more than the module has. What it
+// writes may look like what was there.
 std::size_t writtenBytes(void (*make)(void*, const char*)) {
   std::size_t size = 0;
   for (const unsigned char untouched : {0xA5, 0x5A}) {
@@ -89,8 +89,8 @@ std::size_t writtenBytes(void (*make)(void*, const char*)) {
   return size;
 }
 
-// Every constructor that we declare sets both fields: one that writes less has others. What the vendor's own headers
-// declare may leave some alone.
+// Every constructor that we declare sets both fields: one that writes less has others. What the vendor's own
+// headers declare may leave some alone.
 bool isSizeOfText(std::size_t size) {
   struct Declared {
     const char* text;
@@ -105,7 +105,8 @@ void checkSizeOfText(const Module& module, const ClosedLibraries& libraries) {
   void* const address = libraries.find(module, "TarnAbstract::String::String(char const*)");
   if (address == nullptr) return;  // said already
   const std::size_t size = writtenBytes(reinterpret_cast<Make>(address));
-  const std::string sentence = "the library writes " + number(size) + " bytes of a TarnAbstract::String, which has " +
+  const std::string sentence = "the library writes " + number(size) +
+                               " bytes of a TarnAbstract::String, which has " +
                                number(sizeof(TarnAbstract::String)) + " in the module";
   if (isSizeOfText(size)) {
     right(sentence);

@@ -1,6 +1,6 @@
 // A management library whose base has two operations more. What becomes of a question for its services is
-// said by the environment: VELM=ends, =exits0, =exits3, =silent, =empty, =wild; otherwise they are given. VELM=ends_loaded,
-// =exits0_loaded and =exits3_loaded do so as soon as it is loaded.
+// said by the environment: VELM=ends, =exits0, =exits3, =silent, =empty, =wild; otherwise they are given.
+// VELM=ends_loaded, =exits0_loaded and =exits3_loaded do so as soon as it is loaded.
 #include <unistd.h>
 
 #include <csignal>
