@@ -116,8 +116,7 @@ redirect() {
 redirect_http() {
   # Not for good: the mode can be switched off again.
   printf '%s\n' '$HTTP["scheme"] == "http" {' '  url.redirect-code = 307' \
-    '  $HTTP["url"] =~ "(\.php|/)$" {' \
-    '    setenv.add-response-header = ( "Content-Security-Policy" => "default-src '"'none'; frame-ancestors 'none'"'" )' '  }'
+    '  setenv.set-response-header = var.headers + var.of_errors'
   ports=$(sed -n 's/^published //p' "$SOCKETS")
   if [ -n "$ports" ]; then
     redirect "^(.+):${ports%:*}\$" ":${ports#*:}"
