@@ -18,12 +18,15 @@ function amount($whole, $quick) { return QUICK ? $quick : $whole; }
 function at_most($number) { return array('<=', $number); }
 function at_least($number) { return array('>=', $number); }
 
-// Ends the row file; what was measured before stays.
+// Ends the row file; what was measured before stays, and the reason is shown with it.
 function fail($sentence)
 {
+    @file_put_contents(WORK . '/' . row_file() . '.reason', $sentence);
     fwrite(STDERR, basename($_SERVER['argv'][0]) . ": $sentence\n");
     exit(1);
 }
+
+function row_file() { return basename($_SERVER['argv'][0], '.php'); }
 
 // The last line that the command prints, which is a list of words or a line for the shell.
 function last_line($command, $folder = null)
@@ -67,10 +70,12 @@ function calls($function, $times)
 function program($name, ...$arguments) { return command(PROGRAMS . "/$name", ...array_map('strval', $arguments)); }
 
 // Measures as on a device, where the web service has root's rights and there is no door: the wrapper becomes the command.
-// Nobody else is in this appliance who would miss the door meanwhile.
+// Nobody else is in this appliance who would miss the door meanwhile, or later if measuring fails.
 function as_on_a_device($measure)
 {
-    rename(DOOR, DOOR . '.away');
+    if (!rename(DOOR, DOOR . '.away')) {
+        fail('there is no door to be put away');
+    }
     $result = $measure();
     rename(DOOR . '.away', DOOR);
     return $result;
@@ -160,11 +165,14 @@ function row($what, $beside, $unit, $target, $judged, $numbers, $ours, $theirs)
         $met = $meets($number);
         $is_close = $meets($spread[0]) != $meets($spread[1]);
     }
-    echo json_encode(array('name' => basename($_SERVER['argv'][0], '.php'), 'what' => $what, 'unit' => $unit, 'ours' => median($ours),
+    $line = json_encode(array('name' => row_file(), 'what' => $what, 'unit' => $unit, 'ours' => median($ours),
         'ours_spread' => spread($ours), 'beside_what' => $beside, 'beside' => $theirs ? median($theirs) : null,
         'beside_spread' => $theirs ? spread($theirs) : null, 'judged' => $judged, $judged => $number,
         'spread' => $spread, 'rounds' => count($ours), 'target' => $target === null ? null : implode(' ', $target), 'met' => $met,
-        'target_is_within_spread' => $is_close), JSON_UNESCAPED_SLASHES), "\n";
+        'target_is_within_spread' => $is_close, 'failed' => null), JSON_UNESCAPED_SLASHES) . "\n";
+    if (fwrite(STDOUT, $line) !== strlen($line)) {
+        fail('its rows cannot be written');
+    }
 }
 
 // The samples of Google Benchmark, which takes the repetitions of all in random order: name => nanoseconds of each.

@@ -1,5 +1,6 @@
 <?php
-// Shows what was measured: table.php heading | rows FILE | json FOLDER FILE | has_place FILE | markdown FOLDER FILE
+// Shows what was measured: table.php heading | rows FILE | failed FOLDER NAME STATUS | json FOLDER FILE | has_place FILE |
+// markdown FOLDER FILE
 //
 // The last one puts the table into the file, between its two lines that say so, or makes the file. It says whether a file
 // has a place for it, or is none yet, with has_place: others are left alone. Files are written whole or not at all.
@@ -38,6 +39,9 @@ function judged($row)
     $show = function ($number) use ($row) {
         return $row['judged'] == 'ratio' ? figure($number) : quantity($number, $row['unit']);
     };
+    if ($row['failed'] !== null) {
+        return '-';
+    }
     $number = $show($row[$row['judged']]);
     return $row['rounds'] < 2 ? $number : "$number ({$show($row['spread'][0])} - {$show($row['spread'][1])})";
 }
@@ -53,19 +57,35 @@ function target($row)
 
 function verdict($row)
 {
+    if ($row['failed'] !== null) {
+        return "FAILED: {$row['failed']}";
+    }
     if ($row['met'] === null) {
         return '';
     }
     return ($row['met'] ? 'met' : 'MISSED') . ($row['target_is_within_spread'] ? ' (within the spread)' : '');
 }
 
+// A measurement that was killed may have left a part of a line, before the row that says that it failed.
 function rows_of($file)
 {
     $rows = array();
     foreach (file($file, FILE_IGNORE_NEW_LINES | FILE_SKIP_EMPTY_LINES) as $line) {
-        $rows[] = json_decode($line, true, 16, JSON_THROW_ON_ERROR);
+        $rows[] = json_decode($line, true);
     }
-    return $rows;
+    return array_values(array_filter($rows));
+}
+
+// Behind the rows of one that failed: the first line of its reason.
+function add_failure($folder, $name, $status)
+{
+    $reason = (string) @file_get_contents("$folder/$name.reason");
+    $reason = $reason == '' ? ($status == 0 ? 'it left no number' : "it ended with $status") : strtok($reason, "\n");
+    $row = array_fill_keys(array('unit', 'ours', 'ours_spread', 'beside', 'beside_spread', 'spread', 'target', 'met',
+        'target_is_within_spread'), null);
+    $row = array('name' => $name, 'what' => "$name: the rest", 'beside_what' => '-', 'judged' => 'value', 'value' => null,
+        'rounds' => 0, 'failed' => substr($reason, 0, 200)) + $row;
+    file_put_contents("$folder/$name.rows", "\n" . json_encode($row, JSON_INVALID_UTF8_SUBSTITUTE | JSON_UNESCAPED_SLASHES) . "\n", FILE_APPEND);
 }
 
 function all_rows($folder) { return array_merge(array(), ...array_values(array_map('rows_of', glob("$folder/*.rows")))); }
@@ -86,7 +106,8 @@ function markdown($rows)
     echo "| What | Beside | Ours | Theirs | Ratio or difference (middle half) | Target | | `bench/run` |\n", str_repeat('|---', 8), "|\n";
     foreach ($rows as $row) {
         echo '| ', implode(' | ', array($row['what'], $row['beside_what'], quantity($row['ours'], $row['unit']),
-            quantity($row['beside'], $row['unit']), judged($row), target($row), verdict($row), "`{$row['name']}`")), " |\n";
+            quantity($row['beside'], $row['unit']), judged($row), target($row), strtr(verdict($row), '|', '/'), "`{$row['name']}`")),
+            " |\n";
     }
 }
 
@@ -113,6 +134,9 @@ switch ($argv[1]) {
             printf(LINE, $row['what'], quantity($row['ours'], $row['unit']), quantity($row['beside'], $row['unit']), judged($row),
                 target($row), verdict($row));
         }
+        break;
+    case 'failed':
+        add_failure($argv[2], $argv[3], $argv[4]);
         break;
     case 'json':
         replace_file($argv[3], json_encode(array('run' => circumstances(), 'rows' => all_rows($argv[2])),

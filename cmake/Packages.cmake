@@ -14,7 +14,7 @@ install(TARGETS network tarn velm dovan_util LIBRARY DESTINATION ${php_extension
 install(FILES ${packaging}/network.ini DESTINATION /etc/php/${php_version}/mods-available COMPONENT php-network)
 install(FILES http/src/network.stub.php DESTINATION share/php-network COMPONENT php-network)
 
-install(TARGETS cmdwrap cmdwrapd connectionLimits checkSettings management_database
+install(TARGETS cmdwrap cmdwrapd connectionLimits keepWebServer checkSettings management_database
         RUNTIME DESTINATION ${appliance_programs} COMPONENT network-appliance)
 install(DIRECTORY appliance/launcher DESTINATION ${appliance_tree}/appliance COMPONENT network-appliance
         USE_SOURCE_PERMISSIONS)

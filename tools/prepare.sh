@@ -22,7 +22,7 @@ prepare() {
   local -a cmake_options=("${@:3}")
   # For who owns it alone: whoever can read it can hold it.
   reason=$({ mkdir -p "$checkout/build" && (umask 077 && : >>"$lock_file") && chmod 600 "$lock_file"; } 2>&1) || {
-    echo "The folder $checkout/build cannot be written: ${reason##*: }." >&2
+    echo "The folder $checkout/build cannot be written: ${reason##*: }. Copy the checkout to a folder that you may write to." >&2
     return "$STATUS_STATE"
   }
   (

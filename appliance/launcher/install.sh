@@ -11,12 +11,11 @@ PAGES_FOLDERS=(htdocs shared templates errors) # the document root, what its pag
 ELSEWHERE=testTrapRegistration.sh # the one script that the device keeps in $LIBRARY
 IN_PLACE=$APP_MANAGER/dat/in-place # tells the device scripts to leave the interfaces alone
 APP_RUN=/run/appmanager
-WEB_RUN=$APP_RUN/web
 PHP_RUN=$APP_RUN/php
 DOOR=$APP_RUN/door # through which the web service has the device scripts run
 COMMAND_WRAPPER=/usr/bin/cmdwrap
 MODULE_FILES=(network.so libTarn.so libVelm.so libdovan_util.so)
-APP_MANAGER_PROGRAMS=(checkSettings cmdwrapd connectionLimits)
+APP_MANAGER_PROGRAMS=(checkSettings cmdwrapd connectionLimits keepWebServer)
 # All that is taken from the build folder:
 BUILT_FILES=(cmdwrap management_database "${APP_MANAGER_PROGRAMS[@]}" "${MODULE_FILES[@]}")
 MODULE_CONFIGURATION=50-network.ini # in the folders that the interpreters read settings from

@@ -61,10 +61,10 @@ rights_settle() {
 _rights_settle_folders() {
   local web=$1 pages=$2
   local -a open=("$APP_RUN" "$WEB_SERVER/logs" "$WEB_SERVER/conf")
-  mkdir -p "${open[@]}" "$CORE_SERVICE/dat/snmp" "$WEB_RUN" "$PHP_RUN" "$PAGES_DATA" || return
+  mkdir -p "${open[@]}" "$CORE_SERVICE/dat/snmp" "$PHP_RUN" "$PAGES_DATA" || return
   chown -h 0:0 "${open[@]}" "$CORE_SERVICE/dat/snmp" && chown -h "0:$pages" "$CORE_SERVICE/dat" &&
-    chown -h "$web:$web" "$WEB_RUN" && chown -h "$pages:$web" "$PHP_RUN" && chown -h "$pages:$pages" "$PAGES_DATA" || return
-  chmod 755 "${open[@]}" "$WEB_RUN" && chmod 1770 "$CORE_SERVICE/dat" && chmod 750 "$PHP_RUN" &&
+    chown -h "$pages:$web" "$PHP_RUN" && chown -h "$pages:$pages" "$PAGES_DATA" || return
+  chmod 755 "${open[@]}" && chmod 1770 "$CORE_SERVICE/dat" && chmod 750 "$PHP_RUN" &&
     chmod 700 "$CORE_SERVICE/dat/snmp" "$PAGES_DATA"
 }
 

@@ -57,8 +57,7 @@ inline int finish(const Command& command) {
   return status;
 }
 
-inline int run(char* const* words) {
-  const Command command = start(words);
+inline int readAndFinish(const Command& command) {
   char output[16384];
   ssize_t length = 0;
   do length = read(command.output, output, sizeof(output));
@@ -66,5 +65,7 @@ inline int run(char* const* words) {
   if (length < 0) stop("read");
   return finish(command);
 }
+
+inline int run(char* const* words) { return readAndFinish(start(words)); }
 
 }  // namespace bare

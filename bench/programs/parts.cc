@@ -14,6 +14,7 @@
 #include "platform/List.h"
 #include "trace_log.h"
 #include "utility/Runtime.h"
+#include "utility/platform_texts.h"
 
 namespace {
 
@@ -21,6 +22,14 @@ constexpr const char* Log = "/home/embedded/library/HTTPService/lighttpd/logs/ph
 
 void TraceLine(benchmark::State& state) {
   for (auto _ : state) trace("Entering is_ipv6_enabled");
+}
+
+void IdentifierText(benchmark::State& state) {
+  TarnAbstract::GUID identifier(0x01234567, 0x89abcdef, 3);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(identifier);
+    benchmark::DoNotOptimize(guidToCString(identifier));
+  }
 }
 
 void BareLine(benchmark::State& state) {
@@ -126,6 +135,7 @@ void DequeInOrder(benchmark::State& state) { readDeque(state, false); }
 void ListShuffled(benchmark::State& state) { readList(state, true); }
 void DequeShuffled(benchmark::State& state) { readDeque(state, true); }
 
+BENCHMARK(IdentifierText);
 BENCHMARK(TraceLine);
 BENCHMARK(BareLine);
 BENCHMARK(TraceText);

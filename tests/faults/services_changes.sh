@@ -74,17 +74,17 @@ agrees_agent() {
 
 # The services of PHP go on: nothing of these changes is theirs.
 power_off() {
-  pkill -KILL -f '/bin/webServer.sh '
+  pkill -KILL -f '/bin/(webServer\.sh|asUser\.sh web) ' # also one that is just starting
   pkill -KILL -x lighttpd
   pkill -KILL -x snmpd
-  rm -f /run/appmanager/snmpd.* /run/appmanager/web/lighttpd.pid /run/appmanager/webServer.pid /run/appmanager/web_mode.lock
+  rm -f /run/appmanager/snmpd.* /run/appmanager/webServer.pid /run/appmanager/web_mode.lock
 }
 
 # As run_services does it.
 start_again() {
   "$CORE_SERVICE/bin/management_database" 2>>"$SERVICES_SAY" && /bin/sh "$BIN/applyWebMode.sh" start 2>>"$SERVICES_SAY" || return
   setsid env --default-signal /bin/sh "$BIN/webServer.sh" "$WEB_SERVER/conf/lighttpd.conf" </dev/null >>"$SERVICES_SAY" 2>&1 &
-  /bin/sh "$BIN/restartSNMP.sh" 2>>"$SERVICES_SAY" && await 10 test -s /run/appmanager/web/lighttpd.pid
+  /bin/sh "$BIN/restartSNMP.sh" 2>>"$SERVICES_SAY" && await 10 test -s /run/appmanager/webServer.pid
 }
 
 # establish BASE

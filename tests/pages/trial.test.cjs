@@ -286,19 +286,11 @@ test('The web server starts anew during a trial, and the watcher is killed: the 
   await fillStatic(page, '10.20.0.8');
   await press(page, 'Apply');
   await page.goto('about:blank');
-  // There is no such file between the end of one web server and the start of the next.
-  const server = () => {
-    try {
-      return fs.readFileSync('/run/appmanager/web/lighttpd.pid', 'utf8').trim();
-    } catch {
-      return '';
-    }
-  };
-  const before = server();
-  // The service around it: that ends the server and starts another one.
-  process.kill(Number(fs.readFileSync(`/proc/${before}/status`, 'utf8').match(/^PPid:\s+(\d+)$/m)[1]), 'SIGHUP');
-  await until(() => ![before, ''].includes(server()), 'another web server');
-  await until(() => !fs.existsSync(`/proc/${before}`), 'the end of the one of before');
+  const service = fs.readFileSync('/run/appmanager/webServer.pid', 'utf8').trim();
+  const servers = () => fs.readFileSync(`/proc/${service}/task/${service}/children`, 'utf8').trim();
+  const before = servers();
+  process.kill(Number(service), 'SIGUSR1');
+  await until(() => /^\d+$/.test(servers()) && servers() !== before, 'another web server, and the end of the one of before');
   await reaches('trial');
   assert.equal(ipv4Address(), '10.20.0.8');
   await isUndone();

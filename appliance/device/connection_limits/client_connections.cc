@@ -61,6 +61,7 @@ bool ClientConnections::TakesTooLong(const Known& known) const {
 std::vector<Connection> ClientConnections::BeyondLimits() {
   Forget();
   std::vector<const Known*> byAge;
+  byAge.reserve(known_.size());
   for (const auto& entry : known_) byAge.push_back(&entry.second);
   std::sort(byAge.begin(), byAge.end(), [](const Known* a, const Known* b) { return a->number < b->number; });
 

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Brings the web service into the SSL mode of the management database. A running web server starts anew in
-# that mode when the answers under way have gone out.
+# Brings the web service into the SSL mode of the management database. Another web server, in that
+# mode, takes the place of the one that runs.
 #
 #   applyWebMode.sh         for a change of the mode, which goes back to the mode of before by itself when this fails
 #   applyWebMode.sh start   for the start of the appliance: ends a change that was interrupted, by bringing the new
@@ -137,7 +137,7 @@ store_mode() {
   configuration=$(mode_configuration "$1") && store_file "$MODE" "$configuration"
 }
 
-# A running web server that is told to start anew with what it does not take would end. Renaming needs no room.
+# With what it does not take no web server would start, and nobody would know. Renaming needs no room.
 require_that_the_server_takes_it() {
   [ -s "$WEB_SERVER_PROCESS" ] || return 0
   refusal=$(lighttpd -tt -f "$CONFIGURATION/lighttpd.conf" 2>&1) && return
@@ -156,7 +156,7 @@ apply_mode() {
   store_mode "$enabled" || fail "$MODE cannot be written"
   require_that_the_server_takes_it
   rm -f "$MODE.before"
-  if [ "$enabled" = 1 ]; then restart_web_server; else restart_web_server HUP; fi
+  restart_web_server
 }
 
 # As setSSLEnabled does it, when it is not interrupted.

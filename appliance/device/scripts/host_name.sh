@@ -10,7 +10,7 @@ apply_host_name() {
   # The command passes over most of what the kernel can have against it.
   read_host_name name_in_force
   [ "$name_in_force" = "$host_name" ] || return
-  # The web server takes it up within a minute (housekeeping.sh): starting anew it would cut off whoever is just connecting.
+  # The web server takes it up within a minute (housekeeping.sh), so that names that follow one another cost one restart.
   # One that starts later asks for the name itself. What it cannot be told is no reason for another name.
   [ ! -s "$WEB_SERVER_PROCESS" ] || store_names
   return 0

@@ -22,7 +22,7 @@ own_names() {
 }
 
 # What was stored since the web server started.
-# shellcheck disable=SC3013,SC2119 # every shell that a Debian system has as /bin/sh compares times; USR1 is meant
+# shellcheck disable=SC3013 # every shell that a Debian system has as /bin/sh compares times
 take_up_names() {
   if [ -s "$WEB_SERVER_PROCESS" ] && [ "$NAMES" -nt "$NAMES_TAKEN" ]; then restart_web_server; fi
 }
@@ -39,11 +39,11 @@ store_names() {
   replace_file "$NAMES" "$names_configuration"
 }
 
-# A web server that runs takes up its new configuration; answers under way go out all the same.
-# shellcheck disable=SC2120 # HUP is applyWebMode.sh's
+# One with the new configuration takes the place of the web server that runs: no connection is lost, and answers under way go
+# out all the same.
 restart_web_server() {
   [ -s "$WEB_SERVER_PROCESS" ] || return 0
   read -r process <"$WEB_SERVER_PROCESS"
   : >"$NAMES_TAKEN"
-  kill -s "${1:-USR1}" "$process" 2>/dev/null || complain "the web server is not running"
+  kill -s USR1 "$process" 2>/dev/null || complain "the web server is not running"
 }

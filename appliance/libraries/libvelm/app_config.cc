@@ -5,14 +5,13 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cinttypes>
-#include <cstdio>
 #include <cstring>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "address_rules/addresses.h"
+#include "libtarn/identifier_text.h"
 #include "libtarn/string_access.h"
 #include "libvelm/file_lock.h"
 #include "libvelm/script.h"
@@ -35,19 +34,15 @@ constexpr char SSLEnabledQuery[] = "SELECT ssl_enabled FROM settings";
 std::string ToText(bool enabled) { return enabled ? "enabled" : "disabled"; }
 
 std::string ToText(const GUID& identifier) {
-  char text[3 * 9] = "";
-  static_cast<void>(std::snprintf(text, sizeof(text), "%08" PRIx32 "-%08" PRIx32 "-%08" PRIx32,
-                                  identifier.Word(0), identifier.Word(1), identifier.Word(2)));
+  std::string text(TarnAbstract::IdentifierTextLength, '\0');
+  TarnAbstract::writeIdentifier(identifier, text.data());
   return text;
 }
 
 GUID ToIdentifier(const std::string& text) {
-  std::uint32_t words[3] = {0, 0, 0};
-  // NOLINTNEXTLINE(cert-err34-c): what was read is compared
-  std::sscanf(text.c_str(), "%8" SCNx32 "-%8" SCNx32 "-%8" SCNx32, &words[0], &words[1], &words[2]);
-  const GUID identifier(words[0], words[1], words[2]);
+  GUID identifier;
   // Another text could be read as an identifier, too, but not be found by it again.
-  if (ToText(identifier) != text)
+  if (!TarnAbstract::readIdentifier(text.c_str(), identifier) || ToText(identifier) != text)
     throw ServiceError("stored identifier '" + Excerpt(text) + "' is no identifier");
   return identifier;
 }
@@ -83,6 +78,7 @@ void AppendAll(TarnAbstract::List<T, 4>& list, const std::vector<T>& elements) {
 
 std::vector<eSNMPVersion> ToVector(const TarnAbstract::List<eSNMPVersion, 4>& versions) {
   std::vector<eSNMPVersion> elements;
+  elements.reserve(versions.Size());
   for (unsigned int index = 0; index < versions.Size(); ++index) elements.push_back(Element(versions, index));
   return elements;
 }

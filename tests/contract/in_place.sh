@@ -1,0 +1,40 @@
+# shellcheck shell=bash disable=SC2034 # for who sources this
+# Where a machine allows no private root, root has the contract tests run one at a time on the machine itself, as a user
+# that can change nothing of it: what a test might replace or remove there the kernel refuses. To be sourced by bash behind
+# install.sh.
+
+PAGE_USER=65534
+AS_PAGE_USER=(setpriv --pdeathsig KILL --reuid="$PAGE_USER" --regid="$PAGE_USER" --clear-groups)
+# All that the tests and their platform have there: nothing of a machine's own.
+PLACES=("$EMBEDDED" "$COMMAND_WRAPPER" /tmp/{module,scripted_platform,canary,engine,none,runs,words})
+PLACES_OF_PAGE=("$EMBEDDED" /tmp/{module,scripted_platform})
+
+# in_place_begin INTERPRETER: waits for another one that does the same, then sees to it that the places are empty when this
+# process has ended, however. Returns 1 after a reason on standard output when that cannot be.
+in_place_begin() {
+  local place
+  [[ $EUID == 0 ]] || { echo 'and only root could have them run on the machine itself' && return 1; }
+  "${AS_PAGE_USER[@]}" test -x "$1" || { echo "and as another user, on the machine itself, $1 cannot be run" && return 1; }
+  { exec {in_place_lock}<"${EMBEDDED%/*}" && flock "$in_place_lock"; } || { echo "and ${EMBEDDED%/*} cannot be locked" && return 1; }
+  for place in "${PLACES[@]}"; do
+    [[ ! -e $place && ! -L $place ]] || { echo "and $place, which they use on the machine itself, is there already" && return 1; }
+  done
+  # shellcheck disable=SC2016 # variables of the shell that is called
+  exec {in_place_guarded}> >(exec setsid bash -c 'trap "" INT QUIT HUP TERM
+    while read -r line; do tests=$line; done
+    while [[ -n ${tests-} ]] && kill -KILL -- "-$tests"; do sleep 0.05; done
+    rm -rf "$@"' bash "${PLACES[@]}" >/dev/null 2>&1)
+  in_place_guardian=$!
+}
+
+# in_place_tell GROUP: the group of processes that the tests are, or an empty one when they have ended.
+in_place_tell() { [[ -z ${in_place_guardian-} ]] || echo "$1" >&"$in_place_guarded"; }
+
+# For the processes of the tests: they must not keep it from ending.
+in_place_let_go() { [[ -z ${in_place_guardian-} ]] || exec {in_place_lock}<&- {in_place_guarded}>&-; }
+
+in_place_end() {
+  exec {in_place_guarded}>&-
+  # The shell waits for no more than the last of its substitutions.
+  tail --pid="$in_place_guardian" --sleep-interval=0.05 -f /dev/null
+}
