@@ -9,6 +9,8 @@
 # What was built is in CHECKOUT/build, and what is for a device in CHECKOUT/build-powerpc. Each returns one of the
 # launcher's exit statuses, after it has said on standard error why.
 
+# shellcheck source=wait_for_lock.sh
+source "${BASH_SOURCE[0]%/*}/wait_for_lock.sh"
 # shellcheck source=../appliance/launcher/exit_statuses.sh
 source "${BASH_SOURCE[0]%/*}/../appliance/launcher/exit_statuses.sh"
 
@@ -16,18 +18,16 @@ source "${BASH_SOURCE[0]%/*}/../appliance/launcher/exit_statuses.sh"
 PATH=$PATH:/usr/sbin:/sbin
 
 prepare() {
-  local checkout=$1 purpose=$2 reason
+  local checkout=$1 purpose=$2 reason lock_file=$1/build/.prepare
   local -a cmake_options=("${@:3}")
-  reason=$({ mkdir -p "$checkout/build" && : >>"$checkout/build/.prepare"; } 2>&1) || {
+  # For who owns it alone: whoever can read it can hold it.
+  reason=$({ mkdir -p "$checkout/build" && (umask 077 && : >>"$lock_file") && chmod 600 "$lock_file"; } 2>&1) || {
     echo "The folder $checkout/build cannot be written: ${reason##*: }. Copy the checkout to a folder that you may write to." >&2
     return "$STATUS_STATE"
   }
   (
     # A second one in the same checkout finds everything done.
-    exec {lock}>"$checkout/build/.prepare" && flock "$lock" || {
-      echo "The file $checkout/build/.prepare cannot be locked, which keeps two from building at once." >&2
-      exit 1
-    }
+    exec {lock}>"$lock_file" && wait_for_lock "$lock" "builds in $checkout" || exit
     install_missing_packages "$checkout" "$purpose" {lock}>&- && build "$checkout" "$purpose" {lock}>&-
   ) || return "$STATUS_PREPARE"
 }
@@ -55,8 +55,7 @@ install_missing_packages() {
     agree_to_installation || return
   fi
   echo "Installing Debian packages: ${missing[*]}" >&2
-  # The list of packages has a lock of its own that nothing waits for.
-  ${as_root[@]+"${as_root[@]}"} flock /var/lib/apt bash "$1/tools/install_switched_off" "${missing[@]}" >&2
+  ${as_root[@]+"${as_root[@]}"} bash "$1/tools/install_switched_off" "${missing[@]}" >&2
 }
 
 # Whoever has no rights on the machine by themselves is asked before it changes, where there is somebody to ask.

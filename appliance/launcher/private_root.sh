@@ -9,7 +9,8 @@
 #       namespace: a file by copying it, anything else as a directory, created when it is missing.
 #       /etc, /usr/bin, /var/lib and /var/tmp always are. The machine's secrets are not there: /home and /root start empty,
 #       and the files of passwords and keys in /etc are missing.
-#       /tmp, /run and /dev/shm start empty; /proc and /sys are those of the caller's namespaces.
+#       /tmp, /run and /dev/shm start empty; /proc and /sys are those of the caller's namespaces; what they have of the
+#       whole machine cannot be written.
 #   private_root_share ROOT PATH
 #       Makes the machine's own PATH (a directory) appear at its place in ROOT: what is written there
 #       reaches the machine.
@@ -232,7 +233,18 @@ _private_root_holds_mounts() {
 _private_root_kernel_views() {
   local root=$1
   mount -t proc -o nosuid,nodev,noexec proc "$root/proc" 2>/dev/null || mount --rbind /proc "$root/proc" || return
-  mount -t sysfs -o nosuid,nodev,noexec sysfs "$root/sys" 2>/dev/null || mount --rbind /sys "$root/sys"
+  mount -t sysfs -o ro,nosuid,nodev,noexec sysfs "$root/sys" 2>/dev/null || mount --rbind /sys "$root/sys" || return
+  ! _private_root_has_all_users || _private_root_protect_kernel "$root/proc"
+}
+
+# What there is of the whole machine's kernel is written by whoever has root's number, also without a single right of root's:
+# the program that is run for a crash, say. The network's settings are those of the private network.
+_private_root_protect_kernel() {
+  local proc=$1 path table=''
+  for path in "$proc"/sys/* "$proc"/{acpi,asound,bus,driver,fs,irq,mtrr,pressure,scsi,sysrq-trigger}; do
+    [[ ! -e $path || $path == "$proc/sys/net" ]] || _private_root_note none "$path" "$path" bind,ro
+  done
+  [[ -z $table ]] || _private_root_mount_noted "$layers"
 }
 
 _private_root_devices() {

@@ -20,7 +20,7 @@ constexpr std::size_t Room = 4096;   // zeros behind the name, for what is taken
 // As much of a library as the loader reads: one name, with zeros at its address.
 struct Image {
   ElfW(Ehdr) header;
-  ElfW(Phdr) segments[2];
+  ElfW(Phdr) segments[3];
   ElfW(Dyn) dynamic[6];
   std::uint32_t hash[5];  // one bucket with the one symbol, 1; no symbol is behind it
   ElfW(Sym) symbols[2];   // the first is none, always
@@ -40,6 +40,10 @@ void describeSegments(Image& image) {
   dynamic.p_offset = dynamic.p_vaddr = dynamic.p_paddr = offsetof(Image, dynamic);
   dynamic.p_filesz = dynamic.p_memsz = sizeof(image.dynamic);
   dynamic.p_align = alignof(ElfW(Dyn));
+  // A library that does not say so is taken for one that runs code on the stack, which newer loaders refuse.
+  ElfW(Phdr)& stack = image.segments[2];
+  stack.p_type = PT_GNU_STACK;
+  stack.p_flags = PF_R | PF_W;
 }
 
 // What the loader wants to know of this processor it is told as of this program, which it has loaded already.
@@ -52,7 +56,7 @@ bool describeFile(Image& image) {
   image.header.e_entry = 0;
   image.header.e_phoff = offsetof(Image, segments);
   image.header.e_phentsize = sizeof(ElfW(Phdr));
-  image.header.e_phnum = 2;
+  image.header.e_phnum = sizeof(image.segments) / sizeof(image.segments[0]);
   image.header.e_shoff = 0;
   image.header.e_shnum = 0;
   image.header.e_shstrndx = 0;

@@ -142,11 +142,11 @@ bool isTaken(const Receiver& receiver, const Receivers& taken) {
   if (!address || receiver.transport < 1 || receiver.transport > 2 || receiver.port < 1 ||
       receiver.port > 65535)
     return false;
-  return taken.size() < Velm::MostTrapRegistrations &&
-         std::none_of(taken.begin(), taken.end(), [&](const Receiver& other) {
-           return other.transport == receiver.transport && other.port == receiver.port &&
-                  reference::parseAddress(other.address) == address;
-         });
+  if (taken.size() >= Velm::MostTrapRegistrations) return false;
+  return std::none_of(taken.begin(), taken.end(), [&](const Receiver& other) {
+    return other.transport == receiver.transport && other.port == receiver.port &&
+           reference::parseAddress(other.address) == address;
+  });
 }
 
 // In the agent's notation, a word of its configuration.

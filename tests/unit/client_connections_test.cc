@@ -11,17 +11,19 @@
 
 namespace {
 
-constexpr Limits Small = {3, 5, 20};
+constexpr Limits Small = {3, 5, 20, 300};
 
-// The connection of that number, of a client that has sent and got so many bytes on it.
+// The connection of that number, of a client that has sent and got so many bytes on it, and has still to
+// get others.
 Connection connection(std::uint32_t number, const std::string& client, std::uint64_t received = 1,
-                      std::uint64_t sent = 0) {
+                      std::uint64_t sent = 0, std::uint32_t queued = 0) {
   Connection result = {};
   result.id.idiag_cookie[0] = number;
   result.family = client.find(':') == std::string::npos ? AF_INET : AF_INET6;
   inet_pton(result.family, client.c_str(), result.id.idiag_dst);
   result.received = received;
   result.sent = sent;
+  result.queued = queued;
   return result;
 }
 
@@ -59,6 +61,19 @@ TEST(ClientConnections, TakesANetworkOfIPv6ForOneClient) {
                                   connection(5, "2001:db8:20:1::1")}));
 }
 
+TEST(ClientConnections, EndsThoseOfTheAddressWithTheMostOfANetwork) {
+  ClientConnections connections(Small);
+  const auto of = [](std::uint32_t number, const std::string& end) {
+    return connection(number, "2001:db8:20::" + end);
+  };
+  EXPECT_EQ(Numbers(), beyond(connections, 1, {of(1, "bad"), of(2, "bad"), of(3, "bad")}));
+  // Neighbours who come later.
+  EXPECT_EQ(Numbers({3}), beyond(connections, 2, {of(1, "bad"), of(2, "bad"), of(3, "bad"), of(4, "a")}));
+  EXPECT_EQ(Numbers({2}), beyond(connections, 3, {of(1, "bad"), of(2, "bad"), of(4, "a"), of(5, "b")}));
+  // Of addresses that have as many as one another the newest goes.
+  EXPECT_EQ(Numbers({6}), beyond(connections, 4, {of(1, "bad"), of(4, "a"), of(5, "b"), of(6, "c")}));
+}
+
 TEST(ClientConnections, EndsOfTooManyInAllThoseThatHaveWaitedLongest) {
   ClientConnections connections(Small);
   const auto waiting = [](std::uint32_t number) {
@@ -80,6 +95,50 @@ TEST(ClientConnections, EndsARequestThatIsSentForTooLong) {
     EXPECT_EQ(Numbers(), beyond(connections, 100 + second, {connection(1, "10.20.0.2", 1 + second)}));
   }
   EXPECT_EQ(Numbers({1}), beyond(connections, 121, {connection(1, "10.20.0.2", 22)}));
+}
+
+// Each second a byte of the answer of before is taken, and one of the next request is sent; or one after the
+// other.
+TEST(ClientConnections, IsNotHeldUpByAnAnswerThatIsTakenSlowly) {
+  ClientConnections together(Small);
+  for (std::uint64_t second = 0; second <= Small.requestSeconds; ++second) {
+    EXPECT_EQ(Numbers(),
+              beyond(together, second, {connection(1, "10.20.0.2", 400 + second, 1 + second, 9000)}));
+  }
+  EXPECT_EQ(Numbers({1}), beyond(together, 21, {connection(1, "10.20.0.2", 421, 22, 9000)}));
+
+  ClientConnections inTurn(Small);
+  for (std::uint64_t second = 0; second <= Small.requestSeconds; ++second) {
+    const Connection one = connection(1, "10.20.0.2", 400 + second / 2, 1 + (second + 1) / 2, 9000);
+    EXPECT_EQ(Numbers(), beyond(inTurn, second, {one}));
+  }
+  EXPECT_EQ(Numbers(), beyond(inTurn, 21, {connection(1, "10.20.0.2", 410, 12, 9000)}));
+  EXPECT_EQ(Numbers({1}), beyond(inTurn, 22, {connection(1, "10.20.0.2", 411, 12, 9000)}));
+}
+
+TEST(ClientConnections, TakesAShortAnswerForOne) {
+  ClientConnections connections(Small);
+  for (std::uint64_t second = 0; second < 60; ++second) {
+    EXPECT_EQ(Numbers(),
+              beyond(connections, second, {connection(1, "10.20.0.2", 400 * (second + 1), 200 * second)}));
+  }
+}
+
+TEST(ClientConnections, EndsAnAnswerThatIsNotTaken) {
+  ClientConnections connections(Small);
+  for (std::uint64_t second = 0; second <= Small.answerSeconds; ++second) {
+    EXPECT_EQ(Numbers(), beyond(connections, second, {connection(1, "10.20.0.2", 400, second, 9000)}));
+  }
+  EXPECT_EQ(Numbers({1}), beyond(connections, 301, {connection(1, "10.20.0.2", 400, 301, 9000)}));
+}
+
+TEST(ClientConnections, LeavesWhoHasTakenItsAnswerItsTime) {
+  ClientConnections connections(Small);
+  const auto with = [](std::uint32_t queued) { return connection(1, "10.20.0.2", 400, 9000, queued); };
+  EXPECT_EQ(Numbers(), beyond(connections, 0, {with(9000)}));
+  EXPECT_EQ(Numbers(), beyond(connections, 200, {with(0)}));
+  EXPECT_EQ(Numbers(), beyond(connections, 500, {with(9000)}));
+  EXPECT_EQ(Numbers({1}), beyond(connections, 501, {with(9000)}));
 }
 
 TEST(ClientConnections, WaitsForAnAnswerHoweverLongItTakes) {

@@ -12,6 +12,7 @@ struct Limits {
   unsigned perClient;       // connections of one address, or of one network of IPv6
   unsigned inAll;           // of all clients
   unsigned requestSeconds;  // from the first byte of a request to its last one
+  unsigned answerSeconds;   // until the client has taken all that is sent to it
 };
 
 class ClientConnections {
@@ -28,11 +29,13 @@ class ClientConnections {
     Connection connection;
     std::uint64_t number;  // in the order in which they were seen first
     std::uint64_t requestBegan;
-    bool isAsking;   // has sent something since it last got something
-    bool isSending;  // has sent something since the last look
+    std::uint64_t answerBegan;  // when all that was sent to it was taken, the last time
+    bool isAsking;              // has sent something since it last got something
+    bool isSending;             // has sent something since the last look
     std::uint64_t seen;
   };
 
+  bool TakesTooLong(const Known& known) const;
   void Forget();
 
   const Limits limits_;

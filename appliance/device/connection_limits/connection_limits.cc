@@ -1,7 +1,7 @@
 // connectionLimits PORT...: ends connections to these ports of this machine that go beyond a limit: too many
-// of one client, too many in all, a request that is still being sent long after it began. The web server has
-// no such limits. Stays in the foreground. A kernel that cannot end a connection of somebody else's is
-// complained about once.
+// of one client, too many in all, a request that is still being sent long after it began, an answer that is
+// not taken. The web server has no such limits. Stays in the foreground. A kernel that cannot end a
+// connection of somebody else's is complained about once.
 #include <unistd.h>
 
 #include <cerrno>
@@ -17,7 +17,7 @@
 namespace {
 
 // Browsers open six, and a moment's worth of what a client opens beyond that is there until the next look.
-constexpr Limits WebService = {64, 1024, 20};
+constexpr Limits WebService = {64, 1024, 20, 300};
 constexpr unsigned SecondsBetweenLooks = 1;
 
 std::uint64_t secondsNow() {

@@ -50,6 +50,7 @@ Connection connectionOf(const nlmsghdr* message) {
   Connection connection = {};
   connection.id = socket->id;
   connection.family = socket->idiag_family;
+  connection.queued = socket->idiag_wqueue;
   takeCounts(message, connection);
   return connection;
 }

@@ -12,6 +12,7 @@ struct Connection {
   std::uint8_t family;
   std::uint64_t sent;  // bytes that the client has acknowledged
   std::uint64_t received;
+  std::uint32_t queued;  // bytes for the client that it has not acknowledged yet
 
   std::uint64_t Cookie() const;  // no two connections have the same
   std::uint16_t OwnPort() const;

@@ -20,18 +20,8 @@ behind_the_door "$@"
 SOCKETS=$CONFIGURATION/sockets # "http ADDRESS:PORT" and "https ...", and "published HTTP:HTTPS", the ports outside
 MODE=$CONFIGURATION/mode.conf
 KEY=$CONFIGURATION/key.pem
-CERTIFICATE_NAMES=$CONFIGURATION/certificate.names
 DAYS_VALID=825
 RENEWED_BEFORE=2592000 # seconds before its end
-
-# The names and addresses that the certificate is for, in openssl's notation.
-certificate_names() {
-  read_host_name host
-  printf 'DNS:%s,DNS:localhost,IP:127.0.0.1' "$host"
-  ip -oneline address show scope global | while read -r _ _ _ address _; do
-    printf ',IP:%s' "${address%/*}"
-  done
-}
 
 # The key is made once; the certificate again when the appliance has got another name or address, or when
 # it is about to end. Both again when they are damaged. One that can be used stays in use where no other can be made.
@@ -126,8 +116,7 @@ redirect() {
 redirect_http() {
   # Not for good: the mode can be switched off again.
   printf '%s\n' '$HTTP["scheme"] == "http" {' '  url.redirect-code = 307' \
-    '  $HTTP["url"] =~ "(\.php|/)$" {' \
-    '    setenv.add-response-header = ( "Content-Security-Policy" => "default-src '"'none'; frame-ancestors 'none'"'" )' '  }'
+    '  setenv.set-response-header = var.headers + var.of_errors'
   ports=$(sed -n 's/^published //p' "$SOCKETS")
   if [ -n "$ports" ]; then
     redirect "^(.+):${ports%:*}\$" ":${ports#*:}"

@@ -1,8 +1,27 @@
-# What the web service's certificate says, as facts. Sourced behind device.sh and transaction.sh.
+# What the web service's certificate says, as facts, and what it is to be for. Sourced behind device.sh and transaction.sh.
 # shellcheck shell=sh disable=SC2154 # variables are set by the functions that read into them
 
 CERTIFICATE=$LIBRARY/HTTPService/lighttpd/conf/certificate.pem
+CERTIFICATE_NAMES=$LIBRARY/HTTPService/lighttpd/conf/certificate.names # it was made for
 CERTIFICATE_CACHE=$RUN/certificate.facts # the certificate on the first line, what it says on the others
+
+# The names and addresses that the appliance has, in openssl's notation.
+certificate_names() {
+  read_host_name host
+  printf 'DNS:%s,DNS:localhost,IP:127.0.0.1' "$host"
+  ip -oneline address show scope global | while read -r _ _ _ address _; do
+    printf ',IP:%s' "${address%/*}"
+  done
+}
+
+# has_all_names NAMES: whether it was made for all of them, and maybe for others that the appliance had.
+has_all_names() {
+  read_line names_of_before "$CERTIFICATE_NAMES"
+  rest=$1,
+  while [ -n "$rest" ]; do
+    case ,$names_of_before, in *",${rest%%,*},"*) rest=${rest#*,} ;; *) return 1 ;; esac
+  done
+}
 
 # fact NAME VALUE
 fact() {
