@@ -279,7 +279,7 @@ async function goAfterRestart(link) {
       const {type} = await fetch('icon.svg', {cache: 'no-store', redirect: 'manual', signal: AbortSignal.timeout(3000)});
       if (type === 'opaqueredirect') break;
     } catch {
-      if (link.protocol !== location.protocol) break;
+      if (location.protocol === 'https:') break; // HTTP has no way to be sent on from here
     }
   }
   // It may not listen everywhere yet.

@@ -94,16 +94,16 @@ function certificate_facts()
     return $facts;
 }
 
-// Where this page is in the other mode. With HTTPS on, the address without it leads there too.
+// Where this page is in the other mode. It is not left to the web server to send on to HTTPS: a connection that the browser has
+// opened in advance may still lead to the one of before.
 function address_after($on)
 {
     if (!preg_match('/^(.*?)(:([0-9]+))?$/D', host_of_request(), $found) || $found[1] == '') {
         return 'security.php';
     }
     $port = isset($found[3]) ? $found[3] : '';
-    if (is_https() && !$on && $port != '') {
-        $port -= PORT_DISTANCE;
+    if ($port != '' && is_https() != $on) {
+        $port += $on ? PORT_DISTANCE : -PORT_DISTANCE;
     }
-    $scheme = is_https() && $on ? 'https://' : 'http://';
-    return $scheme . $found[1] . ($port == '' ? '' : ':' . $port) . '/security.php';
+    return ($on ? 'https://' : 'http://') . $found[1] . ($port == '' ? '' : ':' . $port) . '/security.php';
 }
