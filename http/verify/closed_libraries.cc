@@ -215,9 +215,9 @@ Place placeOf(const void* address) {
   Place place;
   Dl_info info;
   if (dladdr(address, &info) == 0 || info.dli_fname == nullptr) return place;
-  place.library = info.dli_fname;
+  place.path = info.dli_fname;
   place.offset = reinterpret_cast<std::uintptr_t>(address) - reinterpret_cast<std::uintptr_t>(info.dli_fbase);
-  takeName(fileOf(place.library).dynamicSymbols, place);
-  takeName(fileOf(place.library).internalSymbols, place);
+  takeName(fileOf(place.path).dynamicSymbols, place);
+  takeName(fileOf(place.path).internalSymbols, place);
   return place;
 }

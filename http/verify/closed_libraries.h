@@ -46,7 +46,7 @@ struct Place {
   std::string name;  // as the source says it; empty when the library does not say
   // All names that begin there: what is the same in machine code a compiler makes once.
   std::vector<std::string> names;
-  std::string library;         // its path; empty when the address is in none
+  std::string path;            // of its library; empty when the address is in none
   std::uintptr_t offset = 0;   // from the library's start
   std::size_t behindName = 0;  // bytes from the name's address on
   std::size_t nameSize = 0;    // bytes that belong to the name

@@ -43,7 +43,7 @@ void reportMissing(const Symbol& symbol, const ClosedLibraries& libraries) {
 // All values that the module reads out of the libraries are of 32 bits.
 void checkSizeOfValue(const Symbol& symbol, const void* address) {
   const Place place = placeOf(address);
-  const Symbol* const given = symbolOf(place.library, symbol.name);
+  const Symbol* const given = symbolOf(place.path, symbol.name);
   if (given == nullptr || !given->isData || given->size == sizeof(Result::Code)) return;
   wrong(demangled(symbol.name) + " has " + number(given->size) + " bytes, and the module reads " +
         number(sizeof(Result::Code)));

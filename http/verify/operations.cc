@@ -79,7 +79,7 @@ class Table {
   bool read(const std::string& interface, const void* object, unsigned int entries) {
     interface_ = interface;
     const void* table = nullptr;
-    if (!readWord(object, table) || placeOf(table).library.empty()) {
+    if (!readWord(object, table) || placeOf(table).path.empty()) {
       wrong("what the service gives for " + interface + " does not begin with a table of operations");
       return false;
     }
@@ -102,9 +102,9 @@ class Table {
   std::string at(unsigned int entry) const {
     if (entry >= entries_.size()) return "not there";
     const Place& place = entries_[entry];
-    if (place.library.empty()) return "no operation";
+    if (place.path.empty()) return "no operation";
     if (hasName(entry)) return place.names[0];
-    return "a nameless one (" + place.library + " at " + hexadecimal(place.offset) + ")";
+    return "a nameless one (" + place.path + " at " + hexadecimal(place.offset) + ")";
   }
 
   bool hasName(unsigned int entry) const { return entry < entries_.size() && !entries_[entry].names.empty(); }
