@@ -96,7 +96,9 @@ Everything that the management pages of a storage-library appliance need in
 order to be tried on a desk: device scripts, web server, SNMP agent and a
 small network with a DHCP server, all in namespaces of their own. The
 command network-appliance starts it; installing it starts nothing.")
+configure_file(${packaging}/network-appliance.prerm ${CMAKE_BINARY_DIR}/packaging/network-appliance/prerm COPYONLY)
 configure_file(${packaging}/network-appliance.postrm ${CMAKE_BINARY_DIR}/packaging/network-appliance/postrm COPYONLY)
-set(CPACK_DEBIAN_NETWORK-APPLIANCE_PACKAGE_CONTROL_EXTRA ${CMAKE_BINARY_DIR}/packaging/network-appliance/postrm)
+set(CPACK_DEBIAN_NETWORK-APPLIANCE_PACKAGE_CONTROL_EXTRA
+    ${CMAKE_BINARY_DIR}/packaging/network-appliance/prerm ${CMAKE_BINARY_DIR}/packaging/network-appliance/postrm)
 
 include(CPack)

@@ -41,28 +41,44 @@ ask_php_for_its_places() {
   done
 }
 
+# What php-network has installed on this machine is where it belongs already, and is the machine's own.
+module_is_installed() { [[ $PHP_EXTENSION_DIR/${MODULE_FILES[0]} -ef $1/${MODULE_FILES[0]} ]]; } # BUILD
+module_is_loaded() { grep -qsx "extension=${MODULE_FILES[0]}" "$1/$MODULE_CONFIGURATION"; }      # DIRECTORY
+
 # What belongs to the program, put in place afresh below ROOT; settings that are there stay.
 install_program() {
-  local root=$1 source=$2 build=$3 directory script
+  local root=$1 source=$2 build=$3 script
   local -a scripts=()
   for script in "$source"/appliance/device/scripts/*; do
     [[ ${script##*/} == "$ELSEWHERE" ]] || scripts+=("$script")
   done
   install -D -m 755 "$build/cmdwrap" "$root$COMMAND_WRAPPER" &&
-    install -D -m 644 -t "$root$PHP_EXTENSION_DIR" "${MODULE_FILES[@]/#/$build/}" &&
-    mkdir -p "${PHP_CONFIGURATION_DIRS[@]/#/$root}" "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat,etc} \
+    install_module "$root" "$build" &&
+    mkdir -p "$root$CORE_SERVICE"/{bin,dat} "$root$APP_MANAGER"/{bin,dat,etc} \
       "$root$WEB_SERVER"/{conf/extra,logs} "${PAGES_FOLDERS[@]/#/$root$WEB_SERVER/}" || return
-  for directory in "${PHP_CONFIGURATION_DIRS[@]}"; do
-    # A link of that name would lead out of the root.
-    rm -f "$root$directory/$MODULE_CONFIGURATION" &&
-      printf '%s\n' 'extension=network.so' '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
-        >"$root$directory/$MODULE_CONFIGURATION" || return
-  done
   install_changed 755 "$root$APP_MANAGER/bin" "${scripts[@]}" "${APP_MANAGER_PROGRAMS[@]/#/$build/}" &&
     install_changed 755 "$root$LIBRARY" "$source/appliance/device/scripts/$ELSEWHERE" &&
     install_changed 755 "$root$CORE_SERVICE/bin" "$build/management_database" &&
     install_changed 644 "$root$APP_MANAGER/etc" "$source/appliance/device/etc/internal_networks" &&
     install_changed 644 "$root$WEB_SERVER/conf" "$source/appliance/device/etc/lighttpd.conf"
+}
+
+# install_module ROOT BUILD: and what has the interpreters load it.
+install_module() {
+  local root=$1 build=$2 directory installed=''
+  if [[ -z $root ]] && module_is_installed "$build"; then
+    installed=yes
+  else
+    install -D -m 644 -t "$root$PHP_EXTENSION_DIR" "${MODULE_FILES[@]/#/$build/}" || return
+  fi
+  mkdir -p "${PHP_CONFIGURATION_DIRS[@]/#/$root}" || return
+  for directory in "${PHP_CONFIGURATION_DIRS[@]}"; do
+    [[ -z $installed ]] || ! module_is_loaded "$directory" || continue
+    # A link of that name would lead out of the root.
+    rm -f "$root$directory/$MODULE_CONFIGURATION" &&
+      printf '%s\n' "extension=${MODULE_FILES[0]}" '; A page that is saved is served as it is now.' 'opcache.revalidate_freq=0' \
+        >"$root$directory/$MODULE_CONFIGURATION" || return
+  done
 }
 
 # install_changed MODE FOLDER FILE...: what is there already as it is to be needs no room on the disk.

@@ -5,8 +5,9 @@
 #       Sets to_be_root to the options of unshare that this user adds to get the namespaces which the OPTIONs name, and
 #       root's rights in them: none, or those for a user namespace, which root without the right to the others may still
 #       have. Returns 1 where there are none to be had; namespaces_refusal is then what the kernel said.
-#   namespaces_advice
-#       Prints what a user who is not root can do about that, as the end of a sentence.
+#   namespaces_advice AS_ROOT IN_PLACE
+#       Prints what a user who is not root can do about that, as the end of a sentence. The two are commands: what was asked for,
+#       done as root, and done by root without namespaces.
 
 namespaces_choose() {
   to_be_root=()
@@ -35,12 +36,12 @@ namespaces_advice() {
     { read -r value <"/proc/sys/${file/.//}"; } 2>/dev/null
     # One that is no switch forbids it only with 0.
     [[ -n $value && ($value == 0 || $setting == *=0) && $value != "${setting#*=}" ]] || continue
-    echo "start it as root, or have root allow it to all users: sysctl -w $setting"
+    echo "start it as root ($1), or have root allow it to all users: sysctl -w $setting"
     return
   done
   if grep -q '^Seccomp:[[:space:]]*2$' /proc/self/status; then
-    echo 'start it as root; where root is allowed none either, as in most containers, with --in-place'
+    echo "start it as root ($1); where root is allowed none either, as in most containers, without ($2)"
   else
-    echo 'start it as root, or allow unprivileged user namespaces'
+    echo "start it as root ($1), or allow unprivileged user namespaces"
   fi
 }

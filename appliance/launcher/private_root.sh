@@ -185,7 +185,7 @@ _private_root_place_directory() {
     [[ ! -d $layers/upper$path ]] || _private_root_complete "$layers/upper$path" "$root$path"
   elif [[ $path == /usr || $path == /etc ]]; then
     error=${error%%$'\n'*} # what follows is where else to look
-    echo "The kernel refuses an overlay of $path, which the private root needs: ${error##*: }; --in-place, as root, does without" >&2
+    echo "The kernel refuses an overlay of $path, which the private root needs: ${error##*: }" >&2
     return 1
   else
     mount --rbind "$path" "$root$path" 2>/dev/null || true # unreadable for the caller here as there

@@ -2,6 +2,15 @@
 # All that the launcher's scripts tell each other, besides COMMAND: in the environment, from one to the next, in the
 # order launch, surroundings, build_root, run_services; or launch, in_place, run_services. An empty one is a "no".
 
+# Set by ./run, about how it was called. Whoever starts launch by itself is told of ./run:
+export APPLIANCE_CALLED_NAME=${APPLIANCE_CALLED_NAME:-./run}                # the command
+export APPLIANCE_CALLED_STATE=${APPLIANCE_CALLED_STATE-}                    # the folder that --state named, as it was named
+export APPLIANCE_CALLED_STATE_OF_ROOT=${APPLIANCE_CALLED_STATE_OF_ROOT-}    # the one that root's would have without --state
+export APPLIANCE_CALLED_REST=${APPLIANCE_CALLED_REST-}                      # the other words, quoted for a shell, each behind a blank
+
+# Set by launch, who still knows the user:
+export APPLIANCE_CALLED_IN_PLACE=${APPLIANCE_CALLED_IN_PLACE-} # the same command with --in-place, as root
+
 # Set by launch, from its options:
 export APPLIANCE_BUILD=${APPLIANCE_BUILD-}       # the folder of what was built
 export APPLIANCE_WORK=${APPLIANCE_WORK-}         # the folder in which others are mounted
