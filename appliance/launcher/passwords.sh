@@ -27,7 +27,7 @@ hand_over_passwords() {
     [[ -t 1 ]] || rm -f "$file"
   elif [[ -t 1 ]]; then
     printf '%s' "$text"
-  elif printf "%-${PASSWORDS_ROOM}s\n" "$text" 1<>"$file"; then
+  elif { printf "%-${PASSWORDS_ROOM}s\n" "$text" 1<>"$file"; } 2>/dev/null; then
     echo "The passwords are in $shown, for you alone to read: read it, then delete it."
   else
     return 1

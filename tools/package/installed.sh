@@ -15,12 +15,12 @@ if [[ $EUID == 0 ]]; then
 else
   # What starts programs for users need not name their home.
   [[ -n ${HOME-} ]] || { unset HOME && HOME=~; }
-  STATE=${XDG_STATE_HOME:-$HOME/.local/state}/network-appliance
+  STATE=${XDG_STATE_HOME:-$HOME/.local/state}/network-appliance WORK='' # chosen when it is needed
   # shellcheck disable=SC2088 # to be read
   STATE_SHOWN='~/.local/state/network-appliance'
 fi
 
-prepare() { [[ -n ${WORK-} ]] || choose_work; }
+prepare() { [[ -n $WORK ]] || choose_work; }
 
 # A home may be missing, or not be written to. What happens in this folder is seen by nobody else, and nothing of it stays.
 choose_work() {
