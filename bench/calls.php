@@ -70,6 +70,71 @@ function plain_get_network_dns()
         'dnsSecondary' => isset($servers[1]) ? $servers[1] : '');
 }
 
+// The rows of a query, by a connection and a statement that stay open, as the module's do.
+function plain_rows($query)
+{
+    static $database = null, $statements = array();
+    if ($database === null) {
+        $database = new SQLite3('/home/embedded/library/CoreService/dat/management.db', SQLITE3_OPEN_READONLY);
+        $database->busyTimeout(5000);
+    }
+    if (!isset($statements[$query])) {
+        $statements[$query] = $database->prepare($query);
+    }
+    $result = $statements[$query]->execute();
+    $rows = array();
+    while ($row = $result->fetchArray(SQLITE3_NUM)) {
+        $rows[] = $row;
+    }
+    $result->finalize();
+    return $rows;
+}
+
+function plain_get_ssl_settings()
+{
+    plain_trace('Entering get_ssl_settings');
+    plain_trace('Before slp->getAppMgmtConfigInterface()');
+    $rows = plain_rows('SELECT ssl_enabled FROM settings');
+    plain_trace('Exiting get_ssl_settings');
+    return (object) array('isEnabled' => (bool) $rows[0][0], 'port' => 443, 'cipher' => 'RSA');
+}
+
+function plain_get_snmp_settings()
+{
+    plain_trace('Entering get_snmp_settings');
+    plain_trace('Before slp->getAppMgmtConfigInterface()');
+    $versions = array_column(plain_rows('SELECT version FROM snmp_versions ORDER BY version'), 0);
+    plain_trace('Found # of versions:', count($versions));
+    foreach ($versions as $version) {
+        plain_trace('Found version:', $version);
+    }
+    $traps = plain_rows('SELECT auth_traps_enabled FROM settings');
+    plain_trace('SNMP auth traps are enabled:', $traps[0][0]);
+    $community = plain_rows('SELECT read_community FROM settings');
+    plain_trace('SNMP community:', $community[0][0]);
+    $settings = (object) array('version1' => in_array(1, $versions), 'version2' => in_array(2, $versions),
+        'version3' => in_array(3, $versions), 'trap1' => in_array(4, $versions), 'trap2' => in_array(5, $versions),
+        'algorithm' => 'MD5', 'encryption' => false, 'port' => 161, 'auth_traps_enabled' => (bool) $traps[0][0],
+        'community_name' => $community[0][0]);
+    plain_trace('Exiting get_snmp_settings');
+    return $settings;
+}
+
+function plain_get_snmp_trap_regs()
+{
+    plain_trace('entering get_snmp_trap_regs');
+    plain_trace('Before slp->getAppMgmtConfigInterface()');
+    $rows = plain_rows('SELECT identifier, transport, address, port FROM trap_registrations ORDER BY number');
+    plain_trace('Number of trap registratrations:', count($rows));
+    $registrations = array();
+    foreach ($rows as $row) {
+        fwrite(STDERR, "$row[1] - $row[2] - $row[3] - $row[0]\n");
+        $registrations[] = (object) array('transport' => $row[1], 'ip' => $row[2], 'port' => $row[3], 'id' => $row[0]);
+    }
+    plain_trace('Exiting get_snmp_trap_regs');
+    return $registrations;
+}
+
 // What the module makes of 20 trap registrations for the page.
 function plain_registrations()
 {

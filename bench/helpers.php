@@ -64,7 +64,8 @@ function interpreter($with_module)
 // How many nanoseconds one call of the function in calls.php takes, in a process of its own.
 function calls($function, $times)
 {
-    return command(...array_merge(interpreter(true), array(__DIR__ . '/calls.php', $function, (string) $times)));
+    $sqlite = preg_match('/^plain_get_s(sl|nmp)_/', $function) ? array('-d', 'extension=sqlite3') : array();
+    return command(...array_merge(interpreter(true), $sqlite, array(__DIR__ . '/calls.php', $function, (string) $times)));
 }
 
 function program($name, ...$arguments) { return command(PROGRAMS . "/$name", ...array_map('strval', $arguments)); }

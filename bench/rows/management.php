@@ -1,5 +1,5 @@
 <?php
-// Functions that ask the management services, beside bare SQLite reads of the same rows.
+// Functions that ask the management services, beside bare SQLite reads of the same rows, and beside the same in plain PHP.
 require dirname(__DIR__) . '/helpers.php';
 
 $times = amount(3000, 500);
@@ -25,10 +25,26 @@ function beside_rows($what, $function, $queries)
     global $times, $rounds;
     list($lines, $errors) = lines_of($function);
     $samples = in_turn(array(calls($function, $times), program('rows_of_sqlite', $times, 0, 0, ...$queries),
-        program('rows_of_sqlite', $times, $lines, $errors, ...$queries)), $rounds);
+        program('rows_of_sqlite', $times, $lines, $errors, ...$queries), calls("plain_$function", $times)), $rounds);
     ratio_row($what, 'SQLite reads', 'ns', at_most(1.3), $samples[0], $samples[1]);
     ratio_row("$what, all of it", 'SQLite reads, ' . in_words($lines, $errors), 'ns', at_most(1.25), $samples[0], $samples[2]);
+    ratio_row("$what, all of it", 'plain PHP with its own SQLite', 'ns', at_most(0.8), $samples[0], $samples[3]);
     return $samples[0];
+}
+
+// How many instructions, outside of the kernel, a call executes in functions and what they call: a function of a pattern.
+function instructions_of($times, $function)
+{
+    $profile = WORK . '/profile';
+    last_line(array_merge(array('valgrind', '--tool=callgrind', "--callgrind-out-file=$profile", "--toggle-collect=zif_$function*"),
+        interpreter(true), array(dirname(__DIR__) . '/calls.php', $function, (string) $times)));
+    $annotated = (string) shell_exec("callgrind_annotate --inclusive=yes '$profile' 2>&1");
+    return function ($functions) use ($annotated, $times) {
+        if (!preg_match_all("/^ *([0-9,]+) \\([^)]*\\) +[^:]*:$functions(?:\\(| )/m", $annotated, $found)) {
+            fail("no instructions of $functions were counted");
+        }
+        return array_sum(str_replace(',', '', $found[1])) / ($times + 1); // which calls once before
+    };
 }
 
 // Beside the same for a change.
@@ -52,6 +68,13 @@ compare('... 20 trap registrations by the management library', 'SQLite reads', '
     program('rows_of_sqlite', $times, 0, 0, ...$traps), $rounds);
 compare('... 20 objects of four properties in PHP', 'get_snmp_trap_regs(), 20', 'ns', null, calls('plain_registrations', $times),
     calls('get_snmp_trap_regs', $times), $rounds);
+// Counted, which no other work on the machine changes.
+$instructions = instructions_of(amount(200, 5), 'get_snmp_trap_regs');
+foreach (array('Velm::AppConfig::getTrapRegistrations' => 'the management library with SQLite',
+    '__fprintf_chk' => 'the error log', 'add(?:String|Integer)' => 'the properties') as $functions => $whose) {
+    ratio_row("... $whose, for 20", 'the whole call', 'instr.', null, array($instructions($functions)),
+        array($instructions('zif_get_snmp_trap_regs')));
+}
 value_row('... an identifier turned into text', 'ns', null, google_samples('^IdentifierText$', 'cpu_time')['IdentifierText']);
 register_traps(0);
 // Linear: what one registration more costs from 5 to 20, beside what it costs from 0 to 5.
