@@ -64,7 +64,7 @@ function interpreter($with_module)
 // How many nanoseconds one call of the function in calls.php takes, in a process of its own.
 function calls($function, $times)
 {
-    $sqlite = preg_match('/^plain_get_s(sl|nmp)_/', $function) ? array('-d', 'extension=sqlite3') : array();
+    $sqlite = array('-d', 'extension=sqlite3'); // for what does it in plain PHP; the module's library uses the same
     return command(...array_merge(interpreter(true), $sqlite, array(__DIR__ . '/calls.php', $function, (string) $times)));
 }
 
@@ -92,7 +92,7 @@ function register_traps($count)
     last_line(array('sqlite3', '-cmd', '.timeout 5000', DATABASE, $commands));
 }
 
-// Lets the candidates measure in turn, A B A B ..., and returns the samples of each. What comes first in a round changes, so
+// Lets the candidates measure in turn, A B B A ..., and returns the samples of each. What comes first in a round changes, so
 // that no one always finds the other's caches.
 function in_turn($candidates, $rounds)
 {

@@ -9,13 +9,9 @@ foreach (array('ipv4Manager.sh -g host', 'ipv4Manager.sh -d status', 'ipv6Manage
     'ipv6Manager.sh -g all', 'ipv6Manager.sh -g dns', 'ipv4Manager.sh -g port') as $read) {
     $words = array_merge($words, $words ? array('--') : array(), array('/bin/sh'), explode(' ', "$bin/$read"));
 }
-$measure = function ($where) use ($times, $words) {
-    $samples = in_turn(array(calls('get_fw_settings', $times), program('commands', $times, ...$words),
-        program('commands', $times, '--at-once', ...$words)), amount(15, 3));
-    ratio_row("get_fw_settings(), DHCP on$where", 'its scripts in turn, C++', 'ns', at_most(0.6), $samples[0], $samples[1]);
-    // What the processors leave of running all of them at the same time, without the module and its wrapper.
-    ratio_row("... its scripts at once, C++$where", 'its scripts in turn, C++', 'ns', null, $samples[2], $samples[1]);
-    ratio_row("... get_fw_settings(), DHCP on$where", 'its scripts at once, C++', 'ns', null, $samples[0], $samples[2]);
-};
-$measure('');
-as_on_a_device(function () use ($measure) { $measure(', as on a device'); });
+$samples = in_turn(array(calls('get_fw_settings', $times), program('commands', $times, ...$words),
+    program('commands', $times, '--at-once', ...$words)), amount(15, 3));
+ratio_row('get_fw_settings(), DHCP on', 'its scripts in turn, C++', 'ns', at_most(0.6), $samples[0], $samples[1]);
+// What the processors leave of running all of them at the same time, without the module.
+ratio_row('... its scripts at once, C++', 'its scripts in turn, C++', 'ns', null, $samples[2], $samples[1]);
+ratio_row('... get_fw_settings(), DHCP on', 'its scripts at once, C++', 'ns', null, $samples[0], $samples[2]);
