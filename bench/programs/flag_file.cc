@@ -2,8 +2,8 @@
 // writes: three lines of the trace with the FUNCTION's name and WHAT it looks for, and a look for a file.
 // Prints how many nanoseconds one time took.
 //
-// flag_file FUNCTION WHAT START END FLAG: from START to END, in nanoseconds of the monotonic clock; prints how
-// often.
+// flag_file FUNCTION WHAT START END FLAG: from START to END, in nanoseconds of the monotonic clock; prints
+// how often.
 #include <sys/time.h>
 
 #include <string>
