@@ -4,6 +4,7 @@
 #   prepare CHECKOUT to-run     what the software appliance needs
 #   prepare CHECKOUT to-test    what the tests need, too
 #   prepare CHECKOUT to-bench   what bench/run needs, besides what the software appliance does
+#   prepare CHECKOUT for-debian what makes the Debian packages, besides what the software appliance does
 #   prepare CHECKOUT for-device [-DOPTION=VALUE...]   what goes onto a device, with options for CMake
 #
 # What was built is in CHECKOUT/build, and what is for a device in CHECKOUT/build-powerpc. Each returns one of the

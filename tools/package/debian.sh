@@ -4,7 +4,7 @@
 package_debian() {
   local file
   [[ $# == 0 ]] || fail "$STATUS_USAGE" 'Options for CMake go with ./package device.'
-  prepare "$CHECKOUT" to-run || exit
+  prepare "$CHECKOUT" for-debian || exit
   make_work_folder
   # A build of before there were packages does not know them.
   must "$STATUS_PREPARE" 'The build does not describe the packages' cmake -S "$CHECKOUT" -B "$CHECKOUT/build"
