@@ -12,10 +12,10 @@ PLACES_OF_PAGE=("$EMBEDDED" /tmp/{module,scripted_platform,kept})
 COPY=/tmp/checkout
 
 # in_place_begin PATH...: waits for another one that does the same, then sees to it that the places are empty when this
-# process has ended, however, and puts there what is named and of the checkout. Returns 1 after a reason on standard output
+# process has ended, however, and copies there what is named and of the checkout. Returns 1 after a reason on standard output
 # when they cannot be used.
 in_place_begin() {
-  local place
+  local place said
   [[ $EUID == 0 ]] || { echo 'and only root could have them run on the machine itself' && return 1; }
   { exec {in_place_lock}<"${EMBEDDED%/*}" && flock "$in_place_lock"; } || { echo "and ${EMBEDDED%/*} cannot be locked" && return 1; }
   for place in "${PLACES[@]}" "$COPY"; do
@@ -27,7 +27,10 @@ in_place_begin() {
     while [[ -n ${tests-} ]] && kill -KILL -- "-$tests"; do sleep 0.05; done
     rm -rf "$@"' bash "${PLACES[@]}" "$COPY" >/dev/null 2>&1)
   in_place_guardian=$!
-  in_place_copy "$@" || fail "What the tests need cannot be copied to $COPY."
+  said=$(in_place_copy "$@" 2>&1) || {
+    in_place_end
+    fail "What the tests need cannot be copied to $COPY: ${said##*: }."
+  }
 }
 
 # in_place_copy PATH...: each to where it is in the checkout, for everybody to read.
