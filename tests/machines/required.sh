@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154 # what counts.sh sets
 # What ./test has to have said on a machine, besides that nothing failed: there is no failure where nothing is tried. To be
 # sourced by bash behind counts.sh.
 #
