@@ -64,7 +64,8 @@ function interpreter($with_module)
 // How many nanoseconds one call of the function in calls.php takes, in a process of its own.
 function calls($function, $times)
 {
-    return command(...array_merge(interpreter(true), array(__DIR__ . '/calls.php', $function, (string) $times)));
+    $sqlite = array('-d', 'extension=sqlite3'); // for what does it in plain PHP; the module's library uses the same
+    return command(...array_merge(interpreter(true), $sqlite, array(__DIR__ . '/calls.php', $function, (string) $times)));
 }
 
 function program($name, ...$arguments) { return command(PROGRAMS . "/$name", ...array_map('strval', $arguments)); }
@@ -91,7 +92,7 @@ function register_traps($count)
     last_line(array('sqlite3', '-cmd', '.timeout 5000', DATABASE, $commands));
 }
 
-// Lets the candidates measure in turn, A B A B ..., and returns the samples of each. What comes first in a round changes, so
+// Lets the candidates measure in turn, A B B A ..., and returns the samples of each. What comes first in a round changes, so
 // that no one always finds the other's caches.
 function in_turn($candidates, $rounds)
 {

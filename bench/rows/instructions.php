@@ -80,7 +80,8 @@ function group($name, $calls)
         $ratios[] = $counts['emulated'] / $counts['here'];
         ratio_row("$what: instructions", 'the same call natively', 'instr.', null, array($counts['emulated']), array($counts['here']));
     }
-    row("most of a call's ratios, group \"$name\"", "the group's median", '', at_most(1.5), 'ratio', array(max($ratios) / median($ratios)),
+    $target = QUICK ? null : at_most(1.5); // of one call it is always 1
+    row("the highest ratio of a call in the group \"$name\"", "the group's median", '', $target, 'ratio', array(max($ratios) / median($ratios)),
         array(max($ratios)), array(median($ratios)));
 }
 

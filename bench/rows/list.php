@@ -14,4 +14,7 @@ ratio_row_of_all_pairs('... the blocks of 10000 alone', 'the list', 'ns', null, 
 $pages = 10000 / 4 / 2;
 $steps = array_map(function ($time) use ($pages) { return $time / 10000 / $pages; }, $samples['ListShuffled/10000']);
 value_row('... a page passed on the way to one of 10000', 'ns', null, $steps);
+if (program('parts', 'allocations', 5)() != 1) {
+    fail('the block that a fifth element takes is not counted');
+}
 value_row('list of 4: blocks from the heap', '', at_most(0), array(program('parts', 'allocations', 4)()));

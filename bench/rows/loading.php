@@ -35,8 +35,8 @@ foreach (array('Private_Dirty' => 'memory of its own', 'Rss' => 'all of the memo
     difference_row("loading the module: $what", 'the interpreter without it', 'bytes', at_most(300 * 1024), $samples[0], $samples[1]);
 }
 // Whose that is: the mappings of a process with the module, by their files.
-foreach (array('network\.so|libTarn|libVelm|libdovan_util' => 'the module and the three libraries', 'libstdc|libgcc|libm\.|libsqlite3' =>
-    'the libraries of C++ and SQLite') as $files => $whose) {
+foreach (array('network\.so|libTarn|libVelm|libdovan_util' => 'the module and the three libraries', 'libsqlite3' => 'the library of SQLite',
+    'libstdc|libgcc|libm\.' => 'the libraries of C++') as $files => $whose) {
     $print = '$sum = 0; $counts = false; foreach (file("/proc/self/smaps") as $line) { if (preg_match("/^[0-9a-f]+-/", $line))'
         . ' $counts = preg_match("#/(' . $files . ')#", $line); elseif ($counts && preg_match("/^Rss: *(\d+)/", $line, $found))'
         . ' $sum += $found[1]; } echo $sum * 1024, "\n";';
