@@ -6,6 +6,16 @@
 #
 #   required_with_namespaces LOG [SUITE...]   nothing is skipped but what may_be_skipped names
 #   required_in_container LOG [SUITE...]      those that need no namespaces have run, but for what needs a private root
+#
+#   required_of WHICH LOG COMMAND...   runs the COMMAND with the suites of the array `suites`, shows what it says, and judges it
+#                                      by that one of the two; returns 0 when it has succeeded and nothing is missing
+
+required_of() {
+  local which=$1 log=$2 status
+  "${@:3}" ${suites[@]+"${suites[@]}"} 2>&1 | tee "$log"
+  status=${PIPESTATUS[0]}
+  "$which" "$log" ${suites[@]+"${suites[@]}"} && return "$status"
+}
 
 REQUIRED_IN_CONTAINER=(unit contract engine style)
 
