@@ -4,17 +4,22 @@
 #   namespaces_choose OPTION...
 #       Sets to_be_root to the options of unshare that this user adds to get the namespaces which the OPTIONs name, and
 #       root's rights in them: none, or those for a user namespace, which root without the right to the others may still
-#       have. Returns 1 where there are none to be had; namespaces_refusal is then what the kernel said.
+#       have. Returns 1 where there are none to be had; namespaces_refusal is what the kernel said last when it refused some.
 #   namespaces_advice AS_ROOT IN_PLACE
 #       Prints what a user who is not root can do about that, as the end of a sentence. The two are commands: what was asked for,
 #       done as root, and done by root without namespaces.
 
 namespaces_choose() {
   to_be_root=()
-  [[ $EUID != 0 ]] || ! _namespaces_are_allowed "$@" 2>/dev/null || return 0
+  [[ $EUID != 0 ]] || ! _namespaces_try "$@" || return 0
   to_be_root=(--user --map-root-user)
-  namespaces_refusal=$(_namespaces_are_allowed "$@" 2>&1) && return
-  namespaces_refusal=${namespaces_refusal##*$'\n'} namespaces_refusal=${namespaces_refusal#unshare: }
+  _namespaces_try "$@"
+}
+
+_namespaces_try() {
+  local said
+  said=$(_namespaces_are_allowed "$@" 2>&1) && return
+  namespaces_refusal=${said##*$'\n'} namespaces_refusal=${namespaces_refusal#unshare: }
   return 1
 }
 

@@ -215,6 +215,13 @@ _private_root_complete() {
   done
 }
 
+# Also in a user namespace, when root has made it, and with root's number alone.
+_private_root_is_root_outside() {
+  local inside outside
+  read -r inside outside _ </proc/self/uid_map
+  [[ $inside == 0 && $outside == 0 ]]
+}
+
 _private_root_has_all_users() {
   local inside outside count
   read -r inside outside count </proc/self/uid_map
@@ -234,7 +241,7 @@ _private_root_kernel_views() {
   local root=$1
   mount -t proc -o nosuid,nodev,noexec proc "$root/proc" 2>/dev/null || mount --rbind /proc "$root/proc" || return
   mount -t sysfs -o ro,nosuid,nodev,noexec sysfs "$root/sys" 2>/dev/null || mount --rbind /sys "$root/sys" || return
-  ! _private_root_has_all_users || _private_root_protect_kernel "$root/proc"
+  ! _private_root_is_root_outside || _private_root_protect_kernel "$root/proc"
 }
 
 # What there is of the whole machine's kernel is written by whoever has root's number, also without a single right of root's:
@@ -242,7 +249,7 @@ _private_root_kernel_views() {
 _private_root_protect_kernel() {
   local proc=$1 path table=''
   for path in "$proc"/sys/* "$proc"/{acpi,asound,bus,driver,fs,irq,mtrr,pressure,scsi,sysrq-trigger}; do
-    [[ ! -e $path || $path == "$proc/sys/net" ]] || _private_root_note none "$path" "$path" bind,ro
+    [[ ! -e $path || $path == "$proc/sys/net" ]] || _private_root_note none "$path" "$path" bind,ro,nosuid,nodev,noexec
   done
   [[ -z $table ]] || _private_root_mount_noted "$layers"
 }

@@ -10,9 +10,18 @@
 #   command            what a program is run with; none: by itself
 #   preloaded          what is to be loaded into an interpreter
 #   interpreter_options  what an interpreter is called with
+#   needs              options that name to the contract tests what of the checkout an interpreter needs
 #   faults             which planted faults it has to find, and by which words its report is known
 
+# shellcheck source=../../appliance/launcher/install.sh
+source "$CHECKOUT/appliance/launcher/install.sh"
+# shellcheck source=../../appliance/launcher/namespaces.sh
+source "$CHECKOUT/appliance/launcher/namespaces.sh"
+# shellcheck source=../contract/in_place.sh
+source "$TESTS/contract/in_place.sh"
+
 INTERPRETERS=(php php-cgi)
+suppressions=$HERE/suppressions
 LIBRARIES=(libTarn.so libVelm.so libdovan_util.so)
 
 # By the compiler that needs half the time for it.
@@ -36,7 +45,7 @@ describe_address() {
     local common=log_path=$1/report:exitcode=99
     settings=(
       "ASAN_OPTIONS=$common:verify_asan_link_order=0:strict_string_checks=1:detect_stack_use_after_return=1"
-      "LSAN_OPTIONS=suppressions=$HERE/suppressions/leaks:print_suppressions=0"
+      "LSAN_OPTIONS=suppressions=$suppressions/leaks:print_suppressions=0"
       "UBSAN_OPTIONS=$common:print_stacktrace=1"
       USE_ZEND_ALLOC=0
     )
@@ -69,7 +78,7 @@ describe_valgrind() {
     command=(
       /usr/libexec/valgrind/memcheck-amd64-linux --quiet --error-exitcode=99 --leak-check=full
       --errors-for-leak-kinds=definite --show-leak-kinds=definite --child-silent-after-fork=yes
-      "--suppressions=$HERE/suppressions/valgrind" "--log-file=$1/report.%p"
+      "--suppressions=$suppressions/valgrind" "--log-file=$1/report.%p"
     )
   }
 }
@@ -128,8 +137,11 @@ refer() {
 }
 
 build_interpreters() {
-  local name beside=$work/beside_sanitizer.so
+  local name beside=$work/beside_sanitizer.so suppressions=$suppressions
+  needs=(--needs "$beside" --needs "$suppressions")
   mkdir -p "$work/bin" && gcc -O1 -Wall -Wextra -Werror -shared -fPIC -o "$beside" "$HERE/beside_sanitizer.c" || return
+  # Where the contract tests have no private root they see the copy.
+  namespaces_choose --mount --uts --pid --ipc || { beside=$(in_place_path "$beside") && suppressions=$(in_place_path "$suppressions"); }
   use_settings "$KEPT"
   for name in "${INTERPRETERS[@]}"; do
     wrap "$(type -P "$name")" "$work/bin/$name" "${preloaded:+$beside:$preloaded}" ${interpreter_options[@]+"${interpreter_options[@]}"} || return

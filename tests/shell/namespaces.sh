@@ -3,9 +3,11 @@
 #
 #   namespaces_are_enough
 #       Returns 1 where the machine does not allow what an appliance needs; namespaces_lack is then why, as a sentence.
-#   skip_suite_without_namespaces SUITE NUMBER
-#       There, ends the suite, of which so many tests are skipped, with one sentence.
+#   skip_suite_without_namespaces SUITE FILE...
+#       There, ends the suite, of which these files are skipped, with one sentence.
 
+# shellcheck source=counts.sh
+source "${BASH_SOURCE[0]%/*}/counts.sh"
 # shellcheck source=../../appliance/launcher/namespaces.sh
 source "${BASH_SOURCE[0]%/*}/../../appliance/launcher/namespaces.sh"
 
@@ -22,7 +24,9 @@ namespaces_are_enough() {
 
 skip_suite_without_namespaces() {
   ! namespaces_are_enough || return 0
-  echo "skip $1: $namespaces_lack"
-  echo "0 passed, 0 failed, $2 skipped"
+  local suite=$1
+  shift
+  echo "skip $suite: $# of $# files: $namespaces_lack"
+  counts_line 0 0 $#
   exit 0
 }

@@ -4,8 +4,8 @@
 #
 #   run_test_files FOLDER AT_ONCE SECONDS [NAME...]
 #       Runs FOLDER/NAME.test, or all that are in the folder, AT_ONCE of them at the same time, the largest first, each
-#       for at most SECONDS. Shows what they say, file after file, and ends with "N passed, N failed"; returns 1 when
-#       one failed. What each has said stays in build/tests/logs/SUITE/. Where the machine allows no appliance only those
+#       for at most SECONDS. Shows what they say, file after file, and ends with the line of counts.sh; returns 1 when
+#       one failed, or when there was nothing at all. What each has said stays in build/tests/logs/SUITE/. Where the machine allows no appliance only those
 #       are run that say with a line of their own, "# It needs no appliance.", that they can.
 #
 # A suite whose files are no executables sets what they are called and what runs them before that.
@@ -57,7 +57,7 @@ run_test_file() {
 }
 
 show_and_count() {
-  local logs=$1 passed=0 failed=0 skipped=$left_out name log broken summary
+  local logs=$1 passed=0 failed=0 skipped=$left_out name log broken
   shift
   for name; do
     log=$logs/$name.log broken=$(grep -c '^not ok ' "$logs/$name.log")
@@ -69,8 +69,6 @@ show_and_count() {
     ((broken == 0)) || echo "That was $name."
     ((passed += $(grep -c '^ok ' "$log"), skipped += $(grep -c '^skip ' "$log"), failed += broken))
   done
-  summary="$passed passed, $failed failed"
-  ((skipped == 0)) || summary+=", $skipped skipped"
-  echo "$summary"
-  ((failed == 0 && passed + left_out > 0))
+  counts_line "$passed" "$failed" "$skipped"
+  ((failed == 0 && passed + skipped > 0))
 }
