@@ -29,7 +29,6 @@ function beside_rows($what, $function, $queries)
     ratio_row($what, 'SQLite reads', 'ns', at_most(1.3), $samples[0], $samples[1]);
     ratio_row("$what, all of it", 'SQLite reads, ' . in_words($lines, $errors), 'ns', at_most(1.25), $samples[0], $samples[2]);
     ratio_row("$what, all of it", 'plain PHP with its own SQLite', 'ns', at_most(0.8), $samples[0], $samples[3]);
-    return $samples[0];
 }
 
 // How many instructions, outside of the kernel, a call of the module's function executes in some functions and in what they call: a
@@ -73,10 +72,9 @@ function beside_the_same($what, $name, $times, $queries, $in_words)
 
 beside_rows('get_ssl_settings()', 'get_ssl_settings', $ssl);
 beside_rows('get_snmp_settings()', 'get_snmp_settings', $snmp);
-$samples = array();
 foreach (array(0, 4, 5, 20) as $count) {
     register_traps($count);
-    $samples[$count] = beside_rows("get_snmp_trap_regs(), $count", 'get_snmp_trap_regs', $traps);
+    beside_rows("get_snmp_trap_regs(), $count", 'get_snmp_trap_regs', $traps);
 }
 // Where the time of 20 goes: reading them by the management library, and making the page's values of them.
 compare('... 20 trap registrations by the management library', 'SQLite reads', 'ns', null, program('registrations', $times),
@@ -97,11 +95,19 @@ $counted('of that, the error log', in_words($lines, $errors), $call('__fprintf_c
 value_row('... of that, the properties, instructions', 'instr.', null, array($call('add(?:String|Integer)')));
 value_row('... an identifier turned into text', 'ns', null, google_samples('^IdentifierText$', 'cpu_time')['IdentifierText']);
 register_traps(0);
-// Linear: what one registration more costs from 5 to 20, beside what it costs from 0 to 5.
-$slope = function ($from, $to) use ($samples) {
-    return (median($samples[$to]) - median($samples[$from])) / ($to - $from);
+// Linear: what one registration more costs from 10 to 20, beside what it costs from 0 to 10.
+$with_registrations = function ($count) use ($times) {
+    $measure = calls('get_snmp_trap_regs', $times);
+    return function () use ($count, $measure) {
+        register_traps($count);
+        return $measure();
+    };
 };
-ratio_row('one trap registration more, 5 to 20', '0 to 5', 'ns', at_most(1.3), array($slope(5, 20)), array($slope(0, 5)));
+$samples = in_turn(array(0 => $with_registrations(0), 10 => $with_registrations(10), 20 => $with_registrations(20)), $rounds);
+$each = function ($more, $less) { return ($more - $less) / 10; };
+ratio_row('one trap registration more, 10 to 20', '0 to 10', 'ns', at_most(1.3), array_map($each, $samples[20], $samples[10]),
+    array_map($each, $samples[10], $samples[0]));
+register_traps(0);
 
 // Changes that run no command.
 beside_the_same('set_ssl_settings(), unchanged', 'unchanged_ssl', $times, $ssl, 'SQLite reads');
