@@ -94,7 +94,6 @@ $counted('of that, the management library', 'SQLite reads', $call('Velm::AppConf
 $counted('of that, the error log', in_words($lines, $errors), $call('__fprintf_chk'), $all - $reads);
 value_row('... of that, the properties, instructions', 'instr.', null, array($call('add(?:String|Integer)')));
 value_row('... an identifier turned into text', 'ns', null, google_samples('^IdentifierText$', 'cpu_time')['IdentifierText']);
-register_traps(0);
 // Linear: what one registration more costs from 10 to 20, beside what it costs from 0 to 10.
 $with_registrations = function ($count) use ($times) {
     $measure = calls('get_snmp_trap_regs', $times);
