@@ -60,7 +60,7 @@ function per_call($programs, $call)
     return $many;
 }
 
-$power = CHECKOUT . '/build-powerpc';
+$power = CHECKOUT . '/build-powerpc-tests';
 $native = PROGRAMS . '/native';
 $plugin = PROGRAMS . '/count_instructions.so';
 $emulated = "qemu-ppc -plugin $plugin -d plugin -L /usr/powerpc-linux-gnu $power/tests/engine_host $power/network.so";
