@@ -1,25 +1,28 @@
 <?php
-// What the pages may not use, because the appliance's interpreter (4.3) does not have it or because today's
-// has no longer: prints each finding as FILE:LINE: what, and ends with status 1 when there is any.
+// What the pages, and the contract tests of every engine, may not use, because the appliance's interpreter (4.3) does not have
+// it or because today's has no longer: prints each finding as FILE:LINE: what, and ends with status 1 when there is any.
 //
-//   php subset.php FOLDER STUB     STUB declares the functions of the module
+//   php subset.php FOLDER STUB     FOLDER/{htdocs,shared,templates}/*.php, which call all functions that STUB declares
 
 // Functions that were there before 4.4 and are there still.
-$old = array('abs', 'array_fill', 'array_intersect', 'array_keys', 'array_merge', 'array_reverse', 'array_shift',
-    'array_slice', 'array_splice', 'arsort', 'basename', 'bin2hex', 'ceil', 'chgrp', 'chmod', 'chown',
-    'clearstatcache', 'closedir', 'count', 'crc32', 'crypt', 'dechex', 'define', 'defined', 'dirname', 'end',
-    'error_log', 'error_reporting', 'exec', 'explode', 'extract', 'fclose', 'feof', 'fflush', 'fgetc', 'fgets',
-    'file', 'file_exists', 'filegroup', 'filemtime', 'fileowner', 'filesize', 'flock', 'fopen', 'fread', 'fseek',
-    'ftell', 'ftruncate', 'function_exists', 'fwrite', 'getmypid', 'gmdate', 'gmmktime', 'header', 'headers_sent', 'hexdec',
-    'htmlspecialchars', 'implode', 'in_array', 'ini_set', 'intval', 'is_array', 'is_dir', 'is_file', 'is_readable',
-    'is_string', 'is_uploaded_file', 'ksort', 'ltrim', 'max', 'md5', 'microtime', 'min', 'mkdir', 'ob_get_clean',
-    'ob_get_level', 'ob_start', 'opendir', 'ord', 'php_sapi_name', 'php_uname', 'preg_match', 'preg_replace',
-    'proc_close', 'proc_open', 'readdir', 'readfile', 'register_shutdown_function', 'rename', 'reset', 'rewind',
-    'rtrim', 'serialize', 'session_cache_limiter', 'session_destroy', 'session_id', 'session_save_path',
-    'session_start', 'session_write_close', 'set_error_handler', 'sha1', 'sprintf', 'str_repeat', 'str_replace',
-    'stream_select', 'stream_set_blocking', 'stripslashes', 'strlen', 'strpos', 'strtolower', 'strtoupper', 'strtr',
-    'substr', 'time', 'trim', 'ucfirst', 'umask', 'unlink', 'unserialize', 'urldecode', 'urlencode', 'usleep',
-    'usort');
+$old = array('abs', 'addcslashes', 'array_diff', 'array_fill', 'array_intersect', 'array_keys', 'array_merge',
+    'array_reverse', 'array_shift', 'array_slice', 'array_splice', 'array_unique', 'arsort', 'basename', 'bin2hex',
+    'ceil', 'chgrp', 'chmod', 'chown', 'chr', 'clearstatcache', 'closedir', 'count', 'crc32', 'crypt', 'date',
+    'dechex', 'define', 'defined', 'dirname', 'end', 'error_log', 'error_reporting', 'exec', 'explode', 'extract',
+    'fclose', 'feof', 'fflush', 'fgetc', 'fgets', 'file', 'file_exists', 'filegroup', 'filemtime', 'fileowner',
+    'fileperms', 'filesize', 'flock', 'fopen', 'fread', 'fseek', 'ftell', 'ftruncate', 'func_get_args',
+    'function_exists', 'fwrite', 'get_class', 'get_object_vars', 'getenv', 'getmypid', 'gettype', 'glob', 'gmdate',
+    'gmmktime', 'header', 'headers_sent', 'hexdec', 'htmlspecialchars', 'implode', 'in_array', 'ini_set', 'intval',
+    'is_array', 'is_bool', 'is_dir', 'is_file', 'is_link', 'is_object', 'is_readable', 'is_string', 'is_uploaded_file',
+    'ksort', 'ltrim', 'max', 'md5', 'microtime', 'min', 'mkdir', 'ob_get_clean', 'ob_get_level', 'ob_start', 'opendir',
+    'ord', 'pclose', 'php_sapi_name', 'php_uname', 'popen', 'preg_grep', 'preg_match', 'preg_match_all', 'preg_quote',
+    'preg_replace', 'preg_split', 'printf', 'proc_close', 'proc_open', 'putenv', 'rawurlencode', 'readdir', 'readfile',
+    'register_shutdown_function', 'rename', 'reset', 'rewind', 'rtrim', 'serialize', 'session_cache_limiter',
+    'session_destroy', 'session_id', 'session_save_path', 'session_start', 'session_write_close', 'set_error_handler',
+    'sha1', 'shell_exec', 'sort', 'sprintf', 'str_repeat', 'str_replace', 'stream_select', 'stream_set_blocking',
+    'stripslashes', 'strlen', 'strpos', 'strrev', 'strspn', 'strstr', 'strtolower', 'strtotime', 'strtoupper', 'strtr',
+    'substr', 'substr_count', 'symlink', 'time', 'touch', 'trim', 'ucfirst', 'umask', 'unlink', 'unserialize',
+    'urldecode', 'urlencode', 'usleep', 'usort');
 // Only behind function_exists() of the same name, in the same function.
 $guarded = array('error_get_last', 'fsync', 'get_magic_quotes_gpc', 'password_hash');
 

@@ -7,10 +7,11 @@ include 'scripted_platform.inc';
 // By number: the bit of signal N is N - 1, and the lowest bits stand last.
 function blocked_signals($status) {
   preg_match('/^SigBlk:\s*(\w+)$/m', $status, $mask);
+  $digits = strrev($mask[1]);
   $signals = array();
-  foreach (str_split(strrev($mask[1])) as $position => $digit) {
+  for ($position = 0; $position < strlen($digits); ++$position) {
     for ($bit = 0; $bit < 4; ++$bit) {
-      if (hexdec($digit) & (1 << $bit)) $signals[] = 4 * $position + $bit + 1;
+      if (hexdec(substr($digits, $position, 1)) & (1 << $bit)) $signals[] = 4 * $position + $bit + 1;
     }
   }
   return $signals;
