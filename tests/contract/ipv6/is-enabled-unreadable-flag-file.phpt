@@ -9,8 +9,8 @@ chmod(IPV6_ENABLED_FILE, 0);
 chmod(IPV6_DHCP_FILE, 0);
 append_to(platform_file('unprivileged.php'),
           '<?php include "scripted_platform.inc"; show(is_ipv6_enabled()); show(is_ipv6_dhcp_enabled()); show_transcript();');
-echo shell_exec('setpriv --inh-caps=-all --bounding-set=-all ' . getenv('SCRIPTED_PLATFORM_PHP') . ' -n -d extension=' .
-                getenv('SCRIPTED_PLATFORM_MODULE') . ' -d include_path=' . getenv('SCRIPTED_PLATFORM') . ' ' . platform_file('unprivileged.php'));
+echo shell_exec('setpriv --inh-caps=-all --bounding-set=-all ' . getenv('SCRIPTED_PLATFORM_PHP') .
+                ' -d include_path=' . getenv('SCRIPTED_PLATFORM') . ' ' . platform_file('unprivileged.php'));
 --EXPECT--
 false
 false

@@ -6,8 +6,7 @@ development
 <?php
 include 'scripted_platform.inc';
 append_to(platform_file('information.php'), '<?php phpinfo(INFO_MODULES);');
-$page = shell_exec(getenv('SCRIPTED_PLATFORM_CGI') .
-                   ' -q -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' ' . platform_file('information.php'));
+$page = shell_exec(getenv('SCRIPTED_PLATFORM_CGI') . ' -q ' . platform_file('information.php'));
 preg_match('|<h2>.*>network</a></h2>\s*(.*?)<h2>|s', $page, $block);
 $tags = preg_split('/(<[^>]*>)\s*/', trim($block[1]), -1, PREG_SPLIT_DELIM_CAPTURE | PREG_SPLIT_NO_EMPTY);
 foreach ($tags as $tag) {

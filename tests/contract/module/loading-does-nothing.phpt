@@ -4,7 +4,7 @@ Loading the module and starting and ending a request leave no trace and ask noth
 <?php
 include 'scripted_platform.inc';
 echo shell_exec('LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' . getenv('SCRIPTED_PLATFORM_PHP') .
-                ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' -r "echo 1;" 2>&1'), "\n";
+                ' -r "echo 1;" 2>&1'), "\n";
 show_transcript();
 --EXPECT--
 1

@@ -8,7 +8,7 @@ append_to(platform_file('ask.php'), '<?php echo get_network_hostname(), "\n"; de
 // By a port, in a network of its own: it is the only way that every engine's FastCGI program has.
 append_to(platform_file('requests.sh'), '
 ip link set lo up
-LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so $SCRIPTED_PLATFORM_CGI -n -d extension=$SCRIPTED_PLATFORM_MODULE -b 9000 &
+LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so $SCRIPTED_PLATFORM_CGI -b 9000 &
 export SCRIPT_FILENAME=' . platform_file('ask.php') . ' REQUEST_METHOD=GET
 tries=0
 while [ $tries -lt 1000 ] && ! cgi-fcgi -bind -connect 127.0.0.1:9000 >/dev/null 2>&1; do sleep 0.01; tries=$((tries + 1)); done

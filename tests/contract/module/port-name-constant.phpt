@@ -4,7 +4,7 @@ The name of the primary port is a platform text that is built when the module is
 <?php
 include 'scripted_platform.inc';
 echo shell_exec('SCRIPTED_PLATFORM_SHOWS_TEXTS=1 LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' .
-                getenv('SCRIPTED_PLATFORM_PHP') . ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' -r "echo \'page\', PHP_EOL;" 2>&1');
+                getenv('SCRIPTED_PLATFORM_PHP') . ' -r "echo \'page\', chr(10);" 2>&1');
 --EXPECT--
 text "Primary Ethernet Connector" built
 page

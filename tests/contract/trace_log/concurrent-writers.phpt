@@ -11,7 +11,7 @@ for ($i = 0; $i < 8; ++$i) {
   $words = array(rawurlencode(IPV4 . '-g host'), exits(0), str_repeat(chr(ord('a') + $i), 5000));
   append_to(platform_file("of$i/answers"), implode(' ', $words) . "\n");
   $command = 'SCRIPTED_PLATFORM=' . platform_file("of$i") . ' LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' .
-             getenv('SCRIPTED_PLATFORM_PHP') . ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' ' . platform_file('ask.php');
+             getenv('SCRIPTED_PLATFORM_PHP') . ' ' . platform_file('ask.php');
   $processes[] = popen("$command 2>/dev/null", 'r');
 }
 for ($i = 0; $i < 8; ++$i) pclose($processes[$i]); // not of a copy: that would not wait in every engine

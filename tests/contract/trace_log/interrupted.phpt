@@ -7,7 +7,7 @@ answer(IPV4 . '-g host', exits(0), 'library');
 append_to(platform_file('ask.php'), '<?php get_network_hostname();');
 shell_exec('strace -f -o ' . platform_file('calls') . ' -P $(readlink ' . TRACE_LOG . ') -e trace=write -e inject=write:error=EINTR:when=1..2 ' .
            '-E LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' . getenv('SCRIPTED_PLATFORM_PHP') .
-           ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' ' . platform_file('ask.php') . ' 2>/dev/null');
+           ' ' . platform_file('ask.php') . ' 2>/dev/null');
 echo count(preg_grep('/EINTR.*INJECTED/', file(platform_file('calls')))), " interrupted\n";
 show_lines('/^TRACE/');
 --EXPECT--

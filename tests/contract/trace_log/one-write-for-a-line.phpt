@@ -7,7 +7,7 @@ answer(IPV4 . '-g host', exits(0), 'library');
 append_to(platform_file('ask.php'), '<?php get_network_hostname();');
 shell_exec('strace -f -o ' . platform_file('calls') . ' -e trace=openat,open,write,writev,pwrite64,close,fsync ' .
            '-E LD_PRELOAD=' . dirname(getenv('SCRIPTED_PLATFORM_MODULE')) . '/libdovan_util.so ' . getenv('SCRIPTED_PLATFORM_PHP') .
-           ' -n -d extension=' . getenv('SCRIPTED_PLATFORM_MODULE') . ' ' . platform_file('ask.php') . ' 2>/dev/null');
+           ' ' . platform_file('ask.php') . ' 2>/dev/null');
 $descriptor = null;
 foreach (file(platform_file('calls')) as $call) {
   if (preg_match('/open.*php_extension\.log", ([A-Z_|]+).* = (\d+)/', $call, $parts)) {
