@@ -4,11 +4,11 @@
 package_debian() {
   local file
   [[ $# == 0 ]] || fail "$STATUS_USAGE" 'Options for CMake go with ./package device.'
-  prepare "$CHECKOUT" for-debian || exit
-  make_work_folder
-  # A build of before there were packages does not know them.
-  must "$STATUS_PREPARE" 'The build does not describe the packages' cmake -S "$CHECKOUT" -B "$CHECKOUT/build"
-  must "$STATUS_STATE" 'The packages cannot be made' make_packages
+  # What is built meanwhile would be packed half written.
+  prepare_and_hold "$CHECKOUT" for-debian || exit
+  make_work_folder {build_lock}>&-
+  must "$STATUS_STATE" 'The packages cannot be made' make_packages {build_lock}>&-
+  let_others_build
   for file in "$WORK_FOLDER"/*.deb; do
     must "$STATUS_STATE" 'A package cannot be put in place' mv -f "$file" "$PACKAGES"
     echo "$PACKAGES/${file##*/}"
