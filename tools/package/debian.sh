@@ -20,5 +20,5 @@ make_packages() (
   umask 022
   SOURCE_DATE_EPOCH=$(time_of_files)
   export SOURCE_DATE_EPOCH
-  cd "$WORK_FOLDER" && cpack --config "$CHECKOUT/build/CPackConfig.cmake" -B "$WORK_FOLDER/cpack" && mv cpack/*.deb .
+  cd "$WORK_FOLDER" && cpack --config "$CHECKOUT/build/CPackConfig.cmake" -B "$PWD/cpack" && mv cpack/*.deb .
 )
