@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154 # build_lock, which prepare.sh sets
 # The Debian packages, for the interpreter of this machine. To be sourced by ./package, which sets CHECKOUT and PACKAGES.
 
 package_debian() {

@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154 # build_lock, which prepare.sh sets
 # The archive for a device: the module, the pages with what they ask of the device, a program that looks at the device,
 # and checksums. To be sourced by ./package, which sets CHECKOUT, PACKAGES and options.
 
