@@ -7,6 +7,8 @@ package_debian() {
   # What is built meanwhile would be packed half written.
   prepare_and_hold "$CHECKOUT" for-debian || exit
   make_work_folder {build_lock}>&-
+  [[ -e $CHECKOUT/build/CPackConfig.cmake ]] ||
+    must "$STATUS_PREPARE" 'The build does not describe the packages' cmake -S "$CHECKOUT" -B "$CHECKOUT/build" {build_lock}>&-
   must "$STATUS_STATE" 'The packages cannot be made' make_packages {build_lock}>&-
   let_others_build
   for file in "$WORK_FOLDER"/*.deb; do
