@@ -45,6 +45,9 @@ foreach(component IN ITEMS php-network network-appliance)
   install(FILES ${packaging}/copyright DESTINATION share/doc/${component} COMPONENT ${component})
 endforeach()
 install_compressed(${packaging}/network-appliance.1 network-appliance.1 share/man/man1 network-appliance)
+# What is read when the build is configured: it is configured again when one of them has changed.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+  ${packaging}/network-appliance.1 ${CMAKE_SOURCE_DIR}/tools/packages-to-run)
 
 # What runs in the appliance: the packages of tools/packages-to-run, but those that it is built with.
 set(build_packages cmake g++ libsqlite3-dev musl-tools ninja-build php-dev)

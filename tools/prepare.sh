@@ -9,6 +9,9 @@
 #
 # What was built is in CHECKOUT/build, and what is for a device in CHECKOUT/build-powerpc. Each returns one of the
 # launcher's exit statuses, after it has said on standard error why.
+#
+#   prepare_and_hold ...         the same, and then nobody else builds there until this process ends, or calls
+#   let_others_build             the descriptor for that is $build_lock: what is started meanwhile is to have it closed
 
 # shellcheck source=wait_for_lock.sh
 source "${BASH_SOURCE[0]%/*}/wait_for_lock.sh"
@@ -18,7 +21,11 @@ source "${BASH_SOURCE[0]%/*}/../appliance/launcher/exit_statuses.sh"
 # A plain user's has no place for what manages networks and runs services.
 PATH=$PATH:/usr/sbin:/sbin
 
-prepare() {
+prepare() { prepare_and_hold "$@" && let_others_build; }
+
+let_others_build() { exec {build_lock}>&-; }
+
+prepare_and_hold() {
   local checkout=$1 purpose=$2 reason lock_file=$1/build/.prepare
   local -a cmake_options=("${@:3}")
   # For who owns it alone: whoever can read it can hold it.
@@ -26,11 +33,12 @@ prepare() {
     echo "The folder $checkout/build cannot be written: ${reason##*: }. Copy the checkout to a folder that you may write to." >&2
     return "$STATUS_STATE"
   }
-  (
-    # A second one in the same checkout finds everything done.
-    exec {lock}>"$lock_file" && wait_for_lock "$lock" "builds in $checkout" || exit
-    install_missing_packages "$checkout" "$purpose" {lock}>&- && build "$checkout" "$purpose" {lock}>&-
-  ) || return "$STATUS_PREPARE"
+  exec {build_lock}>"$lock_file" || return "$STATUS_PREPARE"
+  # A second one in the same checkout finds everything done.
+  wait_for_lock "$build_lock" "builds in $checkout" &&
+    install_missing_packages "$checkout" "$purpose" {build_lock}>&- && build "$checkout" "$purpose" {build_lock}>&- && return
+  let_others_build
+  return "$STATUS_PREPARE"
 }
 
 install_missing_packages() {

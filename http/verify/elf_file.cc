@@ -133,19 +133,28 @@ class Reader {
     }
   }
 
+  // Each record says how far the next one is, and the last one 0: the loader believes no count either. In a
+  // damaged file they may go round for ever; a whole one has no more than fit into its section.
   void readVersions(const Section& section, const Section& texts) {
+    if (!content_.has(section.sh_offset, section.sh_size)) return;
+    std::size_t left = section.sh_size / sizeof(ElfW(Verneed));
     std::size_t offset = section.sh_offset;
-    for (unsigned int library = 0; library < section.sh_info; ++library) {
+    for (; left > 0; --left) {
       const auto needs = content_.records<ElfW(Verneed)>(offset, 1);
       if (needs.empty()) return;
-      std::size_t place = offset + needs[0].vn_aux;
-      for (unsigned int index = 0; index < needs[0].vn_cnt; ++index) {
-        const auto version = content_.records<ElfW(Vernaux)>(place, 1);
-        if (version.empty()) return;
-        versions_[version[0].vna_other] = content_.text(texts, version[0].vna_name);
-        place += version[0].vna_next;
-      }
+      readVersionsOfLibrary(offset + needs[0].vn_aux, texts, left);
+      if (needs[0].vn_next == 0 || left == 0) return;
       offset += needs[0].vn_next;
+    }
+  }
+
+  void readVersionsOfLibrary(std::size_t place, const Section& texts, std::size_t& left) {
+    for (; left > 0; --left) {
+      const auto version = content_.records<ElfW(Vernaux)>(place, 1);
+      if (version.empty()) return;
+      versions_[version[0].vna_other] = content_.text(texts, version[0].vna_name);
+      if (version[0].vna_next == 0) return;
+      place += version[0].vna_next;
     }
   }
 

@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # Roots with a Debian in them, beside which this machine's stays as it is. To be sourced by bash, as root, where CHECKOUT is set.
 #
+#   roots_have PROGRAM...            whether this machine has them; says which one it lacks
 #   roots_make_base RELEASE          makes $ROOTS/base.RELEASE with debootstrap, unless it is there: what Debian itself cannot do without
 #   roots_make RELEASE ROOT          makes ROOT as a copy of it that finds other machines, and believes them, as this one does
 #   roots_do ROOT FOLDER COMMAND...  does it in the FOLDER there, with processes, mounts and a host name of its own, which end
@@ -11,6 +12,13 @@ ROOTS=$CHECKOUT/build/tests/machines
 declare -A ROOTS_NAMES=([12]=bookworm [13]=trixie)
 ROOTS_BASE_PACKAGES=ca-certificates
 ROOTS_BELIEVED=/etc/ssl/certs/of-its-maker.pem
+
+roots_have() {
+  local program
+  for program; do
+    command -v "$program" >/dev/null || { echo "$program is missing: install the Debian package of that name." >&2 && return 1; }
+  done
+}
 
 roots_make_base() {
   local base=$ROOTS/base.$1 name=${ROOTS_NAMES[$1]} mirror
@@ -24,7 +32,7 @@ roots_make_base() {
 # _roots_sources NAME: where packages of the release of that name come from, the release first, then what mends it since.
 _roots_sources() {
   # shellcheck disable=SC2016 # apt's own variables
-  apt-get indextargets --format '$(REPO_URI) $(RELEASE)' 'Created-By: Packages' 'Component: main' |
+  apt-get indextargets --format '$(REPO_URI) $(RELEASE)' 'Created-By: Packages' 'Origin: Debian' 'Component: main' |
     awk -v name="$1" '{ mends = index($2, "-") ? substr($2, index($2, "-")) : ""; print (mends != ""), "deb", $1, name mends, "main" }' |
     sort -u | cut -d ' ' -f 2-
 }

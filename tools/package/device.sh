@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154 # build_lock, which prepare.sh sets
 # The archive for a device: the module, the pages with what they ask of the device, a program that looks at the device,
 # and checksums. To be sourced by ./package, which sets CHECKOUT, PACKAGES and options.
 
@@ -19,10 +19,12 @@ package_device() {
   local version name work
   version=$(sed -n 's/^project(network VERSION \([0-9.]*\) .*/\1/p' "$CHECKOUT/CMakeLists.txt")
   name=network-$version-powerpc
-  prepare "$CHECKOUT" for-device "$@" || exit
-  make_work_folder
+  # What is built meanwhile would be copied half written.
+  prepare_and_hold "$CHECKOUT" for-device "$@" || exit
+  make_work_folder {build_lock}>&-
   work=$WORK_FOLDER
-  must "$STATUS_STATE" 'The package cannot be put together' collect_device_files "$work/$name"
+  must "$STATUS_STATE" 'The package cannot be put together' collect_device_files "$work/$name" {build_lock}>&-
+  let_others_build
   must "$STATUS_STATE" 'The checksums cannot be written' write_checksums "$work/$name"
   must "$STATUS_STATE" 'The archive cannot be written' write_archive "$work" "$name"
   # The one of before stays until the new one is whole.

@@ -37,8 +37,16 @@ case $status in
 "$OUT_OF_TIME") exit "$SILENT" ;;
 *) fail "the name cannot be looked up: $said" ;;
 esac
-if [ "$kind" = address ]; then
-  printf '%s\n' "$said" | awk '{ for (i = 2; i <= NF; i++) print $i }'
-else
-  printf '%s\n' "$said" | awk '!seen[$1]++ { print $1 }'
-fi
+# Each line has the address first, then names; an address stands there once for each kind of connection.
+printf '%s\n' "$said" | {
+  printed=' '
+  while read -r address names; do
+    if [ "$kind" = address ]; then
+      for name in $names; do printf '%s\n' "$name"; done
+    else
+      case $printed in *" $address "*) continue ;; esac
+      printed="$printed$address "
+      printf '%s\n' "$address"
+    fi
+  done
+}
