@@ -2,10 +2,7 @@
 // calls.php FUNCTION TIMES: calls the function so many times and prints how many nanoseconds one call took. Besides the
 // module's functions there are those below, which do the same in plain PHP.
 
-if (!defined('TRACE_LOG')) {
-    define('TRACE_LOG', '/home/embedded/library/HTTPService/lighttpd/logs/php_extension.log');
-    define('DATABASE', '/home/embedded/library/CoreService/dat/management.db');
-}
+require_once __DIR__ . '/helpers.php';
 
 // As a page would do it that has only PHP: the same lines of the trace, the same look for the file.
 function plain_trace($message, $extra = '')
