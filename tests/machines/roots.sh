@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Roots with a Debian in them, beside which this machine's stays as it is. To be sourced by bash, as root, where CHECKOUT is set.
 #
-#   roots_have PROGRAM...            whether this machine has them; says which one it lacks
+#   roots_have PROGRAM...            whether this machine has them, and certificates; says what it lacks
 #   roots_make_base RELEASE          makes $ROOTS/base.RELEASE with debootstrap, unless it is there: what Debian itself cannot do without
 #   roots_make RELEASE ROOT          makes ROOT as a copy of it that finds other machines, and believes them, as this one does
 #   roots_do ROOT FOLDER COMMAND...  does it in the FOLDER there, with processes, mounts and a host name of its own, which end
@@ -11,20 +11,23 @@
 ROOTS=$CHECKOUT/build/tests/machines
 declare -A ROOTS_NAMES=([12]=bookworm [13]=trixie)
 ROOTS_BASE_PACKAGES=ca-certificates
+ROOTS_CERTIFICATES=/etc/ssl/certs/ca-certificates.crt # of this machine
 ROOTS_BELIEVED=/etc/ssl/certs/of-its-maker.pem
 
 roots_have() {
-  local program
+  local program missing=''
+  [[ -e $ROOTS_CERTIFICATES ]] || missing=' ca-certificates'
   for program; do
-    command -v "$program" >/dev/null || { echo "$program is missing: install the Debian package of that name." >&2 && return 1; }
+    command -v "$program" >/dev/null || missing+=" $program"
   done
+  [[ -z $missing ]] || { echo "Something is missing here: install the Debian packages of these names:$missing." >&2 && return 1; }
 }
 
 roots_make_base() {
   local base=$ROOTS/base.$1 name=${ROOTS_NAMES[$1]} mirror
   [[ ! -d $base ]] || return 0
   read -r _ mirror _ < <(_roots_sources "$name")
-  [[ -n $mirror ]] || { echo 'apt names no place that packages come from' && return 1; }
+  [[ -n $mirror ]] || { echo 'apt knows no place that packages come from: run apt-get update.' && return 1; }
   roots_remove "$base.new"
   debootstrap --variant=minbase --include="$ROOTS_BASE_PACKAGES" "$name" "$base.new" "$mirror" && mv "$base.new" "$base"
 }
@@ -40,7 +43,7 @@ _roots_sources() {
 # There may be a proxy between this machine and others.
 roots_make() {
   cp --archive "$ROOTS/base.$1" "$2" && cp -L /etc/resolv.conf "$2/etc/resolv.conf" &&
-    cp -L /etc/ssl/certs/ca-certificates.crt "$2$ROOTS_BELIEVED" && rm -f "$2/etc/hostname" &&
+    cp -L "$ROOTS_CERTIFICATES" "$2$ROOTS_BELIEVED" && rm -f "$2/etc/hostname" &&
     _roots_sources "${ROOTS_NAMES[$1]}" >"$2/etc/apt/sources.list"
 }
 
