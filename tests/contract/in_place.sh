@@ -3,6 +3,9 @@
 # that can change nothing of it: what a test might replace or remove there the kernel refuses. To be sourced by bash behind
 # install.sh and with CHECKOUT set.
 
+# shellcheck source=../../tools/wait_for_lock.sh
+source "$CHECKOUT/tools/wait_for_lock.sh"
+
 PAGE_USER=65534
 AS_PAGE_USER=(setpriv --pdeathsig KILL --reuid="$PAGE_USER" --regid="$PAGE_USER" --clear-groups)
 # All that the tests and their platform have there: nothing of a machine's own.
@@ -17,7 +20,8 @@ COPY=/tmp/checkout
 in_place_begin() {
   local place said
   [[ $EUID == 0 ]] || { echo 'and only root could have them run on the machine itself' && return 1; }
-  { exec {in_place_lock}<"${EMBEDDED%/*}" && flock "$in_place_lock"; } || { echo "and ${EMBEDDED%/*} cannot be locked" && return 1; }
+  { exec {in_place_lock}<"${EMBEDDED%/*}" && wait_for_lock "$in_place_lock" 'has contract tests run on the machine itself'; } ||
+    { echo "and ${EMBEDDED%/*} cannot be locked" && return 1; }
   for place in "${PLACES[@]}" "$COPY"; do
     [[ ! -e $place && ! -L $place ]] || { echo "and $place, which they use on the machine itself, is there already" && return 1; }
   done
