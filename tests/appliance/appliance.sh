@@ -7,12 +7,11 @@ source "${BASH_SOURCE[0]%/*}/../../appliance/launcher/exit_statuses.sh"
 # shellcheck source=../shell/shell_tests.sh
 source "${BASH_SOURCE[0]%/*}/../shell/shell_tests.sh"
 
+# The suite `package` may be packing beside this one; that somebody builds is no news here.
+export QUIET_WAIT=600
+
 # The launcher itself: what ./run adds has been done before the suite.
 appliance() { "$CHECKOUT/appliance/launcher/launch" --build "$BUILD" "$@"; }
-
-free_port() {
-  php -n -r '$s = stream_socket_server("tcp://127.0.0.1:0"); echo substr(strrchr(stream_socket_get_name($s, false), ":"), 1);'
-}
 
 # start OPTION...: starts an appliance in the background as $launcher, and returns when it has said where it
 # is, which is then in $url; what it has said before is in $greeting. Its processes carry the mark $mark in their environment.

@@ -35,6 +35,12 @@
 #   await SECONDS COMMAND...                the command succeeds within that time
 #   fail LINE...                            whatever else is wrong
 #
+# For what is to be given to an appliance, or put where a program is looked for:
+#
+#   free_port                               prints a port for --port at which nobody is, nor at the one for HTTPS beside it
+#   watched PROGRAM FILE                    prints a folder with a PROGRAM that first adds to the FILE whether the build was "held"
+#                                           or "free" when it was called; $BUILD says which build
+#
 # $CHECKOUT, $BUILD, and $WORK, a folder of the test's own, are there. What is to be known of the device that a test
 # is in stands in device.sh; what starts appliances in ../appliance/appliance.sh.
 
@@ -151,6 +157,23 @@ await() {
 run_apart() {
   "$@" >"$WORK/printed" 2>"$WORK/said" </dev/null
   ended=$?
+}
+
+# Below those that the kernel gives to whoever connects somewhere.
+free_port() {
+  # shellcheck disable=SC2016 # the interpreter's own
+  php -n -r 'do {
+      $port = random_int(10000, 32000);
+      $http = @stream_socket_server("tcp://127.0.0.1:$port");
+      $https = @stream_socket_server("tcp://127.0.0.1:" . ($port + 443 - 80));
+    } while (!$http || !$https);
+    echo $port;'
+}
+
+watched() {
+  local folder=$WORK/watched.$1
+  mkdir "$folder" && printf '#!/bin/bash\nif flock --nonblock "%s/.prepare" true; then echo free; else echo held; fi >>"%s"\nexec "%s" "$@"\n' \
+    "$BUILD" "$2" "$(command -v "$1")" >"$folder/$1" && chmod +x "$folder/$1" && echo "$folder"
 }
 
 # A command's first words, to be shown.

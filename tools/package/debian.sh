@@ -7,6 +7,7 @@ package_debian() {
   # What is built meanwhile would be packed half written.
   prepare_and_hold "$CHECKOUT" for-debian || exit
   make_work_folder {build_lock}>&-
+  decide_time_of_files
   [[ -e $CHECKOUT/build/CPackConfig.cmake ]] ||
     must "$STATUS_PREPARE" 'The build does not describe the packages' cmake -S "$CHECKOUT" -B "$CHECKOUT/build" {build_lock}>&-
   must "$STATUS_STATE" 'The packages cannot be made' make_packages {build_lock}>&-
@@ -20,7 +21,5 @@ package_debian() {
 # Files that nobody but the maker may read would be so on other machines.
 make_packages() (
   umask 022
-  SOURCE_DATE_EPOCH=$(time_of_files)
-  export SOURCE_DATE_EPOCH
   cd "$WORK_FOLDER" && cpack --config "$CHECKOUT/build/CPackConfig.cmake" -B "$PWD/cpack" && mv cpack/*.deb .
 )

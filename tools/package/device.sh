@@ -26,6 +26,7 @@ package_device() {
   must "$STATUS_STATE" 'The package cannot be put together' collect_device_files "$work/$name" {build_lock}>&-
   let_others_build
   must "$STATUS_STATE" 'The checksums cannot be written' write_checksums "$work/$name"
+  decide_time_of_files
   must "$STATUS_STATE" 'The archive cannot be written' write_archive "$work" "$name"
   # The one of before stays until the new one is whole.
   must "$STATUS_STATE" 'The archive cannot be put in place' mv -f "$work/$name.tar.gz" "$PACKAGES/$name.tar.gz"
@@ -47,20 +48,29 @@ make_work_folder() {
 
 # collect_device_files FOLDER: below "files" is what goes to the same place on the device.
 collect_device_files() {
-  local folder=$1 files=$1/files strip part
+  local folder=$1 files=$1/files part
   local -a scripts=("${DEVICE_SCRIPTS[@]}") programs=()
-  strip=$(sed -n 's/^CMAKE_STRIP:FILEPATH=//p' "$DEVICE_BUILD/CMakeCache.txt")
   ! is_built_with_ours || { programs=("$DEVICE_BUILD/$JUDGE") && scripts+=("${ASK_JUDGE[@]}"); }
   mapfile -t scripts < <(with_what_they_source "${scripts[@]}")
   mkdir -p "$folder" "$files$APP_MANAGER/bin" "$files$WEB_SERVER" &&
     install -m 644 "$CHECKOUT/tools/package/device-README" "$folder/README" &&
     install -m 755 "${scripts[@]/#/$CHECKOUT/appliance/device/scripts/}" "$files$APP_MANAGER/bin" &&
-    install --strip --strip-program "${strip:-strip}" -m 644 "$DEVICE_BUILD/network.so" "$folder" &&
-    install --strip --strip-program "${strip:-strip}" -m 755 "$DEVICE_BUILD/verify" "$folder" || return
-  [[ ${#programs[@]} == 0 ]] ||
-    install --strip --strip-program "${strip:-strip}" -m 755 "${programs[@]}" "$files$APP_MANAGER/bin" || return
+    install_stripped 644 "$folder" "$DEVICE_BUILD/network.so" && install_stripped 755 "$folder" "$DEVICE_BUILD/verify" &&
+    install_stripped 755 "$files$APP_MANAGER/bin" ${programs[@]+"${programs[@]}"} || return
   for part in "${PAGES_FOLDERS[@]}"; do
     cp -R "$CHECKOUT/http/pages/$part" "$files$WEB_SERVER" || return
+  done
+}
+
+# install_stripped MODE FOLDER FILE...
+install_stripped() {
+  local file strip said
+  strip=$(sed -n 's/^CMAKE_STRIP:[A-Z]*=//p' "$DEVICE_BUILD/CMakeCache.txt")
+  for file in "${@:3}"; do
+    install -m "$1" "$file" "$2" || return
+    said=$("${strip:-strip}" "$2/${file##*/}" 2>&1) && continue
+    echo "${strip:-strip} does not strip ${file##*/}${said:+ (${said##*: })}; -DCMAKE_STRIP=FILE names the one that belongs to the compiler"
+    return 1
   done
 }
 
@@ -93,13 +103,15 @@ write_checksums() {
 write_archive() {
   find "$1/$2" -type d -exec chmod 755 {} + && find "$1/$2" -type f ! -perm -u+x -exec chmod 644 {} + &&
     tar --create --file "$1/$2.tar" --directory "$1" --format ustar --sort name --owner 0 --group 0 --numeric-owner \
-      --mtime "@$(time_of_files)" "$2" &&
+      --mtime "@$SOURCE_DATE_EPOCH" "$2" &&
     gzip --no-name --best "$1/$2.tar"
 }
 
-# The time that all files get: that of the last change that was committed, where that can be told.
-time_of_files() {
-  local seconds=${SOURCE_DATE_EPOCH-}
-  [[ $seconds =~ ^[0-9]+$ ]] || seconds=$(git -C "$CHECKOUT" log -1 --format=%ct 2>/dev/null) || seconds=946684800
-  echo "$seconds"
+# Sees to it that SOURCE_DATE_EPOCH is the time that all files get: that of the last change that was committed, unless it says one.
+decide_time_of_files() {
+  export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH-}
+  [[ ! $SOURCE_DATE_EPOCH =~ ^[0-9]+$ ]] || return 0
+  SOURCE_DATE_EPOCH=$(git -C "$CHECKOUT" log -1 --format=%ct 2>/dev/null) && return
+  SOURCE_DATE_EPOCH=946684800
+  echo 'git does not tell when the checkout was last changed: all files get the first day of 2000. SOURCE_DATE_EPOCH names another time.' >&2
 }
