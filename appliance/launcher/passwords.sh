@@ -27,7 +27,8 @@ hand_over_passwords() {
     [[ -t 1 ]] || rm -f "$file"
   elif [[ -t 1 ]]; then
     printf '%s' "$text"
-  elif { printf "%-${PASSWORDS_ROOM}s\n" "$text" 1<>"$file"; } 2>/dev/null; then
+  elif { printf '%s' "$text" 1<>"$file"; } 2>/dev/null; then
+    truncate --size "$(printf '%s' "$text" | wc -c)" "$file" # what room was not needed
     echo "The passwords are in $shown, for you alone to read: read it, then delete it."
   else
     return 1
