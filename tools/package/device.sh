@@ -4,6 +4,8 @@
 
 # shellcheck source=../../appliance/launcher/install.sh
 source "$CHECKOUT/appliance/launcher/install.sh"
+# shellcheck source=../version.sh
+source "$CHECKOUT/tools/version.sh"
 
 DEVICE_BUILD=$CHECKOUT/build-powerpc
 # Scripts of the device that the pages call, that its start calls, and that somebody on its shell does. What those source goes
@@ -16,9 +18,8 @@ ASK_JUDGE=(lookUpName.sh pingAddress.sh)
 
 # package_device -DOPTION=VALUE...
 package_device() {
-  local version name work
-  version=$(sed -n 's/^project(network VERSION \([0-9.]*\) .*/\1/p' "$CHECKOUT/CMakeLists.txt")
-  name=network-$version-powerpc
+  local name work
+  name=network-$NETWORK_VERSION-powerpc
   # What is built meanwhile would be copied half written.
   prepare_and_hold "$CHECKOUT" for-device "$@" || exit
   make_work_folder {build_lock}>&-
