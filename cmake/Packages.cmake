@@ -44,7 +44,8 @@ foreach(component IN ITEMS php-network network-appliance)
   install_compressed(${CMAKE_BINARY_DIR}/packaging/${component}.changelog changelog share/doc/${component} ${component})
   install(FILES ${packaging}/copyright DESTINATION share/doc/${component} COMPONENT ${component})
 endforeach()
-install_compressed(${packaging}/network-appliance.1 network-appliance.1 share/man/man1 network-appliance)
+configure_file(${packaging}/network-appliance.1 ${CMAKE_BINARY_DIR}/packaging/network-appliance.1 @ONLY)
+install_compressed(${CMAKE_BINARY_DIR}/packaging/network-appliance.1 network-appliance.1 share/man/man1 network-appliance)
 # What is read when the build is configured: it is configured again when one of them has changed.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
   ${packaging}/network-appliance.1 ${CMAKE_SOURCE_DIR}/tools/packages-to-run)

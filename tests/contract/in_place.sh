@@ -14,14 +14,14 @@ PLACES_OF_PAGE=("$EMBEDDED" /tmp/{module,scripted_platform,kept})
 # The checkout may lie in a folder, such as /root, that only its owner may enter. What the user needs of it is here.
 COPY=/tmp/checkout
 
-# in_place_begin PATH...: waits for another one that does the same, then sees to it that the places are empty when this
+# in_place_begin PATH...: waits for another one that does the same, though not for ever, then sees to it that the places are empty when this
 # process has ended, however, and copies there what is named and of the checkout. Returns 1 after a reason on standard output
 # when they cannot be used.
 in_place_begin() {
   local place said
   [[ $EUID == 0 ]] || { echo 'and only root could have them run on the machine itself' && return 1; }
-  { exec {in_place_lock}<"${EMBEDDED%/*}" && wait_for_lock "$in_place_lock" 'has contract tests run on the machine itself'; } ||
-    { echo "and ${EMBEDDED%/*} cannot be locked" && return 1; }
+  exec {in_place_lock}<"${EMBEDDED%/*}" || { echo "and ${EMBEDDED%/*} cannot be locked" && return 1; }
+  wait_for_lock "$in_place_lock" 'has contract tests run on the machine itself' || exit 2
   for place in "${PLACES[@]}" "$COPY"; do
     [[ ! -e $place && ! -L $place ]] || { echo "and $place, which they use on the machine itself, is there already" && return 1; }
   done

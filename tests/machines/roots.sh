@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Roots with a Debian in them, beside which this machine's stays as it is. To be sourced by bash, as root, where CHECKOUT is set.
 #
-#   roots_have PROGRAM...            whether this machine has them, and certificates; says what it lacks
+#   roots_have PROGRAM[:PACKAGE]...  whether this machine has them, and certificates; says which packages it lacks
 #   roots_make_base RELEASE          makes $ROOTS/base.RELEASE with debootstrap, unless it is there: what Debian itself cannot do without
 #   roots_make RELEASE ROOT          makes ROOT as a copy of it that finds other machines, and believes them, as this one does
 #   roots_do ROOT FOLDER COMMAND...  does it in the FOLDER there, with processes, mounts and a host name of its own, which end
@@ -18,7 +18,7 @@ roots_have() {
   local program missing=''
   [[ -e $ROOTS_CERTIFICATES ]] || missing=' ca-certificates'
   for program; do
-    command -v "$program" >/dev/null || missing+=" $program"
+    command -v "${program%:*}" >/dev/null || missing+=" ${program#*:}"
   done
   [[ -z $missing ]] || { echo "Something is missing here: install the Debian packages of these names:$missing." >&2 && return 1; }
 }
