@@ -5,7 +5,8 @@
 #   run_test_files FOLDER AT_ONCE SECONDS [NAME...]
 #       Runs FOLDER/NAME.test, or all that are in the folder, AT_ONCE of them at the same time, the largest first, each
 #       for at most SECONDS. Shows what they say, file after file, and ends with the line of counts.sh; returns 1 when
-#       one failed, or when there was nothing at all. What each has said stays in build/tests/logs/SUITE/. Where the machine allows no appliance only those
+#       one failed, or when there was nothing at all. What each has said stays in build/tests/logs/SUITE/, or in TEST_LOGS/SUITE/: a test that calls a
+#       suite names its own folder, for that suite may be running beside it. Where the machine allows no appliance only those
 #       are run that say with a line of their own, "# It needs no appliance.", that they can.
 #
 # A suite whose files are no executables sets what they are called and what runs them before that.
@@ -18,7 +19,7 @@ source "${BASH_SOURCE[0]%/*}/namespaces.sh"
 run_test_files() {
   local folder=$1 at_once=$2 seconds=$3
   shift 3
-  local logs=${folder%/*/*}/build/tests/logs/${folder##*/} file running=0
+  local logs=${TEST_LOGS:-${folder%/*/*}/build/tests/logs}/${folder##*/} file running=0
   local -a files
   mapfile -t files < <(ls -S "$folder"/*"$TEST_SUFFIX")
   if [[ $# -gt 0 ]]; then
