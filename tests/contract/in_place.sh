@@ -14,9 +14,9 @@ PLACES_OF_PAGE=("$EMBEDDED" /tmp/{module,scripted_platform,kept})
 # The checkout may lie in a folder, such as /root, that only its owner may enter. What the user needs of it is here.
 COPY=/tmp/checkout
 
-# in_place_begin PATH...: waits for another one that does the same, though not for ever, then sees to it that the places are empty when this
-# process has ended, however, and copies there what is named and of the checkout. Returns 1 after a reason on standard output
-# when they cannot be used.
+# in_place_begin PATH...: waits for another one that does the same, though not for ever, then sees to it that the places are
+# empty when this process has ended, however, and copies there what is named and of the checkout. Returns 1 after a reason on
+# standard output when they cannot be used; waiting in vain ends this process with 2.
 in_place_begin() {
   local place said
   [[ $EUID == 0 ]] || { echo 'and only root could have them run on the machine itself' && return 1; }

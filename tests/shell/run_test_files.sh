@@ -5,9 +5,10 @@
 #   run_test_files FOLDER AT_ONCE SECONDS [NAME...]
 #       Runs FOLDER/NAME.test, or all that are in the folder, AT_ONCE of them at the same time, the largest first, each
 #       for at most SECONDS. Shows what they say, file after file, and ends with the line of counts.sh; returns 1 when
-#       one failed, or when there was nothing at all. What each has said stays in build/tests/logs/SUITE/, or in TEST_LOGS/SUITE/: a test that calls a
-#       suite names its own folder, for that suite may be running beside it. Where the machine allows no appliance only those
-#       are run that say with a line of their own, "# It needs no appliance.", that they can.
+#       one failed, or when there was nothing at all. What each has said stays in build/tests/logs/SUITE/, or in
+#       TEST_LOGS/SUITE/: a test that calls a suite names its own folder, for that suite may be running beside it. Where the
+#       machine allows no appliance only those are run that say with a line of their own, "# It needs no appliance.", that they
+#       can.
 #
 # A suite whose files are no executables sets what they are called and what runs them before that.
 TEST_SUFFIX=.test
